@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "base/errors.h"
+
+namespace torvik {
+
+SubscriptOutOfRange::SubscriptOutOfRange(long subscript, long low, long high)
+    : RunTimeError("there is no entry number " + std::to_string(subscript) +
+                   (high < low ? std::string(" (the list is empty)")
+                               : " (the list runs from " + std::to_string(low) + " to " +
+                                     std::to_string(high) + ")")) {}
+
+FileError::FileError(const std::string& file, const std::string& cause, long line)
+    : RunTimeError(file + (line > 0 ? ", line " + std::to_string(line) : std::string()) + ": " +
+                   cause),
+      m_line(line) {}
+
+} // namespace torvik

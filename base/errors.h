@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Run-time errors: what can go wrong with numbers, subscripts and files. Each carries one
+// sentence that a teacher understands. They are thrown inside and caught by the error trap.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace torvik {
+
+// Base of every error that the error trap logs and reports.
+class RunTimeError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+class SubscriptOutOfRange : public RunTimeError {
+public:
+    SubscriptOutOfRange(long subscript, long low, long high);
+};
+
+class Overflow : public RunTimeError {
+public:
+    Overflow() : Overflow("a number is too large to be stored") {}
+    using RunTimeError::RunTimeError;
+};
+
+class DivisionByZero : public RunTimeError {
+public:
+    DivisionByZero() : RunTimeError("a number was divided by zero") {}
+};
+
+class InvalidCall : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
+
+// A file that cannot be read, written or understood. what() reads "FILE: cause" or
+// "FILE, line N: cause".
+class FileError : public RunTimeError {
+public:
+    FileError(const std::string& file, const std::string& cause, long line = 0);
+
+    long line() const { return m_line; } // 0 where the whole file is meant
+
+private:
+    long m_line;
+};
+
+} // namespace torvik

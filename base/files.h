@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// Files by UTF-8 names, and reading a whole file.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+std::filesystem::path pathFromUtf8(std::string_view name);
+std::string utf8FromPath(const std::filesystem::path& path);
+
+// The bytes of a file of at most `limit` bytes. Raises FileError where it cannot be opened, is a
+// folder, is larger, or cannot be read to its end.
+std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit);
+
+// The words of the last failed call of the system ("No space left on device").
+std::string systemErrorText();
+
+} // namespace torvik

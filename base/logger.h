@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The error logger: appends what happened to the program's log file and, for errors, tells the
+// user through the report that the program hands in (a message box, a line on standard error).
+// A log file that cannot be written is passed over: logging never stops the program.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace torvik {
+
+// What is logged. The texts of the settings "LogErrors", "LogTrace" and "LogInfo" switch on with
+// any number but 0; an empty text keeps the default. "LogExclude" lists procedures and modules,
+// separated by commas, whose traces and information are left out.
+struct LogSwitches {
+    bool errors = true;
+    bool trace = false;
+    bool info = false;
+    std::vector<std::string> exclude;
+
+    static LogSwitches fromTexts(std::string_view errors, std::string_view trace,
+                                 std::string_view info, std::string_view exclude);
+};
+
+class Logger {
+public:
+    // The whole message: "An error has occurred in ...", a line break, what went wrong.
+    using Report = std::function<void(const std::string& message)>;
+
+    // An empty path logs to no file.
+    explicit Logger(std::filesystem::path logFile = {}, Report report = {});
+
+    void setSwitches(LogSwitches switches) { m_switches = std::move(switches); }
+    void setReport(Report report) { m_report = std::move(report); }
+
+    // Logs the error and reports it to the user.
+    void reportError(std::string_view procedure, std::string_view module, std::string_view cause);
+    // Logs the error only, where the work goes on with a default.
+    void logError(std::string_view procedure, std::string_view module, std::string_view cause);
+    void trace(std::string_view procedure, std::string_view module);
+    void info(std::string_view procedure, std::string_view module, std::string_view text);
+
+    // "An error has occurred in PROCEDURE (MODULE)", a line break, and the cause as a sentence.
+    static std::string message(std::string_view procedure, std::string_view module,
+                               std::string_view cause);
+
+private:
+    bool excluded(std::string_view procedure, std::string_view module) const;
+    void append(std::string_view kind, std::string_view procedure, std::string_view module,
+                std::string_view text);
+
+    std::filesystem::path m_logFile;
+    Report m_report;
+    LogSwitches m_switches;
+};
+
+} // namespace torvik

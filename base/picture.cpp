@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "base/picture.h"
+
+#include "base/errors.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+
+namespace torvik {
+namespace {
+
+constexpr std::array<double, 4> powersOfTen{1.0, 10.0, 100.0, 1000.0};
+// Below 2^52 a double still has halves, and the digits fit a 64-bit integer.
+constexpr double halvesLimit = 4503599627370496.0;
+
+// value * power, for a value >= 0 and a product below halvesLimit, rounded half up on the exact
+// product: where the stored product falls on a half, its own rounding error decides.
+std::uint64_t roundedProduct(double value, double power) {
+    const double product = value * power;
+    auto whole = static_cast<std::uint64_t>(product);
+    const double fraction = product - static_cast<double>(whole);
+    if (fraction > 0.5 || (fraction == 0.5 && std::fma(value, power, -product) >= 0))
+        ++whole;
+    return whole;
+}
+
+char* putDigits(char* out, std::uint64_t value, int atLeast) {
+    std::array<char, 20> digits;
+    auto at = digits.end();
+    do {
+        *--at = static_cast<char>('0' + value % 10);
+        value /= 10;
+        --atLeast;
+    } while (value > 0 || atLeast > 0);
+    while (at != digits.end())
+        *out++ = *at++;
+    return out;
+}
+
+char* putDecimals(char* out, std::uint64_t scaled, int decimals) {
+    const auto power = static_cast<std::uint64_t>(powersOfTen[static_cast<std::size_t>(decimals)]);
+    out = putDigits(out, scaled / power, 1);
+    if (decimals > 0) {
+        *out++ = '.';
+        out = putDigits(out, scaled % power, decimals);
+    }
+    return out;
+}
+
+} // namespace
+
+char* putFixed(char* out, double value, int decimals) {
+    if (!std::isfinite(value))
+        throw Overflow("a number to be written is not a finite number");
+    const double power = powersOfTen[static_cast<std::size_t>(decimals)];
+    const double size = std::fabs(value);
+    if (size * power < halvesLimit) {
+        const std::uint64_t scaled = roundedProduct(size, power);
+        if (value < 0 && scaled > 0)
+            *out++ = '-';
+        return putDecimals(out, scaled, decimals);
+    }
+    // A large number: its whole part is printed in full, its fraction rounded alone.
+    double whole = 0;
+    std::uint64_t fraction = roundedProduct(std::modf(size, &whole), power);
+    if (fraction == static_cast<std::uint64_t>(power)) {
+        whole += 1;
+        fraction = 0;
+    }
+    if (value < 0)
+        *out++ = '-';
+    out = std::to_chars(out, out + maxFixedLength - 8, whole, std::chars_format::fixed, 0).ptr;
+    if (decimals > 0) {
+        *out++ = '.';
+        out = putDigits(out, fraction, decimals);
+    }
+    return out;
+}
+
+char* putInteger(char* out, long value) {
+    return std::to_chars(out, out + 21, value).ptr;
+}
+
+std::string formatFixed(double value, int decimals) {
+    std::array<char, maxFixedLength> text;
+    return {text.data(), putFixed(text.data(), value, decimals)};
+}
+
+std::string formatInteger(long value, int digits) {
+    std::array<char, 32> text;
+    char* out = text.data();
+    if (value < 0)
+        *out++ = '-';
+    out = putDigits(out, static_cast<std::uint64_t>(std::labs(value)), digits);
+    return {text.data(), out};
+}
+
+std::string formatGeneral(float value) {
+    if (!std::isfinite(value))
+        throw Overflow("a number to be written is not a finite number");
+    std::array<char, maxFixedLength> text;
+    const float plain = value == 0.0F ? 0.0F : value;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), plain, std::chars_format::fixed);
+    return {text.data(), end.ptr};
+}
+
+} // namespace torvik

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "base/text.h"
+
+#include <cstdint>
+
+namespace torvik {
+namespace {
+
+struct CodePoint {
+    std::uint32_t value;
+    std::size_t length;
+};
+
+constexpr std::uint32_t outside = 0xFFFD;
+
+// The code point at the start of a text that is not empty. A broken sequence counts one byte.
+CodePoint firstCodePoint(std::string_view text) {
+    const auto lead = static_cast<unsigned char>(text[0]);
+    if (lead < 0x80)
+        return {lead, 1};
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length)
+        return {outside, 1};
+    std::uint32_t value = lead & (0x7Fu >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        const auto next = static_cast<unsigned char>(text[i]);
+        if ((next & 0xC0u) != 0x80)
+            return {outside, 1};
+        value = value << 6 | (next & 0x3Fu);
+    }
+    return {value, length};
+}
+
+bool isControl(std::uint32_t value) {
+    return value < 0x20 || (value >= 0x7F && value < 0xA0);
+}
+
+} // namespace
+
+std::string_view trimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string latin1Line(std::string_view utf8) {
+    std::string line;
+    line.reserve(utf8.size());
+    while (!utf8.empty()) {
+        CodePoint point = firstCodePoint(utf8);
+        if (utf8.substr(0, 2) == "\r\n")
+            point.length = 2; // one line break, one blank
+        utf8.remove_prefix(point.length);
+        if (isControl(point.value))
+            line += ' ';
+        else
+            line += point.value < 0x100 ? static_cast<char>(point.value) : '?';
+    }
+    return line;
+}
+
+} // namespace torvik

@@ -1,0 +1,40 @@
+# Compiler settings shared by every target, and the helpers that declare one.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(TORVIK_WERROR "Treat warnings as errors" OFF)
+set(TORVIK_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=")
+
+add_library(torvik_options INTERFACE)
+# Contracted multiply-adds would change the last bit of computed coordinates.
+target_compile_options(torvik_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic
+                                                -Wconversion -Wshadow)
+if(TORVIK_WERROR)
+  target_compile_options(torvik_options INTERFACE -Werror)
+endif()
+if(TORVIK_SANITIZE)
+  target_compile_options(torvik_options INTERFACE -fsanitize=${TORVIK_SANITIZE}
+                                                  -fno-sanitize-recover=all
+                                                  -fno-omit-frame-pointer)
+  target_link_options(torvik_options INTERFACE -fsanitize=${TORVIK_SANITIZE})
+endif()
+target_include_directories(torvik_options INTERFACE "${CMAKE_SOURCE_DIR}")
+
+# torvik_library(NAME SOURCES... [LINK LIBS...]): one static library of one folder.
+function(torvik_library name)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  add_library(${name} STATIC ${ARG_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PUBLIC torvik_options ${ARG_LINK})
+endfunction()
+
+# torvik_test(NAME SOURCES... [LINK LIBS...]): one GoogleTest program, its cases known to CTest.
+function(torvik_test name)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK} GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+                       PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+endfunction()

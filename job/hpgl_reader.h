@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// Reads a drawing in HPGL: the instructions SP, PU, PD, AA and CI of plain line work, one pair of
+// coordinates each, in plotter units of 1/40 mm. Whatever else stands in the file is skipped.
+// A drawing that cannot be read to its end is refused as a whole.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+struct Job;
+class Logger;
+
+// More than this is no drawing of ours: 32767 elements take a hundredth of it.
+inline constexpr std::size_t maxDrawingBytes = std::size_t{256} << 20;
+inline constexpr double plotterUnitsPerMm = 40.0;
+
+// Clears the job and reads the file into gudtPaths; gstrPlotFile becomes the name as given. True
+// when the drawing was read; gblnUnsaved is then set. A file that cannot be read, a number that
+// does not fit, more than 32767 elements, or a pen outside 1 to 8 that draws is logged and
+// reported with file, line and cause; the job is then empty.
+bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger);
+
+// The same from the bytes of a file; raises FileError and leaves the job as far as it got.
+// `fileName` is for the messages.
+void readInstructions(Job& job, std::string bytes, std::string_view fileName, Logger& logger);
+
+} // namespace torvik

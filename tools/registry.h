@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Where the settings that the workshop's programs share are kept: named texts under one key. The
+// Windows registry is one form of it, a settings file the other.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+class Registry {
+public:
+    Registry() = default;
+    Registry(const Registry&) = delete;
+    Registry& operator=(const Registry&) = delete;
+    virtual ~Registry() = default;
+
+    // The longest text that is read, in bytes of its stored form; a longer one counts as missing.
+    static constexpr std::size_t maxValueBytes = 79;
+
+    // The value's text (UTF-8), or the default where it is missing or cannot be read.
+    virtual std::string strRegistryValueGet(std::string_view name,
+                                            std::string_view defaultText) const = 0;
+    // Writes the value, creating what is missing. A write that fails goes unnoticed.
+    virtual void RegistryValuePut(std::string_view name, std::string_view data) = 0;
+};
+
+} // namespace torvik

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "tools/tool_list.h"
+
+namespace torvik {
+
+std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
+    for (std::int16_t place = 1; place <= tools.gintToolCount; ++place)
+        if (tools.gudtTools[place].intNumber == number)
+            return place;
+    return 0;
+}
+
+} // namespace torvik

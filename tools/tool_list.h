@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The workshop's tools and the tool types that its users added, in memory.
+#pragma once
+
+#include "base/arrays.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+struct Tool {
+    std::int16_t intNumber = 0; // on the tool holder, unique within the list
+    std::string strType;
+    float sngDiameter = 0;               // mm
+    float sngReserved = newToolReserved; // kept for the other programs that share the list
+
+    static constexpr float newToolReserved = -2000;
+};
+
+// A settings group refers to its tool by the place in gudtTools, from 1. gintToolCount can be more
+// than the places that hold a tool, where the loading met a record that it could not read; such a
+// place raises SubscriptOutOfRange.
+struct ToolList {
+    OneBasedArray<Tool> gudtTools;
+    std::int16_t gintToolCount = 0;
+    OneBasedArray<std::string> gstrUserToolTypes;
+    std::int16_t gintUserToolTypeCount = 0;
+};
+
+// The types that every workshop has, in the order of every list.
+inline constexpr std::array<std::string_view, 7> standardToolTypes{
+    "Ball end", "Bull nose", "Drill", "End mill", "Reamer", "Router cutter", "Slot drill"};
+
+// The place of the first tool with that number, or 0.
+std::int16_t intToolGetId(const ToolList& tools, std::int16_t number);
+
+} // namespace torvik
