@@ -60,4 +60,23 @@ std::string latin1Line(std::string_view utf8) {
     return line;
 }
 
+std::string_view fileNameOf(std::string_view path) {
+    auto separator = path.find_last_of("\\/");
+    if (separator == std::string_view::npos)
+        separator = path.rfind(':');
+    return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+std::string replaceLastThree(std::string_view name, std::string_view replacement) {
+    for (int i = 0; i < 3 && !name.empty(); ++i) {
+        const auto isContinuation = [&] {
+            return (static_cast<unsigned char>(name.back()) & 0xC0u) == 0x80;
+        };
+        while (name.size() > 1 && isContinuation())
+            name.remove_suffix(1);
+        name.remove_suffix(1);
+    }
+    return std::string(name) + std::string(replacement);
+}
+
 } // namespace torvik

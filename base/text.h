@@ -14,4 +14,11 @@ std::string_view trimBlanks(std::string_view text);
 // blank for a line break or any other control character.
 std::string latin1Line(std::string_view utf8);
 
+// A file's name without its folder: what stands after the last "\\" or "/", or after the last ":"
+// where there is neither.
+std::string_view fileNameOf(std::string_view path);
+
+// The name with its last three characters (code points), whatever they are, replaced.
+std::string replaceLastThree(std::string_view name, std::string_view replacement);
+
 } // namespace torvik

@@ -10,4 +10,10 @@ std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
     return 0;
 }
 
+const Tool& toolAt(const ToolList& tools, std::int16_t place) {
+    if (place > tools.gintToolCount) // a deleted tool's place is still in the array
+        throw SubscriptOutOfRange(place, 1, tools.gintToolCount);
+    return tools.gudtTools[place];
+}
+
 } // namespace torvik

@@ -37,4 +37,8 @@ inline constexpr std::array<std::string_view, 7> standardToolTypes{
 // The place of the first tool with that number, or 0.
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number);
 
+// The tool at a place, 1 to gintToolCount. Raises SubscriptOutOfRange for any other place, 0 (no
+// tool chosen) included.
+const Tool& toolAt(const ToolList& tools, std::int16_t place);
+
 } // namespace torvik

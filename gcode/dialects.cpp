@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/dialects.h"
+
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "base/picture.h"
+
+#include <algorithm>
+#include <array>
+
+namespace torvik {
+namespace {
+
+constexpr bool unnumbered = false;
+
+constexpr std::array<Statement, 3> zeroPoint{{{"G54"}, {"G97 G94"}, {"G58 X0 Y0 Z0"}}};
+constexpr std::array<Statement, 1> percent{{{"%", unnumbered}}};
+constexpr std::array<Statement, 2> unloadWithLengthOffset{{{"G49"}, {"M0"}}};
+constexpr std::array<Statement, 1> toolWithLengthOffset{{{"T{tool} G43 H{tool}"}}};
+constexpr std::array<Statement, 4> endWithLengthOffset{
+    {{"G0 Z{toolChange} M5"}, {"G49"}, {"M30"}, {"%", unnumbered}}};
+
+constexpr std::array<Statement, 1> winCamOpening{{{"%MPF{number}", unnumbered}}};
+constexpr std::array<Statement, 2> winCamTool{{{"M1"}, {"T{tool} D{offset} M0"}}};
+constexpr std::array<Statement, 2> winCamEnd{{{"G0 Z{toolChange} M5"}, {"M30"}}};
+
+constexpr std::array<Statement, 3> winNcOpening{
+    {{"\x1B&HE:\x12%", unnumbered}, {":{number4}", unnumbered}, {"G54"}}};
+
+constexpr std::array<Statement, 1> maskorTool{{{"T{tool}"}}};
+constexpr std::array<Statement, 2> maskorEnd{{{"G0 Z{toolChange}"}, {"%", unnumbered}}};
+
+constexpr std::string_view retractAndStop = "G0 Z{toolChange} M5";
+
+constexpr std::array<Dialect, 4> table{{
+    {
+        .code = targetWinCam,
+        .name = "WinCAM",
+        .optionName = "wincam",
+        .feedDivisor = 1,
+        .feedDecimals = 0,
+        .dwellFactor = 1,
+        .dwellDecimals = 2,
+        .opening = winCamOpening,
+        .openingAfterHeader = zeroPoint,
+        .commentOpener = {},
+        .retract = retractAndStop,
+        .toolUnload = {},
+        .tool = winCamTool,
+        .spindle = "M3 S{speed}",
+        .dwell = "G4 X{dwell}",
+        .end = winCamEnd,
+        .diskettePrefix = "%MPF",
+        .extension = {},
+    },
+    {
+        .code = targetWinNc,
+        .name = "WinNC",
+        .optionName = "winnc",
+        .feedDivisor = 1,
+        .feedDecimals = 0,
+        .dwellFactor = 1,
+        .dwellDecimals = 2,
+        .opening = winNcOpening,
+        .openingAfterHeader = {},
+        .commentOpener = {},
+        .retract = retractAndStop,
+        .toolUnload = unloadWithLengthOffset,
+        .tool = toolWithLengthOffset,
+        .spindle = "S{speed} M3",
+        .dwell = "G4 X{dwell}",
+        .end = endWithLengthOffset,
+        .diskettePrefix = "oprg",
+        .extension = {},
+    },
+    {
+        .code = targetMaskor,
+        .name = "Maskor",
+        .optionName = "maskor",
+        .feedDivisor = 1,
+        .feedDecimals = 0,
+        .dwellFactor = 1,
+        .dwellDecimals = 2,
+        .opening = percent,
+        .openingAfterHeader = {},
+        .commentOpener = "*",
+        .retract = "G0 Z{toolChange}",
+        .toolUnload = {},
+        .tool = maskorTool,
+        .spindle = "S{speed}",
+        .dwell = "G4 P{dwell}",
+        .end = maskorEnd,
+        .diskettePrefix = {},
+        .extension = "mxc",
+    },
+    {
+        .code = targetKestra,
+        .name = "Kestra",
+        .optionName = "kestra",
+        .feedDivisor = 60, // mm/s
+        .feedDecimals = 2,
+        .dwellFactor = 1000, // ms
+        .dwellDecimals = 0,
+        .opening = percent,
+        .openingAfterHeader = zeroPoint,
+        .commentOpener = "(",
+        .retract = retractAndStop,
+        .toolUnload = unloadWithLengthOffset,
+        .tool = toolWithLengthOffset,
+        .spindle = "S{speed} M3",
+        .dwell = "G4 P{dwell}",
+        .end = endWithLengthOffset,
+        .diskettePrefix = {},
+        .extension = "iso",
+    },
+}};
+
+constexpr Dialect noDialect{.code = 0,
+                            .name = {},
+                            .optionName = {},
+                            .feedDivisor = 1,
+                            .feedDecimals = 0,
+                            .dwellFactor = 1,
+                            .dwellDecimals = 2,
+                            .opening = {},
+                            .openingAfterHeader = {},
+                            .commentOpener = {},
+                            .retract = {},
+                            .toolUnload = {},
+                            .tool = {},
+                            .spindle = {},
+                            .dwell = {},
+                            .end = {},
+                            .diskettePrefix = {},
+                            .extension = {}};
+
+std::string placeText(std::string_view place, const StatementValues& values) {
+    if (place == "tool")
+        return formatInteger(values.toolNumber);
+    if (place == "offset")
+        return formatInteger(toInt16(2.0 * values.toolNumber - 1));
+    if (place == "speed")
+        return formatFixed(values.spindleSpeed, 0);
+    if (place == "dwell")
+        return formatFixed(values.dwell, values.dwellDecimals);
+    if (place == "toolChange")
+        return formatFixed(values.toolChangeHeight, 2);
+    if (place == "number")
+        return formatInteger(values.programNumber);
+    if (place == "number4")
+        return formatInteger(values.programNumber, 4);
+    throw InvalidCall("a statement of the table has an unknown place {" + std::string(place) + "}");
+}
+
+} // namespace
+
+std::span<const Dialect> dialects() {
+    return table;
+}
+
+const Dialect& dialectFor(std::int16_t code) {
+    const auto row = std::find_if(table.begin(), table.end(),
+                                  [code](const Dialect& dialect) { return dialect.code == code; });
+    return row == table.end() ? noDialect : *row;
+}
+
+const Dialect* dialectNamed(std::string_view optionName) {
+    const auto row = std::find_if(table.begin(), table.end(), [&](const Dialect& dialect) {
+        return dialect.optionName == optionName;
+    });
+    return row == table.end() ? nullptr : &*row;
+}
+
+void expand(std::string& out, std::string_view statement, const StatementValues& values) {
+    while (!statement.empty()) {
+        const auto open = std::min(statement.find('{'), statement.size());
+        out += statement.substr(0, open);
+        statement.remove_prefix(open);
+        if (statement.empty())
+            break;
+        const auto close = statement.find('}');
+        out += placeText(statement.substr(1, close - 1), values);
+        statement.remove_prefix(close + 1);
+    }
+}
+
+} // namespace torvik

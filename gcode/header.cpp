@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/header.h"
+
+#include "base/error_trap.h"
+#include "base/picture.h"
+#include "base/text.h"
+#include "gcode/program_output.h"
+#include "job/machined_groups.h"
+#include "tools/tool_list.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace torvik {
+namespace {
+
+struct HeaderLabel {
+    std::string_view label;
+    std::string_view unit;
+};
+
+constexpr std::array<HeaderLabel, 9> labels{{{"Date - ", ""},
+                                             {"Designer - ", ""},
+                                             {"Teacher - ", ""},
+                                             {"Teaching Group - ", ""},
+                                             {"Name of Part - ", ""},
+                                             {"Material - ", ""},
+                                             {"Billet Length X - ", "mm"},
+                                             {"Billet Width Y - ", "mm"},
+                                             {"Billet Depth Z - ", "mm"}}};
+
+// The tools in the order of their use; one that is used twice in a row stands once.
+std::vector<std::int16_t> toolsInUse(const Job& job) {
+    std::vector<std::int16_t> places;
+    visitMachinedGroups(job, [&](const MachinedGroup& group) {
+        const std::int16_t place = job.gudtSettings[group.settings].intTool;
+        if (places.empty() || places.back() != place)
+            places.push_back(place);
+    });
+    return places;
+}
+
+std::string toolLine(const Tool& tool) {
+    return "T" + formatInteger(tool.intNumber) + " " + formatFixed(tool.sngDiameter, 1) + "mm " +
+           latin1Line(tool.strType);
+}
+
+void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
+                 ProgramOutput& output) {
+    const std::string closer = opener == "(" ? ")" : "";
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        HeaderLine(job, opener + std::string(labels[i].label), labels[i].unit, closer,
+                   static_cast<std::int16_t>(i), output);
+
+    const std::vector<std::int16_t> places = toolsInUse(job);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const std::string name =
+            places.size() == 1 ? "Tool" : job.gstrOrdinal[static_cast<long>(i + 1)] + " tool";
+        output.WriteLine(opener + name + " - " + toolLine(toolAt(tools, places[i])) + closer);
+    }
+}
+
+} // namespace
+
+bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, ProgramOutput& output,
+                 Logger& logger) {
+    return withErrorTrap(logger, {"WriteHeader", "modHpgl"},
+                         [&] { writeHeader(job, tools, std::string(opener), output); });
+}
+
+void HeaderLine(Job& job, std::string_view labelledOpener, std::string_view unit,
+                std::string_view closer, std::int16_t index, ProgramOutput& output) {
+    std::string& value = job.gstrHeader[index];
+    value = std::string(trimBlanks(value));
+    if (!value.empty())
+        output.WriteLine(std::string(labelledOpener) + latin1Line(value) + std::string(unit) +
+                         std::string(closer));
+}
+
+} // namespace torvik

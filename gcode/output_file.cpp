@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/output_file.h"
+
+#include "base/error_trap.h"
+#include "base/files.h"
+#include "base/picture.h"
+#include "base/text.h"
+#include "gcode/dialects.h"
+#include "gcode/header.h"
+#include "gcode/program_output.h"
+#include "gcode/program_writer.h"
+#include "job/job.h"
+
+#include <optional>
+
+namespace torvik {
+namespace {
+
+void writeOpening(Job& job, std::span<const Statement> statements, std::int16_t number,
+                  ProgramOutput& output) {
+    StatementValues values;
+    values.programNumber = number;
+    for (const Statement& statement : statements) {
+        std::string text;
+        expand(text, statement.text, values);
+        if (statement.numbered)
+            output.CommandLine(job, text);
+        else
+            output.WriteLine(text);
+    }
+}
+
+std::string absolutePlotFile(const Job& job) {
+    std::error_code error;
+    const auto path = std::filesystem::absolute(pathFromUtf8(job.gstrPlotFile), error);
+    return error ? job.gstrPlotFile : utf8FromPath(path);
+}
+
+} // namespace
+
+bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+                  ByteSink& sink, Logger& logger) {
+    job.gintLineNumber = 0;
+    ProgramOutput output(sink);
+    writeOpening(job, dialect.opening, number, output);
+    if (!dialect.commentOpener.empty())
+        WriteHeader(job, tools, dialect.commentOpener, output, logger);
+    writeOpening(job, dialect.openingAfterHeader, number, output);
+    const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
+    output.flush();
+    return whole;
+}
+
+void writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+                   Logger& logger) {
+    ProgramOutput output(sink);
+    output.WriteLine("Origin - " + latin1Line(absolutePlotFile(job)));
+    output.WriteLine("File - " + latin1Line(fileName));
+    WriteHeader(job, tools, "", output, logger);
+    output.flush();
+}
+
+std::filesystem::path sideTextPath(const std::filesystem::path& program) {
+    auto path = program;
+    return path += ".txt";
+}
+
+WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std::int16_t number,
+                       const std::filesystem::path& file, Logger& logger) {
+    constexpr Location here{"WriteFile", "modHpgl"};
+    const Dialect& dialect = dialectFor(target);
+    std::optional<FileSink> program;
+    if (!withQuietErrorTrap(logger, here, [&] { program.emplace(file); }))
+        return WriteOutcome::notOpened;
+    bool whole = false;
+    const bool stored = withErrorTrap(logger, here, [&] {
+        whole = writeProgram(job, tools, dialect, number, *program, logger);
+        program->close();
+        if (whole && dialect.needsNumber()) {
+            FileSink sideText(sideTextPath(file));
+            writeSideText(job, tools, utf8FromPath(file.filename()), sideText, logger);
+            sideText.close();
+        }
+    });
+    return stored && whole ? WriteOutcome::written : WriteOutcome::failed;
+}
+
+std::string proposedFileName(const Dialect& dialect, std::string_view plotFile,
+                             std::int16_t number) {
+    if (dialect.needsNumber())
+        return std::string(dialect.diskettePrefix) + formatInteger(number);
+    return replaceLastThree(fileNameOf(plotFile), dialect.extension);
+}
+
+} // namespace torvik

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The written program: opening lines, header and body in one file, and the text file beside a
+// program that goes to the diskette.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+struct Dialect;
+struct Job;
+struct ToolList;
+class ByteSink;
+class Logger;
+
+enum class WriteOutcome {
+    written,
+    notOpened, // the program's file cannot be opened for writing; logged only
+    failed,    // logged and reported; what was written stays
+};
+
+// Writes the program for the target code to the file, replacing any of that name, and the text
+// file beside it where the target has one. Restarts the job's line counter. `number` is the
+// program number of the targets that have one, 1 to 32767.
+WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std::int16_t number,
+                       const std::filesystem::path& file, Logger& logger);
+
+// The program alone, into any sink. False after a trapped error that ended the body; an error in
+// the header (more than sixteen tools) is reported and passed over.
+bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+                  ByteSink& sink, Logger& logger);
+
+// The text beside a program: where the drawing is, the program's name without its folder, and the
+// header. Raises FileError where the sink does.
+void writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+                   Logger& logger);
+
+// The program's name with ".txt" behind it.
+std::filesystem::path sideTextPath(const std::filesystem::path& program);
+
+// The name that the target proposes for a drawing: its diskette name with the number, or the
+// drawing's name, without folder, with its last three characters replaced.
+std::string proposedFileName(const Dialect& dialect, std::string_view plotFile,
+                             std::int16_t number);
+
+} // namespace torvik

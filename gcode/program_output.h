@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// The open output: lines are gathered in a buffer and passed to a file (or any other sink) in
+// large pieces. Lines end in CR LF.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+struct Job;
+
+// Where the bytes of a program go.
+class ByteSink {
+public:
+    ByteSink() = default;
+    ByteSink(const ByteSink&) = delete;
+    ByteSink& operator=(const ByteSink&) = delete;
+    virtual ~ByteSink() = default;
+
+    // Raises FileError where the bytes cannot be written.
+    virtual void write(std::string_view bytes) = 0;
+};
+
+class StringSink final : public ByteSink {
+public:
+    void write(std::string_view bytes) override { m_bytes += bytes; }
+    const std::string& bytes() const { return m_bytes; }
+
+private:
+    std::string m_bytes;
+};
+
+// A file opened for writing, replacing any of that name. Raises FileError where it cannot be
+// opened, and on every failed write.
+class FileSink final : public ByteSink {
+public:
+    explicit FileSink(const std::filesystem::path& file);
+
+    void write(std::string_view bytes) override;
+    // Closes the file; what the system could not keep shows at the latest here.
+    void close();
+
+private:
+    std::filesystem::path m_path;
+    std::ofstream m_file;
+};
+
+class ProgramOutput {
+public:
+    explicit ProgramOutput(ByteSink& sink);
+
+    // The text as it stands (bytes of the program's own encoding), with a line end or without.
+    void WriteLine(std::string_view text, bool lineEnd = true);
+    // The text as a block: "N", the job's next block number (9999 is followed by 1), a blank, the
+    // text and a line end.
+    void CommandLine(Job& job, std::string_view text);
+    // Passes what is gathered on. Whatever is not flushed is lost with the object. After a failed
+    // write there is nothing more to pass on: the failure was raised once.
+    void flush();
+
+private:
+    void makeRoom(std::size_t bytes);
+
+    ByteSink& m_sink;
+    std::string m_buffer; // of fixed size, filled up to m_used
+    std::size_t m_used = 0;
+    bool m_failed = false;
+};
+
+} // namespace torvik

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/program_writer.h"
+
+#include "base/error_trap.h"
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "gcode/cut_words.h"
+#include "gcode/dialects.h"
+#include "gcode/path_index.h"
+#include "gcode/program_output.h"
+#include "gcode/statement_text.h"
+#include "job/machined_groups.h"
+#include "tools/tool_list.h"
+
+namespace torvik {
+namespace {
+
+// Far outside any drawing, so that the first cut or hole gets a rapid move in X and Y.
+constexpr float nowhere = 1000;
+
+// The level one step below z. The step must lead downward, or the passes would never end.
+float oneStepDown(float z, float step) {
+    const float deeper = toSingle(double{z} - step);
+    if (!(deeper < z))
+        throw InvalidCall("a step of " + formatGeneral(step) + " mm below Z " + formatGeneral(z) +
+                          " never reaches the depth");
+    return deeper;
+}
+
+float stepOrDepth(const Settings& settings) {
+    return settings.sngDepthPerPass == 0 ? settings.sngDepth : settings.sngDepthPerPass;
+}
+
+class BodyWriter {
+public:
+    BodyWriter(Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
+        : m_job(job), m_tools(tools), m_dialect(dialect), m_output(output), m_paths(job),
+          m_z(job.gsngToolChangeHeight) {
+        m_values.toolChangeHeight = job.gsngToolChangeHeight;
+        m_values.dwellDecimals = dialect.dwellDecimals;
+    }
+
+    void write() {
+        visitMachinedGroups(m_job, [this](const MachinedGroup& group) {
+            const Settings& settings = m_job.gudtSettings[group.settings];
+            prepareTool(settings);
+            if (group.radius == 0)
+                cut(group.pen, settings);
+            else
+                drill(group.pen, m_job.gudtPens[group.pen].sngRadii[group.radius], settings);
+        });
+        rapidToHeight(m_job.gsngSafeHeight);
+        put(m_dialect.end);
+    }
+
+private:
+    void command(std::string_view text) { m_output.CommandLine(m_job, text); }
+
+    void put(std::string_view statement) {
+        if (statement.empty())
+            return;
+        m_expanded.clear();
+        expand(m_expanded, statement, m_values);
+        command(m_expanded);
+    }
+
+    void put(std::span<const Statement> statements) {
+        for (const Statement& statement : statements) {
+            if (statement.numbered)
+                put(statement.text);
+            else
+                m_output.WriteLine(statement.text);
+        }
+    }
+
+    void rapidToHeight(float z) {
+        command(StatementText("G0").height(" Z", z));
+        m_z = z;
+    }
+
+    void feedToHeight(float z, float feed) {
+        command(StatementText("G1").height(" Z", z).feed(m_dialect, feed));
+        m_z = z;
+    }
+
+    void rapidTo(float x, float y) {
+        command(StatementText("G0").position(" X", x).position(" Y", y));
+        m_x = x;
+        m_y = y;
+    }
+
+    bool isAt(float x, float y) const {
+        return singleDistance(x, m_x) <= positionTolerance &&
+               singleDistance(y, m_y) <= positionTolerance;
+    }
+
+    void setSpindle(const Settings& settings) {
+        m_speed = settings.sngSpindleSpeed;
+        m_values.spindleSpeed = m_speed;
+        put(m_dialect.spindle);
+    }
+
+    void prepareTool(const Settings& settings) {
+        const float safe = m_job.gsngSafeHeight;
+        if (settings.intTool == m_tool) {
+            if (settings.sngSpindleSpeed == m_speed)
+                return;
+            rapidToHeight(safe);
+            rapidToHeight(m_job.gsngToolChangeHeight);
+            setSpindle(settings);
+            rapidToHeight(safe);
+            return;
+        }
+        m_tool = settings.intTool;
+        if (m_z <= m_job.gsngRapidDownTo)
+            rapidToHeight(safe);
+        if (m_z == safe && !m_dialect.retract.empty()) {
+            put(m_dialect.retract);
+            m_z = m_job.gsngToolChangeHeight;
+        }
+        m_values.toolNumber = toolAt(m_tools, settings.intTool).intNumber;
+        if (m_toolLoaded)
+            put(m_dialect.toolUnload);
+        put(m_dialect.tool);
+        m_toolLoaded = true;
+        setSpindle(settings);
+        rapidToHeight(safe);
+    }
+
+    void cut(std::int16_t pen, const Settings& settings) {
+        const CutWords words(m_job, m_paths.ofPen(pen));
+        const float bottom = -settings.sngDepth;
+        const float step = stepOrDepth(settings);
+        float floor = toSingle(double{settings.sngFinalPassDepth} - settings.sngDepth);
+        float feed = settings.sngFeedHorizontal;
+        for (float z = 0; z > bottom;) {
+            z = oneStepDown(z, step);
+            if (z <= floor) {
+                z = floor;
+                if (bottom < floor)
+                    floor = bottom; // the last roughing pass; the next one is the final pass
+                else if (settings.sngFeedFinalPass > 0)
+                    feed = settings.sngFeedFinalPass;
+            }
+            cutPass(words, z, feed, settings.sngFeedVertical);
+        }
+    }
+
+    void cutPass(const CutWords& words, float z, float feed, float feedDown) {
+        const StatementText feedWord = StatementText().feed(m_dialect, feed);
+        StatementText text;
+        for (const CutWords::Cut& cut : words.cuts()) {
+            if (!isAt(cut.startX, cut.startY)) {
+                if (m_z != m_job.gsngSafeHeight)
+                    rapidToHeight(m_job.gsngSafeHeight);
+                rapidTo(cut.startX, cut.startY);
+            }
+            if (m_z > m_job.gsngRapidDownTo)
+                rapidToHeight(m_job.gsngRapidDownTo);
+            if (m_z > z)
+                feedToHeight(z, feedDown);
+            text.clear();
+            command(text.put(words.text(cut)).put(feedWord));
+            m_x = cut.endX;
+            m_y = cut.endY;
+        }
+    }
+
+    void drill(std::int16_t pen, float radius, const Settings& settings) {
+        for (const std::int16_t subscript : m_paths.ofRadius(pen, radius)) {
+            const Path& path = m_job.gudtPaths[subscript];
+            if (m_z != m_job.gsngSafeHeight)
+                rapidToHeight(m_job.gsngSafeHeight);
+            if (!isAt(path.sngCentreX, path.sngCentreY))
+                rapidTo(path.sngCentreX, path.sngCentreY);
+            if (m_z > m_job.gsngRapidDownTo)
+                rapidToHeight(m_job.gsngRapidDownTo);
+            peck(settings);
+        }
+    }
+
+    void peck(const Settings& settings) {
+        const float bottom = -settings.sngDepth;
+        const float step = stepOrDepth(settings);
+        for (float z = 0; z > bottom;) {
+            z = std::max(oneStepDown(z, step), bottom);
+            if (m_z > z)
+                feedToHeight(z, settings.sngFeedVertical);
+            if (z > bottom && !settings.blnPeck)
+                continue;
+            if (settings.sngDwell > 0) {
+                m_values.dwell = settings.sngDwell * m_dialect.dwellFactor;
+                put(m_dialect.dwell);
+            }
+            rapidToHeight(m_job.gsngRapidDownTo);
+        }
+    }
+
+    Job& m_job;
+    const ToolList& m_tools;
+    const Dialect& m_dialect;
+    ProgramOutput& m_output;
+    PathIndex m_paths;
+    StatementValues m_values;
+    std::string m_expanded;
+    float m_x = nowhere;
+    float m_y = nowhere;
+    float m_z;
+    std::int16_t m_tool = 0;
+    float m_speed = 0;
+    bool m_toolLoaded = false;
+};
+
+} // namespace
+
+bool WriteGcodes(Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
+                 Logger& logger) {
+    return withErrorTrap(logger, {"WriteGcodes", "modHpgl"},
+                         [&] { BodyWriter(job, tools, dialectFor(target), output).write(); });
+}
+
+} // namespace torvik

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Which settings groups a program uses, in machining order.
+#pragma once
+
+#include "job/job.h"
+
+namespace torvik {
+
+// One stretch of the program: a pen that is cut, or one hole size of a pen that is drilled.
+struct MachinedGroup {
+    std::int16_t pen;
+    std::int16_t radius;   // subscript of the pen's sngRadii, 0 for a cut pen
+    std::int16_t settings; // subscript of gudtSettings
+};
+
+// Calls visit(MachinedGroup) for every group of the order; entries of 0 or less hold no pen.
+// Raises SubscriptOutOfRange at a pen above 8, after the groups before it.
+template <typename Visit>
+void visitMachinedGroups(const Job& job, Visit visit) {
+    for (const std::int16_t number : job.gintOrder) {
+        if (number <= 0)
+            continue;
+        const Pen& pen = job.gudtPens[number];
+        if (!pen.blnDrill) {
+            visit(MachinedGroup{number, 0, pen.intSettings});
+            continue;
+        }
+        for (std::int16_t k = 1; k <= pen.intRadiusCount; ++k)
+            visit(MachinedGroup{number, k, static_cast<std::int16_t>(pen.intSettings + k)});
+    }
+}
+
+} // namespace torvik
