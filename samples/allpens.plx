@@ -1,0 +1,38 @@
+eda58c9e433a80644099184a5b4b4508
+"9 September 2025"
+"Class 8b"
+"Mr Okafor"
+"Introduction to milling"
+"Eight-pen test plate"
+"Hard foam"
+"165"
+"115"
+"10"
+50,5,2,7,1
+1
+1,4000,600,150,4,2,#FALSE#,#FALSE#,#FALSE#,0,0,0
+2
+2,4500,500,125,1,1,#FALSE#,#FALSE#,#FALSE#,0,0,0
+3
+2,4500,500,125,1.5,0.5,#FALSE#,#FALSE#,#FALSE#,0,250,0.15
+4
+2,4500,500,125,3,1.5,#FALSE#,#TRUE#,#FALSE#,1,0,0
+0,0,0,0,0,0,#FALSE#
+5
+0,0,0,0,0,0,#TRUE#,#TRUE#,#FALSE#,2,0,0
+6,2500,200,8,0,0,#FALSE#
+7,2000,160,8,3,0.25,#TRUE#
+6
+3,5000,400,100,2,1,#FALSE#,#FALSE#,#FALSE#,0,0,0
+7
+0,0,0,0,0,0,#FALSE#,#FALSE#,#TRUE#,0,0,0
+8
+4,5000,350,90,0.3,0.3,#FALSE#,#FALSE#,#FALSE#,0,0,0
+8
+2
+3
+6
+4
+5
+1
+0
