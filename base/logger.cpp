@@ -2,10 +2,10 @@
 #include "base/logger.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <ctime>
 #include <fstream>
 #include <string>
@@ -38,10 +38,8 @@ LogSwitches LogSwitches::fromTexts(std::string_view errors, std::string_view tra
     switches.info = isOn(info, switches.info);
     while (!exclude.empty()) {
         const auto comma = std::min(exclude.find(','), exclude.size());
-        std::string_view name = exclude.substr(0, comma);
+        const std::string_view name = trimBlanks(exclude.substr(0, comma));
         exclude.remove_prefix(std::min(comma + 1, exclude.size()));
-        name.remove_prefix(std::min(name.find_first_not_of(' '), name.size()));
-        name = name.substr(0, name.find_last_not_of(' ') + 1);
         if (!name.empty())
             switches.exclude.emplace_back(name);
     }
@@ -51,16 +49,12 @@ LogSwitches LogSwitches::fromTexts(std::string_view errors, std::string_view tra
 Logger::Logger(std::filesystem::path logFile, Report report)
     : m_logFile(std::move(logFile)), m_report(std::move(report)) {}
 
-std::string Logger::message(std::string_view procedure, std::string_view module,
-                            std::string_view cause) {
-    std::string text = "An error has occurred in " + location(procedure, module) + "\n";
-    const auto start = text.size();
+std::string ErrorReport::message() const {
+    // The cause keeps its first letter: it may be that of a file's name.
+    std::string text = "An error has occurred in " + location(procedure, module) + ":\n";
     text += cause;
-    if (start < text.size()) {
-        text[start] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[start])));
-        if (text.back() != '.')
-            text += '.';
-    }
+    if (text.back() != '.' && !cause.empty())
+        text += '.';
     return text;
 }
 
@@ -68,7 +62,7 @@ void Logger::reportError(std::string_view procedure, std::string_view module,
                          std::string_view cause) {
     logError(procedure, module, cause);
     if (m_report)
-        m_report(message(procedure, module, cause));
+        m_report({procedure, module, cause});
 }
 
 void Logger::logError(std::string_view procedure, std::string_view module, std::string_view cause) {

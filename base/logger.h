@@ -25,10 +25,19 @@ struct LogSwitches {
                                  std::string_view info, std::string_view exclude);
 };
 
+// An error as the user is told of it.
+struct ErrorReport {
+    std::string_view procedure;
+    std::string_view module;
+    std::string_view cause;
+
+    // "An error has occurred in PROCEDURE (MODULE):", a line break, and the cause with a full stop.
+    std::string message() const;
+};
+
 class Logger {
 public:
-    // The whole message: "An error has occurred in ...", a line break, what went wrong.
-    using Report = std::function<void(const std::string& message)>;
+    using Report = std::function<void(const ErrorReport& report)>;
 
     // An empty path logs to no file.
     explicit Logger(std::filesystem::path logFile = {}, Report report = {});
@@ -42,10 +51,6 @@ public:
     void logError(std::string_view procedure, std::string_view module, std::string_view cause);
     void trace(std::string_view procedure, std::string_view module);
     void info(std::string_view procedure, std::string_view module, std::string_view text);
-
-    // "An error has occurred in PROCEDURE (MODULE)", a line break, and the cause as a sentence.
-    static std::string message(std::string_view procedure, std::string_view module,
-                               std::string_view cause);
 
 private:
     bool excluded(std::string_view procedure, std::string_view module) const;
