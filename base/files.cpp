@@ -20,6 +20,10 @@ std::string utf8FromPath(const std::filesystem::path& path) {
 
 std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit) {
     const std::string name = utf8FromPath(path);
+    const auto raiseTooLarge = [&] {
+        throw FileError(name,
+                        "the file is larger than " + std::to_string(limit / (1024 * 1024)) + " MB");
+    };
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found)
@@ -35,7 +39,9 @@ std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limi
         throw FileError(name, "the file cannot be opened: " + systemErrorText());
     std::string bytes;
     const auto expected = std::filesystem::file_size(path, error);
-    if (!error && expected <= limit)
+    if (!error && expected > limit)
+        raiseTooLarge();
+    if (!error)
         bytes.reserve(static_cast<std::size_t>(expected) + 1);
     // The size is only a hint: the file may be a pipe, or grow while it is read.
     constexpr std::size_t step = std::size_t{1} << 18;
@@ -45,8 +51,7 @@ std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limi
         file.read(bytes.data() + used, static_cast<std::streamsize>(bytes.size() - used));
         bytes.resize(used + static_cast<std::size_t>(file.gcount()));
         if (bytes.size() > limit)
-            throw FileError(name, "the file is larger than " +
-                                      std::to_string(limit / (1024 * 1024)) + " MB");
+            raiseTooLarge();
     }
     if (file.bad())
         throw FileError(name, "the file cannot be read to its end: " + systemErrorText());

@@ -98,9 +98,9 @@ double leadingNumber(std::string_view text) {
 
     double value = 0;
     if (at != mantissaEnd && (*mantissaEnd == 'D' || *mantissaEnd == 'd')) {
-        std::string text2(whole, at);
-        text2[static_cast<std::size_t>(mantissaEnd - whole)] = 'E';
-        value = parsed(text2.data(), text2.data() + text2.size());
+        std::string spelt(whole, at);
+        spelt[static_cast<std::size_t>(mantissaEnd - whole)] = 'E';
+        value = parsed(spelt.data(), spelt.data() + spelt.size());
     } else {
         value = parsed(whole, at);
     }

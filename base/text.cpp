@@ -28,6 +28,9 @@ CodePoint firstCodePoint(std::string_view text) {
             return {outside, 1};
         value = value << 6 | (next & 0x3Fu);
     }
+    // A value that fewer bytes would hold is no letter: it could hide a line break.
+    if (value < (length == 4 ? 0x10000u : length == 3 ? 0x800u : 0x80u))
+        return {outside, 1};
     return {value, length};
 }
 
