@@ -42,12 +42,6 @@ void appendSettingsGroup(Job& job) {
     job.gudtSettings.append({});
 }
 
-bool isClosed(const Path& path) {
-    return std::fabs(double{path.sngEndX} - path.sngStartX) +
-               std::fabs(double{path.sngEndY} - path.sngStartY) <=
-           closureTolerance;
-}
-
 // The radii are ascending, so only those close to the new one are looked at.
 bool hasRadius(const Pen& pen, float radius) {
     const auto first =
@@ -70,7 +64,7 @@ void checkForCircles(Job& job, std::int16_t number) {
     for (Path& path : job.gudtPaths) {
         if (path.intPen != number)
             continue;
-        circles = path.sngRadius != 0 && isClosed(path);
+        circles = isClosedCircle(path);
         if (!circles)
             break;
         path.sngAngleTo = path.sngAngleFrom;
@@ -134,10 +128,8 @@ bool SortPaths(Job& job, Logger& logger) {
         auto& order = job.gintPathOrder;
         order.resize(job.gintPathCount);
         std::iota(order.begin(), order.end(), std::int16_t{1});
-        const auto paths = job.gudtPaths.items();
-        std::stable_sort(order.begin(), order.end(), [paths](std::int16_t a, std::int16_t b) {
-            return paths[static_cast<std::size_t>(a - 1)].sngSortKey <
-                   paths[static_cast<std::size_t>(b - 1)].sngSortKey;
+        std::stable_sort(order.begin(), order.end(), [&](std::int16_t a, std::int16_t b) {
+            return job.gudtPaths[a].sngSortKey < job.gudtPaths[b].sngSortKey;
         });
     });
 }
@@ -152,6 +144,12 @@ void rebuildOrder(Job& job) {
 
 bool isMachined(const Job& job, std::int16_t pen) {
     return job.gudtPens[pen].blnUsed && !job.gudtPens[pen].blnOmit;
+}
+
+bool isClosedCircle(const Path& path) {
+    return path.sngRadius != 0 && std::fabs(double{path.sngEndX} - path.sngStartX) +
+                                          std::fabs(double{path.sngEndY} - path.sngStartY) <=
+                                      closureTolerance;
 }
 
 } // namespace torvik

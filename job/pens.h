@@ -8,6 +8,7 @@
 namespace torvik {
 
 struct Job;
+struct Path;
 class Logger;
 
 // Sets the colours and names of the eight pens and the words of gstrOrdinal.
@@ -31,5 +32,8 @@ void rebuildOrder(Job& job);
 
 // Whether the pen, 1 to 8, is used and not left out.
 bool isMachined(const Job& job, std::int16_t pen);
+
+// Whether the path is an arc whose end lies at its start (within 0.5 mm).
+bool isClosedCircle(const Path& path);
 
 } // namespace torvik
