@@ -12,6 +12,6 @@ SubscriptOutOfRange::SubscriptOutOfRange(long subscript, long low, long high)
 FileError::FileError(const std::string& file, const std::string& cause, long line)
     : RunTimeError(file + (line > 0 ? ", line " + std::to_string(line) : std::string()) + ": " +
                    cause),
-      m_line(line) {}
+      m_cause(cause), m_line(line) {}
 
 } // namespace torvik

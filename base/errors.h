@@ -42,8 +42,10 @@ public:
     FileError(const std::string& file, const std::string& cause, long line = 0);
 
     long line() const { return m_line; } // 0 where the whole file is meant
+    const std::string& cause() const { return m_cause; }
 
 private:
+    std::string m_cause;
     long m_line;
 };
 

@@ -8,22 +8,10 @@
 #include <system_error>
 
 namespace torvik {
+namespace {
 
-std::filesystem::path pathFromUtf8(std::string_view name) {
-    return std::filesystem::path(std::u8string(name.begin(), name.end()));
-}
-
-std::string utf8FromPath(const std::filesystem::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
-}
-
-std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit) {
+std::ifstream openForReading(const std::filesystem::path& path) {
     const std::string name = utf8FromPath(path);
-    const auto raiseTooLarge = [&] {
-        throw FileError(name,
-                        "the file is larger than " + std::to_string(limit / (1024 * 1024)) + " MB");
-    };
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found)
@@ -37,6 +25,32 @@ std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limi
     std::ifstream file(path, std::ios::binary);
     if (!file)
         throw FileError(name, "the file cannot be opened: " + systemErrorText());
+    return file;
+}
+
+} // namespace
+
+std::filesystem::path pathFromUtf8(std::string_view name) {
+    return std::filesystem::path(std::u8string(name.begin(), name.end()));
+}
+
+std::string utf8FromPath(const std::filesystem::path& path) {
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
+}
+
+void requireReadable(const std::filesystem::path& path) {
+    openForReading(path);
+}
+
+std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit) {
+    const std::string name = utf8FromPath(path);
+    const auto raiseTooLarge = [&] {
+        throw FileError(name,
+                        "the file is larger than " + std::to_string(limit / (1024 * 1024)) + " MB");
+    };
+    std::ifstream file = openForReading(path);
+    std::error_code error;
     std::string bytes;
     const auto expected = std::filesystem::file_size(path, error);
     if (!error && expected > limit)

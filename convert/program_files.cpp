@@ -7,6 +7,8 @@
 #include "gcode/output_file.h"
 #include "gcode/program_output.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace torvik {
@@ -17,9 +19,13 @@ namespace fs = std::filesystem;
 // A file under a temporary name, which takes its own name when it is whole and otherwise goes.
 class PendingFile {
 public:
-    explicit PendingFile(fs::path target) : m_target(std::move(target)), m_pending(m_target) {
-        m_pending += ".part";
-        m_sink.emplace(m_pending);
+    explicit PendingFile(const fs::path& target) : m_target(target), m_pending(target) {
+        m_pending += ".torvik-" + std::to_string(QCoreApplication::applicationPid());
+        try {
+            m_sink.emplace(m_pending);
+        } catch (const FileError& error) {
+            raise(error);
+        }
     }
     PendingFile(const PendingFile&) = delete;
     PendingFile& operator=(const PendingFile&) = delete;
@@ -31,7 +37,14 @@ public:
     }
 
     ByteSink& sink() { return *m_sink; }
-    void close() { m_sink->close(); }
+
+    // Raises what an error trap caught on the way, and closes the file.
+    void close() {
+        if (m_sink->failure())
+            raise(*m_sink->failure());
+        m_sink->close();
+    }
+
     void commit() {
         std::error_code error;
         fs::rename(m_pending, m_target, error);
@@ -40,6 +53,7 @@ public:
                             "the file cannot be written: " + error.message());
         m_committed = true;
     }
+
     // Takes a committed file back.
     void withdraw() {
         std::error_code ignored;
@@ -47,46 +61,54 @@ public:
     }
 
 private:
+    // The user knows the file by its own name.
+    [[noreturn]] void raise(const FileError& error) const {
+        throw FileError(utf8FromPath(m_target), error.cause());
+    }
+
     fs::path m_target;
     fs::path m_pending;
     std::optional<FileSink> m_sink;
     bool m_committed = false;
 };
 
-void refuseUnwritable(const fs::path& file, bool overwrite) {
+// The file to write: where the name is a link, what it leads to. Refuses what cannot be replaced
+// by a file.
+fs::path writableTarget(const fs::path& file, bool overwrite) {
     std::error_code error;
     const auto status = fs::status(file, error);
+    if (!fs::exists(status))
+        return file;
     if (fs::is_directory(status))
         throw FileError(utf8FromPath(file), "there is a folder of this name");
-    if (!overwrite && fs::exists(status))
+    if (!fs::is_regular_file(status))
+        throw FileError(utf8FromPath(file), "this is no ordinary file");
+    if (!overwrite)
         throw FileError(utf8FromPath(file), "the file exists already; --force overwrites it");
+    return fs::canonical(file);
 }
 
 } // namespace
 
 bool writeProgramFiles(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
                        const fs::path& program, bool overwrite, Logger& logger) {
-    const fs::path sideText = sideTextPath(program);
-    refuseUnwritable(program, overwrite);
-    if (dialect.needsNumber())
-        refuseUnwritable(sideText, overwrite);
-
-    PendingFile pendingProgram(program);
-    if (!writeProgram(job, tools, dialect, number, pendingProgram.sink(), logger))
-        return false;
+    PendingFile pendingProgram(writableTarget(program, overwrite));
+    const bool whole = writeProgram(job, tools, dialect, number, pendingProgram.sink(), logger);
     pendingProgram.close();
+    if (!whole)
+        return false;
     if (!dialect.needsNumber()) {
         pendingProgram.commit();
         return true;
     }
-    PendingFile pendingText(sideText);
+    PendingFile pendingText(writableTarget(sideTextPath(program), overwrite));
     writeSideText(job, tools, utf8FromPath(program.filename()), pendingText.sink(), logger);
     pendingText.close();
-    pendingProgram.commit();
+    pendingText.commit();
     try {
-        pendingText.commit();
+        pendingProgram.commit();
     } catch (const FileError&) {
-        pendingProgram.withdraw();
+        pendingText.withdraw();
         throw;
     }
     return true;

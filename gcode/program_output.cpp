@@ -25,22 +25,27 @@ FileSink::FileSink(const std::filesystem::path& file) : m_path(file) {
     errno = 0;
     m_file.open(file, std::ios::binary | std::ios::trunc);
     if (!m_file)
-        throw FileError(utf8FromPath(file),
-                        "the file cannot be opened for writing: " + systemErrorText());
+        fail("the file cannot be opened for writing: ");
 }
 
 void FileSink::write(std::string_view bytes) {
     errno = 0;
     if (!m_file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
-        throw FileError(utf8FromPath(m_path), "the file cannot be written: " + systemErrorText());
+        fail("the file cannot be written: ");
 }
 
 void FileSink::close() {
     errno = 0;
     m_file.close();
     if (!m_file)
-        throw FileError(utf8FromPath(m_path),
-                        "the file cannot be written to its end: " + systemErrorText());
+        fail("the file cannot be written to its end: ");
+}
+
+void FileSink::fail(const char* what) {
+    const FileError error(utf8FromPath(m_path), what + systemErrorText());
+    if (!m_failure)
+        m_failure = error;
+    throw error;
 }
 
 ProgramOutput::ProgramOutput(ByteSink& sink) : m_sink(sink), m_buffer(bufferBytes, '\0') {}

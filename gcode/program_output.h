@@ -3,9 +3,12 @@
 // large pieces. Lines end in CR LF.
 #pragma once
 
+#include "base/errors.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -43,10 +46,15 @@ public:
     void write(std::string_view bytes) override;
     // Closes the file; what the system could not keep shows at the latest here.
     void close();
+    // What the first failed write raised, also where an error trap caught it.
+    const std::optional<FileError>& failure() const { return m_failure; }
 
 private:
+    [[noreturn]] void fail(const char* what);
+
     std::filesystem::path m_path;
     std::ofstream m_file;
+    std::optional<FileError> m_failure;
 };
 
 class ProgramOutput {

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "convert/converter.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "base/logger.h"
+#include "base/picture.h"
+#include "base/text.h"
+#include "convert/exit_codes.h"
+#include "convert/options.h"
+#include "convert/program_files.h"
+#include "convert/show.h"
+#include "job/job.h"
+#include "job/machined_groups.h"
+#include "tools/open_registry.h"
+#include "tools/tool_store.h"
+#include "wizard/import_drawing.h"
+#include "wizard/program_folder.h"
+
+#include <QCoreApplication>
+
+#include <ostream>
+#include <utility>
+#include <vector>
+
+namespace torvik {
+namespace {
+
+constexpr std::string_view programName = "torvik-convert";
+
+// Why one drawing was not converted.
+struct Failure {
+    ExitCode code;
+    std::string message;
+};
+
+std::string groupName(const Job& job, const MachinedGroup& group) {
+    const Pen& pen = job.gudtPens[group.pen];
+    if (group.radius == 0)
+        return "the " + pen.strColour + " lines";
+    return "the " + pen.strColour + " holes of " +
+           formatFixed(2.0 * pen.sngRadii[group.radius], 1) + " mm";
+}
+
+class Converter {
+public:
+    Converter(const ConvertOptions& options, std::ostream& out, std::ostream& err)
+        : m_options(options), m_out(out), m_err(err),
+          m_logger(logFile(programName),
+                   [this](const ErrorReport& report) { m_reported.emplace_back(report.cause); }) {}
+
+    int run() {
+        ExitCode code = ExitCode::done;
+        for (std::size_t i = 0; i < m_options.drawings.size(); ++i) {
+            const ExitCode result = attempt(i);
+            if (code == ExitCode::done)
+                code = result;
+        }
+        return static_cast<int>(code);
+    }
+
+private:
+    ExitCode attempt(std::size_t i) {
+        m_reported.clear();
+        try {
+            if (m_options.action == ConvertOptions::Action::show)
+                show(m_options.drawings[i]);
+            else
+                convert(i);
+            sayWarnings();
+            return ExitCode::done;
+        } catch (const Failure& failure) {
+            say(failure.message);
+            return failure.code;
+        } catch (const RunTimeError& error) {
+            say(error.what());
+            return ExitCode::file;
+        }
+    }
+
+    void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
+
+    // What was reported on the way although the work went on.
+    void sayWarnings() {
+        for (const std::string& cause : std::exchange(m_reported, {}))
+            say("warning: " + cause);
+    }
+
+    std::string takeLastReport() {
+        const auto reported = std::exchange(m_reported, {});
+        return reported.empty() ? std::string("the reason is in the log") : reported.back();
+    }
+
+    void show(const std::filesystem::path& drawing) {
+        requireReadable(drawing);
+        Job job;
+        if (!readDrawing(job, drawing, m_logger))
+            throw Failure{ExitCode::job, takeLastReport()};
+        m_out << describeDrawing(job);
+    }
+
+    void convert(std::size_t i) {
+        const auto& drawing = m_options.drawings[i];
+        requireReadable(drawing);
+        loadTools();
+        Job job;
+        import(job, drawing);
+        if (trimBlanks(job.gstrHeader[headerDate]).empty())
+            job.gstrHeader[headerDate] = m_options.date;
+        requireTools(job, drawing);
+
+        const auto output = m_options.outputPath(i);
+        refuseOverwritingInput(output, drawing);
+        if (m_options.outputFolder)
+            std::filesystem::create_directories(*m_options.outputFolder, m_ignoredError);
+        const bool overwrite = m_options.force || m_options.output.has_value();
+        if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
+                               overwrite, m_logger))
+            throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
+        if (!m_options.quiet)
+            m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+    }
+
+    // The tool library is read once, with the first drawing that needs it.
+    void loadTools() {
+        if (m_toolsLoaded)
+            return;
+        if (m_options.tools)
+            requireReadable(*m_options.tools);
+        const auto registry = m_options.tools ? openRegistry(*m_options.tools) : openRegistry();
+        const auto value = [&](const char* name) {
+            return registry->strRegistryValueGet(name, "");
+        };
+        m_logger.setSwitches(LogSwitches::fromTexts(value("LogErrors"), value("LogTrace"),
+                                                    value("LogInfo"), value("LogExclude")));
+        ToolDataLoad(m_tools, *registry, m_logger);
+        m_toolsLoaded = true;
+        sayWarnings();
+    }
+
+    void import(Job& job, const std::filesystem::path& drawing) {
+        if (m_options.answers)
+            requireReadable(*m_options.answers);
+        const auto result =
+            m_options.answers
+                ? importDrawingWithAnswers(job, drawing, m_tools, *m_options.answers, m_logger)
+                : importDrawing(job, drawing, m_tools, savedSettingsFolder(), m_logger);
+        if (!result.imported)
+            throw Failure{ExitCode::job, takeLastReport()};
+        const std::string answers =
+            m_options.answers ? utf8FromPath(*m_options.answers) : job.gstrSavedFile;
+        switch (result.saved.outcome) {
+        case SavedOutcome::taken:
+            break;
+        case SavedOutcome::none:
+            throw Failure{ExitCode::job, utf8FromPath(drawing) +
+                                             ": there are no saved answers for this drawing (" +
+                                             answers + ")"};
+        case SavedOutcome::digestDiffers:
+            throw Failure{ExitCode::digest,
+                          utf8FromPath(drawing) + ": the answers in " + answers +
+                              " belong to another drawing or to an earlier state of this one"};
+        case SavedOutcome::damaged:
+            throw Failure{ExitCode::file, result.saved.damage};
+        }
+    }
+
+    // Names the first group that would be milled without a tool.
+    void requireTools(const Job& job, const std::filesystem::path& drawing) const {
+        visitMachinedGroups(job, [&](const MachinedGroup& group) {
+            if (job.gudtSettings[group.settings].intTool < 1)
+                throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + groupName(job, group) +
+                                                 " have no tool of the tool library"};
+        });
+    }
+
+    static void refuseOverwritingInput(const std::filesystem::path& output,
+                                       const std::filesystem::path& drawing) {
+        std::error_code error;
+        if (std::filesystem::equivalent(output, drawing, error))
+            throw Failure{ExitCode::file,
+                          utf8FromPath(output) + ": the program would replace its own drawing"};
+    }
+
+    const ConvertOptions& m_options;
+    std::ostream& m_out;
+    std::ostream& m_err;
+    std::vector<std::string> m_reported;
+    Logger m_logger;
+    ToolList m_tools;
+    bool m_toolsLoaded = false;
+    std::error_code m_ignoredError;
+};
+
+} // namespace
+
+int runConverter(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+    QString usageError;
+    const auto options = parseOptions(arguments, usageError);
+    if (!options) {
+        err << programName << ": " << usageError.toStdString() << " (see --help)\n";
+        return static_cast<int>(ExitCode::usage);
+    }
+    if (options->action == ConvertOptions::Action::help) {
+        out << helpText().toStdString();
+        return static_cast<int>(ExitCode::done);
+    }
+    if (options->action == ConvertOptions::Action::version) {
+        out << programName << ' ' << QCoreApplication::applicationVersion().toStdString() << '\n';
+        return static_cast<int>(ExitCode::done);
+    }
+    return Converter(*options, out, err).run();
+}
+
+} // namespace torvik
