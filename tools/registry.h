@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Where the settings that the workshop's programs share are kept: named texts under one key. The
-// Windows registry is one form of it, a settings file the other.
+// Windows registry is one form of it, a settings file the other. Names are the same in any case.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,22 @@ public:
                                             std::string_view defaultText) const = 0;
     // Writes the value, creating what is missing. A write that fails goes unnoticed.
     virtual void RegistryValuePut(std::string_view name, std::string_view data) = 0;
+
+    // While one lives, writes may be kept back (reads see them); at its end they are all stored.
+    class Batch {
+    public:
+        explicit Batch(Registry& registry) : m_registry(registry) { m_registry.beginBatch(); }
+        ~Batch() { m_registry.endBatch(); }
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        Registry& m_registry;
+    };
+
+protected:
+    virtual void beginBatch() {}
+    virtual void endBatch() {}
 };
 
 } // namespace torvik

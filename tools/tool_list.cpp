@@ -4,9 +4,11 @@
 namespace torvik {
 
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
-    for (std::int16_t place = 1; place <= tools.gintToolCount; ++place)
+    if (number == 0) // a record that could not be read has it
+        return 0;
+    for (int place = 1; place <= tools.gintToolCount; ++place)
         if (tools.gudtTools[place].intNumber == number)
-            return place;
+            return static_cast<std::int16_t>(place);
     return 0;
 }
 

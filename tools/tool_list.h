@@ -34,7 +34,7 @@ struct ToolList {
 inline constexpr std::array<std::string_view, 7> standardToolTypes{
     "Ball end", "Bull nose", "Drill", "End mill", "Reamer", "Router cutter", "Slot drill"};
 
-// The place of the first tool with that number, or 0.
+// The place of the first tool with that number, or 0; 0 for the number 0, which no tool has.
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number);
 
 // The tool at a place, 1 to gintToolCount. Raises SubscriptOutOfRange for any other place, 0 (no
