@@ -1,0 +1,43 @@
+# SPDX-License-Identifier: MIT
+# Read by the other scripts: the folder they work in, quiet steps, one way to configure and build.
+
+set -euo pipefail
+CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
+
+if command -v ccache >/dev/null; then
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+fi
+
+# Commands of the build that someone is watching show their progress, the others nothing.
+[[ -t 1 ]] && watched=1 || watched=
+
+say() { printf '%s\n' "$*"; }
+
+fail() {
+  printf '%s: %s\n' "${0##*/}" "$*" >&2
+  exit 1
+}
+
+# quietly WHAT COMMAND...: says what is done; shows the command's output only where it fails.
+quietly() {
+  local what=$1 output
+  shift
+  say "$what"
+  if ! output=$("$@" 2>&1 </dev/null); then
+    printf '%s\n' "$output" >&2
+    fail "this went wrong: $what ($*)"
+  fi
+}
+
+# build PRESET [OPTIONS OF CONFIGURING...]
+build() {
+  local preset=$1
+  shift
+  quietly "Configuring build/$preset" cmake --preset "$preset" "$@"
+  if [[ $watched ]]; then
+    say "Building build/$preset"
+    cmake --build --preset "$preset"
+  else
+    quietly "Building build/$preset" cmake --build --preset "$preset"
+  fi
+}
