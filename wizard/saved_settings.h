@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// The answers given for a drawing, kept in a folder of the program under the drawing's name and
+// bound to the drawing's content by its MD5 digest.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace torvik {
+
+struct Job;
+struct ToolList;
+class Logger;
+
+enum class SavedOutcome {
+    none,          // there is no file
+    digestDiffers, // it belongs to another drawing, or to an earlier state of this one
+    damaged,       // it cannot be read or understood
+    taken,         // its answers are in the job
+};
+
+struct SavedData {
+    SavedOutcome outcome = SavedOutcome::none;
+    std::string damage; // "FILE, line N: cause", for a damaged file only
+};
+
+// Keeps the job's answers in the folder, which is created where missing. All or nothing: where the
+// file cannot be written, this is logged and reported, the earlier file stays, and the result is
+// False.
+bool PutSavedData(const Job& job, const ToolList& tools, const std::filesystem::path& folder,
+                  Logger& logger);
+
+// Takes over the answers kept for the drawing that was just read. Sets gstrDigest and
+// gstrSavedFile; all else of the job changes only where the outcome is "taken", and gblnSavedFound
+// is then set. A damaged file is logged.
+SavedData GetSavedData(Job& job, const ToolList& tools, const std::filesystem::path& folder,
+                       Logger& logger);
+
+// The same from a named file.
+SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesystem::path& file,
+                           Logger& logger);
+
+// The MD5 digest of the file's bytes in lower-case hexadecimal. Raises FileError.
+std::string strDigestFile(const std::filesystem::path& path);
+
+} // namespace torvik
