@@ -1,0 +1,1 @@
+ SP 1;PU;PD9;PD.5,-1E1; PD1D+2,	+3.;pd1,1;LBtext;ÄPD1,1;PD4²,5;PD--1,&H10
