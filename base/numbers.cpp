@@ -77,14 +77,14 @@ double leadingNumber(std::string_view text) {
         negative = *at++ == '-';
 
     const char* const whole = at;
-    at = skipDigits(at, end);
+    std::uint64_t shortNumber = 0; // right as long as it has at most 15 digits
+    for (; at != end && isDigit(*at); ++at)
+        shortNumber = shortNumber * 10 + static_cast<std::uint64_t>(*at - '0');
     auto digits = at - whole;
-    if (digits > 0 && digits < 16 && (at == end || *at == ',')) {
-        // Most numbers of a drawing are short whole ones.
-        std::int64_t value = 0;
-        for (const char* digit = whole; digit != at; ++digit)
-            value = value * 10 + (*digit - '0');
-        return static_cast<double>(negative ? -value : value);
+    if (digits > 0 && digits <= 15 && (at == end || *at == ',')) {
+        // Most numbers of a drawing are of this kind.
+        const auto value = static_cast<double>(shortNumber);
+        return negative ? -value : value;
     }
     if (at != end && *at == '.') {
         const char* const fraction = at + 1;

@@ -35,4 +35,10 @@ inline float singleDistance(float a, float b) {
 inline constexpr double positionTolerance = 0.001; // mm
 inline constexpr double radiusTolerance = 0.01;    // mm
 
+// Whether two points are the same place, in X and in Y alike.
+inline bool isSamePosition(float x1, float y1, float x2, float y2) {
+    return singleDistance(x1, x2) <= positionTolerance &&
+           singleDistance(y1, y2) <= positionTolerance;
+}
+
 } // namespace torvik

@@ -3,6 +3,7 @@
 
 #include "base/errors.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -27,27 +28,39 @@ std::uint64_t roundedProduct(double value, double power) {
     return whole;
 }
 
+// The value with at least so many digits.
 char* putDigits(char* out, std::uint64_t value, int atLeast) {
     std::array<char, 20> digits;
-    auto at = digits.end();
-    do {
-        *--at = static_cast<char>('0' + value % 10);
-        value /= 10;
-        --atLeast;
-    } while (value > 0 || atLeast > 0);
-    while (at != digits.end())
-        *out++ = *at++;
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    for (auto missing = atLeast - (end - digits.data()); missing > 0; --missing)
+        *out++ = '0';
+    return std::copy(static_cast<const char*>(digits.data()), end, out);
+}
+
+template <std::uint64_t Power>
+char* putScaled(char* out, std::uint64_t scaled) {
+    out = std::to_chars(out, out + 20, scaled / Power).ptr;
+    *out++ = '.';
+    auto rest = static_cast<std::uint32_t>(scaled % Power);
+    for (auto unit = static_cast<std::uint32_t>(Power / 10); unit > 0; unit /= 10) {
+        *out++ = static_cast<char>('0' + rest / unit);
+        rest %= unit;
+    }
     return out;
 }
 
+// Divisions by constants: most of a program's text is made here.
 char* putDecimals(char* out, std::uint64_t scaled, int decimals) {
-    const auto power = static_cast<std::uint64_t>(powersOfTen[static_cast<std::size_t>(decimals)]);
-    out = putDigits(out, scaled / power, 1);
-    if (decimals > 0) {
-        *out++ = '.';
-        out = putDigits(out, scaled % power, decimals);
+    switch (decimals) {
+    case 0:
+        return std::to_chars(out, out + 20, scaled).ptr;
+    case 1:
+        return putScaled<10>(out, scaled);
+    case 2:
+        return putScaled<100>(out, scaled);
+    default:
+        return putScaled<1000>(out, scaled);
     }
-    return out;
 }
 
 } // namespace

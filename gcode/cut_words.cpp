@@ -4,6 +4,8 @@
 #include "base/numbers.h"
 #include "gcode/statement_text.h"
 
+#include <utility>
+
 namespace torvik {
 namespace {
 
@@ -17,12 +19,18 @@ std::string_view motion(const Path& path) {
     return path.intType == arcClockwise ? "G2" : "G3";
 }
 
+bool startsAtEndOf(const Path& path, const Path& before) {
+    return isSamePosition(path.sngStartX, path.sngStartY, before.sngEndX, before.sngEndY);
+}
+
 } // namespace
 
-CutWords::CutWords(Job& job, const PathSubscripts& paths) {
-    constexpr std::size_t usualBytes = 28; // of "G1 X123.456 Y123.456" and some arcs
+CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedWord)
+    : m_feedWord(feedWord) {
+    constexpr std::size_t usualBytes = 32; // of "G1 X123.456 Y123.456 F600" and some arcs
     m_cuts.reserve(paths.size());
     m_text.reserve(paths.size() * usualBytes);
+    const Path* before = nullptr;
     StatementText words;
     for (const std::int16_t subscript : paths) {
         Path& path = job.gudtPaths[subscript];
@@ -35,11 +43,28 @@ CutWords::CutWords(Job& job, const PathSubscripts& paths) {
             path.sngOffsetJ = toSingle(double{path.sngCentreY} - path.sngStartY);
             words.position(" I", path.sngOffsetI).position(" J", path.sngOffsetJ);
         }
-        m_cuts.push_back({subscript, path.sngStartX, path.sngStartY, path.sngEndX, path.sngEndY,
-                          static_cast<std::uint32_t>(m_text.size()),
-                          static_cast<std::uint32_t>(words.text().size())});
+        words.put(feedWord);
+        m_cuts.push_back({static_cast<std::uint32_t>(m_text.size()),
+                          static_cast<std::uint16_t>(words.text().size()), subscript,
+                          before != nullptr && startsAtEndOf(path, *before)});
         m_text += words.text();
+        before = &path;
     }
+}
+
+void CutWords::changeFeed(std::string_view feedWord) {
+    if (feedWord == m_feedWord)
+        return;
+    const std::string former = std::exchange(m_text, {});
+    m_text.reserve(former.size() + m_cuts.size() * feedWord.size());
+    for (Cut& cut : m_cuts) {
+        const std::size_t words = cut.textSize - m_feedWord.size();
+        const auto start = static_cast<std::uint32_t>(m_text.size());
+        m_text.append(former, cut.text, words).append(feedWord);
+        cut.text = start;
+        cut.textSize = static_cast<std::uint16_t>(words + feedWord.size());
+    }
+    m_feedWord = feedWord;
 }
 
 } // namespace torvik

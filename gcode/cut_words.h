@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The words of a pen's paths as text, formatted once: every depth pass writes the same words, only
-// feed and Z differ.
+// The statements that cut a pen's paths, as text that is formatted once: every depth pass writes
+// the same words, only Z and, for the final pass, the feed differ.
 #pragma once
 
 #include "gcode/path_index.h"
@@ -13,22 +13,23 @@ namespace torvik {
 
 class CutWords {
 public:
-    // One path that is cut, with its end points at hand for the comparison of positions.
+    // One path that is cut.
     struct Cut {
-        std::int16_t path = 0; // subscript of gudtPaths
-        float startX = 0;
-        float startY = 0;
-        float endX = 0;
-        float endY = 0;
-        std::uint32_t text = 0; // place of "G1 X.. Y..", "G2 ...", "G3 ..." without the feed
-        std::uint32_t textSize = 0;
+        std::uint32_t text; // where its statement starts
+        std::uint16_t textSize;
+        std::int16_t path; // subscript of gudtPaths
+        bool connected;    // it starts where the cut before it ends
     };
 
     // Takes the lines and arcs among the paths; paths of other kinds are passed over. Stores
     // centre minus start in the arcs' sngOffsetI and sngOffsetJ.
-    CutWords(Job& job, const PathSubscripts& paths);
+    CutWords(Job& job, const PathSubscripts& paths, std::string_view feedWord);
+
+    // Puts another feed at the end of every statement.
+    void changeFeed(std::string_view feedWord);
 
     const std::vector<Cut>& cuts() const { return m_cuts; }
+    // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ...".
     std::string_view text(const Cut& cut) const {
         return std::string_view(m_text).substr(cut.text, cut.textSize);
     }
@@ -36,6 +37,7 @@ public:
 private:
     std::vector<Cut> m_cuts;
     std::string m_text;
+    std::string m_feedWord;
 };
 
 } // namespace torvik

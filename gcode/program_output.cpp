@@ -15,7 +15,12 @@ namespace {
 constexpr std::size_t bufferBytes = std::size_t{1} << 18;
 constexpr std::string_view lineEndText = "\r\n";
 constexpr std::int16_t lastBlockNumber = 9999;
-constexpr std::size_t blockNumberBytes = 24;
+
+char* put(char* out, std::string_view text) {
+    if (!text.empty()) // an empty view may point nowhere
+        std::memcpy(out, text.data(), text.size());
+    return out + text.size();
+}
 
 } // namespace
 
@@ -48,34 +53,35 @@ void FileSink::fail(const char* what) {
     throw error;
 }
 
+char* BlockNumber::put(char* out, std::int16_t number) {
+    char& lastDigit = m_text[m_size < 2 ? 0 : m_size - 2];
+    if (number == m_number + 1 && lastDigit < '9' && m_size > 0) {
+        ++lastDigit;
+    } else {
+        m_text[0] = 'N';
+        char* const end = putInteger(m_text.data() + 1, number);
+        *end = ' ';
+        m_size = static_cast<std::size_t>(end + 1 - m_text.data());
+    }
+    m_number = number;
+    std::memcpy(out, m_text.data(), maxSize);
+    return out + m_size;
+}
+
 ProgramOutput::ProgramOutput(ByteSink& sink) : m_sink(sink), m_buffer(bufferBytes, '\0') {}
 
 void ProgramOutput::WriteLine(std::string_view text, bool lineEnd) {
-    makeRoom(text.size() + lineEndText.size());
-    char* const start = m_buffer.data() + m_used;
-    char* out = start;
-    if (!text.empty())
-        std::memcpy(out, text.data(), text.size());
-    out += text.size();
-    if (lineEnd) {
-        std::memcpy(out, lineEndText.data(), lineEndText.size());
-        out += lineEndText.size();
-    }
-    m_used += static_cast<std::size_t>(out - start);
+    char* out = put(room(text.size() + lineEndText.size()), text);
+    use(lineEnd ? put(out, lineEndText) : out);
 }
 
 void ProgramOutput::CommandLine(Job& job, std::string_view text) {
     ++job.gintLineNumber;
     if (job.gintLineNumber > lastBlockNumber)
         job.gintLineNumber = 1;
-    makeRoom(blockNumberBytes + text.size() + lineEndText.size());
-    char* const start = m_buffer.data() + m_used;
-    char* out = start;
-    *out++ = 'N';
-    out = putInteger(out, job.gintLineNumber);
-    *out++ = ' ';
-    m_used += static_cast<std::size_t>(out - start);
-    WriteLine(text);
+    char* out = room(BlockNumber::maxSize + text.size() + lineEndText.size());
+    out = put(m_blockNumber.put(out, job.gintLineNumber), text);
+    use(put(out, lineEndText));
 }
 
 void ProgramOutput::flush() {
@@ -88,12 +94,13 @@ void ProgramOutput::flush() {
     m_failed = false;
 }
 
-void ProgramOutput::makeRoom(std::size_t bytes) {
-    if (m_buffer.size() - m_used >= bytes)
-        return;
-    flush();
-    if (m_buffer.size() < bytes)
-        m_buffer.resize(bytes);
+char* ProgramOutput::room(std::size_t bytes) {
+    if (m_buffer.size() - m_used < bytes) {
+        flush();
+        if (m_buffer.size() < bytes)
+            m_buffer.resize(bytes);
+    }
+    return m_buffer.data() + m_used;
 }
 
 } // namespace torvik

@@ -5,6 +5,7 @@
 
 #include "base/errors.h"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -57,6 +58,19 @@ private:
     std::optional<FileError> m_failure;
 };
 
+// "N", a block number and a blank as text; the number after the last one is counted up in place.
+class BlockNumber {
+public:
+    // Copies as much as the longest number takes and returns the end of what counts of it.
+    static constexpr std::size_t maxSize = 8;
+    char* put(char* out, std::int16_t number);
+
+private:
+    std::array<char, maxSize> m_text{};
+    std::size_t m_size = 0;
+    int m_number = 0;
+};
+
 class ProgramOutput {
 public:
     explicit ProgramOutput(ByteSink& sink);
@@ -71,11 +85,14 @@ public:
     void flush();
 
 private:
-    void makeRoom(std::size_t bytes);
+    // Where the next bytes go, with room for so many.
+    char* room(std::size_t bytes);
+    void use(const char* end) { m_used = static_cast<std::size_t>(end - m_buffer.data()); }
 
     ByteSink& m_sink;
     std::string m_buffer; // of fixed size, filled up to m_used
     std::size_t m_used = 0;
+    BlockNumber m_blockNumber;
     bool m_failed = false;
 };
 

@@ -12,6 +12,8 @@
 #include "job/machined_groups.h"
 #include "tools/tool_list.h"
 
+#include <optional>
+
 namespace torvik {
 namespace {
 
@@ -89,10 +91,7 @@ private:
         m_y = y;
     }
 
-    bool isAt(float x, float y) const {
-        return singleDistance(x, m_x) <= positionTolerance &&
-               singleDistance(y, m_y) <= positionTolerance;
-    }
+    bool isAt(float x, float y) const { return isSamePosition(x, y, m_x, m_y); }
 
     void setSpindle(const Settings& settings) {
         m_speed = settings.sngSpindleSpeed;
@@ -127,12 +126,14 @@ private:
         rapidToHeight(safe);
     }
 
+    StatementText feedWord(float feed) const { return StatementText("").feed(m_dialect, feed); }
+
     void cut(std::int16_t pen, const Settings& settings) {
-        const CutWords words(m_job, m_paths.ofPen(pen));
+        std::optional<CutWords> words;
+        float feed = settings.sngFeedHorizontal;
         const float bottom = -settings.sngDepth;
         const float step = stepOrDepth(settings);
         float floor = toSingle(double{settings.sngFinalPassDepth} - settings.sngDepth);
-        float feed = settings.sngFeedHorizontal;
         for (float z = 0; z > bottom;) {
             z = oneStepDown(z, step);
             if (z <= floor) {
@@ -142,27 +143,31 @@ private:
                 else if (settings.sngFeedFinalPass > 0)
                     feed = settings.sngFeedFinalPass;
             }
-            cutPass(words, z, feed, settings.sngFeedVertical);
+            if (words)
+                words->changeFeed(feedWord(feed));
+            else
+                words.emplace(m_job, m_paths.ofPen(pen), feedWord(feed));
+            cutPass(*words, z, settings.sngFeedVertical);
         }
     }
 
-    void cutPass(const CutWords& words, float z, float feed, float feedDown) {
-        const StatementText feedWord = StatementText().feed(m_dialect, feed);
-        StatementText text;
+    void cutPass(const CutWords& words, float z, float feedDown) {
+        bool first = true;
         for (const CutWords::Cut& cut : words.cuts()) {
-            if (!isAt(cut.startX, cut.startY)) {
+            const Path& path = m_job.gudtPaths[cut.path];
+            if (first ? !isAt(path.sngStartX, path.sngStartY) : !cut.connected) {
                 if (m_z != m_job.gsngSafeHeight)
                     rapidToHeight(m_job.gsngSafeHeight);
-                rapidTo(cut.startX, cut.startY);
+                rapidTo(path.sngStartX, path.sngStartY);
             }
+            first = false;
             if (m_z > m_job.gsngRapidDownTo)
                 rapidToHeight(m_job.gsngRapidDownTo);
             if (m_z > z)
                 feedToHeight(z, feedDown);
-            text.clear();
-            command(text.put(words.text(cut)).put(feedWord));
-            m_x = cut.endX;
-            m_y = cut.endY;
+            command(words.text(cut));
+            m_x = path.sngEndX;
+            m_y = path.sngEndY;
         }
     }
 

@@ -116,22 +116,24 @@ private:
 };
 
 struct Instruction {
-    std::string_view mnemonic;
+    std::array<char, 2> mnemonic;
     void (Plotter::*perform)(std::string_view parameters);
 };
 
 // The whole language: pen select (0 or none ends the drawing), move, draw a line, draw an arc
 // about a centre by a sweep, draw a circle about the current point.
 constexpr std::array<Instruction, 5> instructions{{
-    {"PD", &Plotter::draw},
-    {"PU", &Plotter::move},
-    {"AA", &Plotter::drawArc},
-    {"CI", &Plotter::drawCircle},
-    {"SP", &Plotter::selectPen},
+    {{'P', 'D'}, &Plotter::draw},
+    {{'P', 'U'}, &Plotter::move},
+    {{'A', 'A'}, &Plotter::drawArc},
+    {{'C', 'I'}, &Plotter::drawCircle},
+    {{'S', 'P'}, &Plotter::selectPen},
 }};
 
 void performPart(Plotter& plotter, std::string_view part) {
-    const auto mnemonic = part.substr(0, 2);
+    if (part.size() < 2)
+        return;
+    const std::array<char, 2> mnemonic{part[0], part[1]};
     for (const Instruction& instruction : instructions) {
         if (instruction.mnemonic == mnemonic) {
             (plotter.*instruction.perform)(part.substr(2));
@@ -193,6 +195,9 @@ private:
 } // namespace
 
 void readInstructions(Job& job, std::string bytes, std::string_view fileName, Logger& logger) {
+    constexpr long shortestElement = 5; // "PD1,;"
+    job.gudtPaths.reserve(std::min(static_cast<long>(bytes.size()) / shortestElement,
+                                   long{std::numeric_limits<std::int16_t>::max()}));
     Plotter plotter(job, logger);
     LineSplitter lines(bytes);
     for (long number = 1; !lines.atEnd() && !plotter.stopped(); ++number) {
