@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Step 2: the three heights of the whole job and the unit in which feeds are typed.
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QLineEdit;
+class QRadioButton;
+
+namespace torvik {
+
+struct Workshop;
+class WizardHost;
+
+class GlobalsPage : public QWidget {
+    Q_OBJECT
+
+public:
+    GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent = nullptr);
+
+    // Puts the boxes txtGlob0 to txtGlob2 and the unit options into the job.
+    void SaveGlobals();
+    // Fills them from the job: heights as whole millimetres, 0 as an empty box.
+    void RestoreGlobals();
+    // Whether all three heights are other than zero and can be stored; else says which is not,
+    // selects it and gives it the focus.
+    bool blnGlobalsValid();
+
+    // Whether every height holds at least one character and a unit is chosen.
+    bool isFilled() const;
+    // On entry to the step: cmdNext by isFilled(), the focus in the first empty height.
+    void enter();
+
+private:
+    Workshop& m_workshop;
+    WizardHost& m_host;
+    std::array<QLineEdit*, 3> m_heights{};
+    std::array<QRadioButton*, 2> m_units{};
+};
+
+} // namespace torvik

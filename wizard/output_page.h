@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Step 6: the control to write for, and where the diskette drive leads.
+#pragma once
+
+#include <QWidget>
+
+#include <cstdint>
+
+namespace torvik {
+
+struct Workshop;
+
+class OutputPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit OutputPage(Workshop& workshop, QWidget* parent = nullptr);
+
+    // The code of the option button optOutput1 to optOutput4 that is set; one always is.
+    std::int16_t target() const;
+    // Remembers the target for the next time.
+    void rememberTarget();
+};
+
+} // namespace torvik
