@@ -195,8 +195,8 @@ private:
 } // namespace
 
 void readInstructions(Job& job, std::string bytes, std::string_view fileName, Logger& logger) {
-    constexpr long shortestElement = 5; // "PD1,;"
-    job.gudtPaths.reserve(std::min(static_cast<long>(bytes.size()) / shortestElement,
+    constexpr long shortElement = 5; // "PD1,;", few are shorter
+    job.gudtPaths.reserve(std::min(static_cast<long>(bytes.size()) / shortElement,
                                    long{std::numeric_limits<std::int16_t>::max()}));
     Plotter plotter(job, logger);
     LineSplitter lines(bytes);
