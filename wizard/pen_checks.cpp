@@ -49,8 +49,10 @@ bool isNumberCharacter(char32_t character, bool minusAllowed) {
            (character == U'-' && minusAllowed);
 }
 
-std::string discardedHint(char32_t character) {
-    return character == U',' ? "Use the point" : "Only digits and the point";
+std::string discardedHint(char32_t character, bool minusAllowed) {
+    if (character == U',')
+        return "Use the point";
+    return minusAllowed ? "Only digits, the point and the minus sign" : "Only digits and the point";
 }
 
 void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor) {

@@ -19,7 +19,7 @@ struct PenBoxes {
 // minus sign where negative numbers make sense.
 bool isNumberCharacter(char32_t character, bool minusAllowed);
 // What the user is told about a character that a numeric box does not take.
-std::string discardedHint(char32_t character);
+std::string discardedHint(char32_t character, bool minusAllowed);
 
 // FinalDepth's work on the boxes after row `index` was edited or left, which asks for:
 // - an edited cutting feed sets the vertical feed to a quarter of it (cutting form);

@@ -13,10 +13,21 @@ namespace torvik {
 NumberBox::NumberBox(bool minusAllowed, QWidget* parent)
     : QLineEdit(parent), m_minusAllowed(minusAllowed) {
     setInputMethodHints(Qt::ImhPreferNumbers);
+    setAlignment(Qt::AlignRight);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (const char32_t wrong = firstWrong(text))
             showHint(wrong);
     });
+}
+
+QSize NumberBox::sizeHint() const {
+    constexpr int usualLetters = 17; // that a line edit makes room for
+    const QFontMetrics metrics = fontMetrics();
+    QSize size = QLineEdit::sizeHint();
+    size.rwidth() +=
+        10 * metrics.horizontalAdvance(u'0') - usualLetters * metrics.horizontalAdvance(u'x');
+    return size;
 }
 
 void NumberBox::keyPressEvent(QKeyEvent* event) {
@@ -66,7 +77,7 @@ char32_t NumberBox::firstWrong(const QString& text) const {
 
 void NumberBox::showHint(char32_t wrong) {
     QToolTip::showText(mapToGlobal(QPoint(0, height())),
-                       QString::fromStdString(discardedHint(wrong)), this);
+                       QString::fromStdString(discardedHint(wrong, m_minusAllowed)), this);
 }
 
 } // namespace torvik

@@ -14,6 +14,9 @@ class NumberBox : public QLineEdit {
 public:
     explicit NumberBox(bool minusAllowed, QWidget* parent = nullptr);
 
+    // Room for ten digits.
+    QSize sizeHint() const override;
+
 signals:
     // The focus went to another control of the window; not: the window or a dialog took it.
     void left();
