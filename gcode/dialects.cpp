@@ -4,6 +4,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "base/picture.h"
+#include "tools/tool_list.h"
 
 #include <algorithm>
 #include <array>
@@ -134,11 +135,15 @@ constexpr Dialect noDialect{.code = 0,
                             .diskettePrefix = {},
                             .extension = {}};
 
+std::int16_t toolNumber(const StatementValues& values) {
+    return toolAt(*values.tools, values.toolPlace).intNumber;
+}
+
 std::string placeText(std::string_view place, const StatementValues& values) {
     if (place == "tool")
-        return formatInteger(values.toolNumber);
+        return formatInteger(toolNumber(values));
     if (place == "offset")
-        return formatInteger(toInt16(2.0 * values.toolNumber - 1));
+        return formatInteger(toInt16(2.0 * toolNumber(values) - 1));
     if (place == "speed")
         return formatFixed(values.spindleSpeed, 0);
     if (place == "dwell")

@@ -10,6 +10,8 @@
 
 namespace torvik {
 
+struct ToolList;
+
 // Codes of the targets.
 inline constexpr std::int16_t targetWinCam = 1;
 inline constexpr std::int16_t targetWinNc = 2;
@@ -59,7 +61,8 @@ const Dialect* dialectNamed(std::string_view optionName);
 
 // What the places of a statement stand for.
 struct StatementValues {
-    std::int16_t toolNumber = 0;
+    const ToolList* tools = nullptr; // of {tool} and {offset}
+    std::int16_t toolPlace = 0;
     float spindleSpeed = 0;
     float toolChangeHeight = 0;
     double dwell = 0; // in the dialect's own unit
@@ -69,7 +72,8 @@ struct StatementValues {
 
 // Appends the statement with its places filled: {tool} the tool number, {offset} 2 x tool - 1,
 // {speed} "0", {dwell}, {toolChange} "0.00", {number} plain, {number4} "0000". Raises Overflow
-// where an offset leaves 16 bits.
+// where an offset leaves 16 bits, and SubscriptOutOfRange where a statement names a tool that is
+// not in the list.
 void expand(std::string& out, std::string_view statement, const StatementValues& values);
 
 } // namespace torvik

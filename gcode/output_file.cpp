@@ -48,16 +48,17 @@ bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::
     writeOpening(job, dialect.openingAfterHeader, number, output);
     const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
     output.flush();
-    return whole;
+    return whole && !output.failed();
 }
 
-void writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+bool writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger) {
     ProgramOutput output(sink);
     output.WriteLine("Origin - " + latin1Line(absolutePlotFile(job)));
     output.WriteLine("File - " + latin1Line(fileName));
     WriteHeader(job, tools, "", output, logger);
     output.flush();
+    return !output.failed();
 }
 
 std::filesystem::path sideTextPath(const std::filesystem::path& program) {
@@ -75,12 +76,15 @@ WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std
     bool whole = false;
     const bool stored = withErrorTrap(logger, here, [&] {
         whole = writeProgram(job, tools, dialect, number, *program, logger);
+        if (!whole)
+            return; // told already
         program->close();
-        if (whole && dialect.needsNumber()) {
-            FileSink sideText(sideTextPath(file));
-            writeSideText(job, tools, utf8FromPath(file.filename()), sideText, logger);
+        if (!dialect.needsNumber())
+            return;
+        FileSink sideText(sideTextPath(file));
+        whole = writeSideText(job, tools, utf8FromPath(file.filename()), sideText, logger);
+        if (whole)
             sideText.close();
-        }
     });
     return stored && whole ? WriteOutcome::written : WriteOutcome::failed;
 }

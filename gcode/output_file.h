@@ -29,13 +29,14 @@ WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std
                        const std::filesystem::path& file, Logger& logger);
 
 // The program alone, into any sink. False after a trapped error that ended the body; an error in
-// the header (more than sixteen tools) is reported and passed over.
+// the header (more than sixteen tools) is reported and passed over, a failed write excepted.
 bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
                   ByteSink& sink, Logger& logger);
 
 // The text beside a program: where the drawing is, the program's name without its folder, and the
-// header. Raises FileError where the sink does.
-void writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+// header. Raises FileError where the sink does; False where that was reported already, in the
+// header.
+bool writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger);
 
 // The program's name with ".txt" behind it.

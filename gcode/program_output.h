@@ -83,6 +83,8 @@ public:
     // Passes what is gathered on. Whatever is not flushed is lost with the object. After a failed
     // write there is nothing more to pass on: the failure was raised once.
     void flush();
+    // A write has failed, so the output is not whole.
+    bool failed() const { return m_failed; }
 
 private:
     // Where the next bytes go, with room for so many.

@@ -10,7 +10,6 @@
 #include "gcode/program_output.h"
 #include "gcode/statement_text.h"
 #include "job/machined_groups.h"
-#include "tools/tool_list.h"
 
 #include <optional>
 
@@ -36,8 +35,9 @@ float stepOrDepth(const Settings& settings) {
 class BodyWriter {
 public:
     BodyWriter(Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
-        : m_job(job), m_tools(tools), m_dialect(dialect), m_output(output), m_paths(job),
+        : m_job(job), m_dialect(dialect), m_output(output), m_paths(job),
           m_z(job.gsngToolChangeHeight) {
+        m_values.tools = &tools;
         m_values.toolChangeHeight = job.gsngToolChangeHeight;
         m_values.dwellDecimals = dialect.dwellDecimals;
     }
@@ -117,7 +117,7 @@ private:
             put(m_dialect.retract);
             m_z = m_job.gsngToolChangeHeight;
         }
-        m_values.toolNumber = toolAt(m_tools, settings.intTool).intNumber;
+        m_values.toolPlace = settings.intTool;
         if (m_toolLoaded)
             put(m_dialect.toolUnload);
         put(m_dialect.tool);
@@ -202,7 +202,6 @@ private:
     }
 
     Job& m_job;
-    const ToolList& m_tools;
     const Dialect& m_dialect;
     ProgramOutput& m_output;
     PathIndex m_paths;
