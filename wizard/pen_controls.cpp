@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/pen_controls.h"
 
+#include "wizard/pen_diagram.h"
 #include "wizard/pen_number_box.h"
-#include "wizard/pen_picture.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -72,13 +72,13 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     }
     column->addStretch();
 
-    controls.picture = new PenPicture(&page);
-    controls.picture->setObjectName("picCut");
-    controls.picture->setToolTip("What the details below are about, seen from the side");
+    controls.diagram = new PenDiagram(&page);
+    controls.diagram->setObjectName("picCut");
+    controls.diagram->setToolTip("What the details below are about, seen from the side");
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addLayout(column, 1);
-    row->addWidget(controls.picture, 0, Qt::AlignTop);
+    row->addWidget(controls.diagram, 0, Qt::AlignTop);
     layout.addLayout(row);
 }
 
@@ -199,7 +199,7 @@ void showPenRows(const PenControls& controls, PenForm form, std::string_view fee
     controls.toolPanel->setVisible(asked);
     controls.cmdTool->setVisible(asked);
     controls.holesFollow->setVisible(!asked);
-    controls.picture->setForm(form);
+    controls.diagram->setForm(form);
 }
 
 void openBox(NumberBox& box, bool open) {

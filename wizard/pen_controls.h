@@ -18,7 +18,7 @@ class QWidget;
 namespace torvik {
 
 class NumberBox;
-class PenPicture;
+class PenDiagram;
 
 // The help context number of a control, a property of it.
 inline constexpr const char* helpContextProperty = "helpContext";
@@ -31,7 +31,7 @@ struct PenControls {
     QLabel* title = nullptr;
     std::array<QRadioButton*, 2> optCut{};
     QButtonGroup* choice = nullptr;
-    PenPicture* picture = nullptr;
+    PenDiagram* diagram = nullptr;
 
     QWidget* toolPanel = nullptr; // holds the labels and the button
     std::array<QLabel*, 3> toolLabels{};

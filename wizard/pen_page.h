@@ -4,6 +4,7 @@
 // pen_values.h, pen_checks.h and pen_position.h.
 #pragma once
 
+#include "base/error_trap.h"
 #include "wizard/pen_checks.h"
 #include "wizard/pen_controls.h"
 #include "wizard/wizard_host.h"
@@ -78,7 +79,6 @@ private:
     void showDetails();
     void showState();
     void showTool();
-    void showPeckRow();
     void setCut(std::int16_t Index);
     bool askForDrilling();
     void cancelledTool();
@@ -98,7 +98,10 @@ private:
 
     // Runs the work; a failure is logged unless the last run failed too.
     template <typename Work>
-    void quietly(bool& failed, std::string_view procedure, Work&& work);
+    void quietly(bool& failed, std::string_view procedure, Work&& work) {
+        failed = !withQuietErrorTrap(failed ? m_muted : m_workshop.logger, {procedure, "modHpgl"},
+                                     std::forward<Work>(work));
+    }
 
     Workshop& m_workshop;
     WizardHost& m_host;

@@ -9,9 +9,9 @@
 
 namespace torvik {
 
-class PenPicture : public QWidget {
+class PenDiagram : public QWidget {
 public:
-    explicit PenPicture(QWidget* parent = nullptr);
+    explicit PenDiagram(QWidget* parent = nullptr);
 
     void setForm(PenForm form);
     QSize sizeHint() const override;

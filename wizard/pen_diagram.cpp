@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wizard/pen_picture.h"
+#include "wizard/pen_diagram.h"
 
 #include <QPainter>
 
@@ -59,20 +59,20 @@ void drawDrilling(QPainter& painter) {
 
 } // namespace
 
-PenPicture::PenPicture(QWidget* parent) : QWidget(parent) {
+PenDiagram::PenDiagram(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-void PenPicture::setForm(PenForm form) {
+void PenDiagram::setForm(PenForm form) {
     m_form = form;
     update();
 }
 
-QSize PenPicture::sizeHint() const {
+QSize PenDiagram::sizeHint() const {
     return {pictureWidth, pictureHeight};
 }
 
-void PenPicture::paintEvent(QPaintEvent*) {
+void PenDiagram::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(width() / double{pictureWidth}, height() / double{pictureHeight});
