@@ -4,7 +4,6 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
-#include "base/picture.h"
 #include "base/text.h"
 #include "convert/exit_codes.h"
 #include "convert/options.h"
@@ -33,14 +32,6 @@ struct Failure {
     ExitCode code;
     std::string message;
 };
-
-std::string groupName(const Job& job, const MachinedGroup& group) {
-    const Pen& pen = job.gudtPens[group.pen];
-    if (group.radius == 0)
-        return "the " + pen.strColour + " lines";
-    return "the " + pen.strColour + " holes of " +
-           formatFixed(2.0 * pen.sngRadii[group.radius], 1) + " mm";
-}
 
 class Converter {
 public:
@@ -169,7 +160,7 @@ private:
     void requireTools(const Job& job, const std::filesystem::path& drawing) const {
         visitMachinedGroups(job, [&](const MachinedGroup& group) {
             if (job.gudtSettings[group.settings].intTool < 1)
-                throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + groupName(job, group) +
+                throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + groupText(job.gudtPens[group.pen], group.radius) +
                                                  " have no tool of the tool library"};
         });
     }

@@ -4,6 +4,8 @@
 
 #include "job/job.h"
 
+#include <string>
+
 namespace torvik {
 
 // One stretch of the program: a pen that is cut, or one hole size of a pen that is drilled.
@@ -29,5 +31,8 @@ void visitMachinedGroups(const Job& job, Visit visit) {
             visit(MachinedGroup{number, k, static_cast<std::int16_t>(pen.intSettings + k)});
     }
 }
+
+// What a group machines, as the user reads it: "the Red lines", "the 6.0 mm Blue holes".
+std::string groupText(const Pen& pen, std::int16_t radius);
 
 } // namespace torvik

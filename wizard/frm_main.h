@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// frmMain, the main window: the six-step wizard over the one job. Its pages do their own work;
+// here stands what joins them.
+#pragma once
+
+#include "wizard/frame_services.h"
+#include "wizard/kept_answers.h"
+#include "wizard/wizard_host.h"
+#include "wizard/workshop.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <filesystem>
+
+class QLabel;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+
+namespace torvik {
+
+class ColourTreeView;
+class GlobalsPage;
+class HeaderPage;
+class OrderPage;
+class OutputPage;
+class PenPage;
+class PreviewWidget;
+class StepList;
+
+class FrmMain : public QMainWindow, public WizardHost {
+    Q_OBJECT
+
+public:
+    FrmMain(Workshop& workshop, FrameServices services);
+
+    // Saves and checks the page on show and lays out the next: -1 for Back, 1 for Next and Start.
+    void Wizard(std::int16_t intDirection);
+    // Asks for a drawing, imports it and lays out step 2. Cancelling changes nothing.
+    void ReadFile();
+    // The same for a drawing that is named already (recent, dropped).
+    void ReadFile(const std::filesystem::path& drawing);
+    // Ends the program, after a question where a program has not been written yet. False where
+    // the user stays.
+    bool CheckClose();
+    // Restores and raises the window for a second start of the program.
+    void bringToFront();
+
+    void setNextEnabled(bool enabled) override;
+    void updateTree() override;
+    void PlotLines() override;
+    void clearPreview() override;
+    void plotBlink(const std::vector<std::int16_t>& paths, bool visible) override;
+    void startFlashing(int milliseconds) override;
+    void stopFlashing() override;
+    void startToolSelection() override;
+    void leavePensBackward() override;
+    void leavePensForward() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildWindow();
+    QWidget* buildSide();
+    QWidget* buildStartPage();
+    QWidget* buildButtons();
+    void buildMenu();
+    void fillRecentMenu();
+
+    void fromStep2(std::int16_t direction);
+    void fromStep3(std::int16_t direction);
+    void fromStep4(std::int16_t direction);
+    void fromStep5(std::int16_t direction);
+    void fromStep6(std::int16_t direction);
+
+    bool agreesToOpen();
+    void importFrom(const std::filesystem::path& drawing);
+    void layOutImported();
+    void returnToStart();
+    void warnOfEmptyDrawing();
+    void writeOutput();
+    // tmrToolSelect has run out: the tool selection, then PenPage::ToolSelection.
+    void selectTool();
+    void showStep(std::int16_t step);
+    void pressForward();
+    void showHelpFor(const QWidget* control);
+    // Runs the work when the running event has ended: a dialog never opens inside one.
+    template <typename Work>
+    void later(Work work) {
+        QTimer::singleShot(0, this, std::move(work));
+    }
+
+    Workshop& m_workshop;
+    FrameServices m_services;
+    KeptAnswers m_kept;
+    bool m_closing = false;
+
+    QTimer m_flash;
+    QTimer m_toolSelect;
+    StepList* m_steps = nullptr;
+    ColourTreeView* m_tree = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    QLabel* m_importedLabel = nullptr;
+    GlobalsPage* m_globals = nullptr;
+    PenPage* m_pens = nullptr;
+    OrderPage* m_order = nullptr;
+    HeaderPage* m_header = nullptr;
+    OutputPage* m_output = nullptr;
+    PreviewWidget* m_preview = nullptr;
+    QPushButton* m_back = nullptr;
+    QPushButton* m_next = nullptr;
+    QPushButton* m_start = nullptr;
+    QMenu* m_recent = nullptr;
+};
+
+} // namespace torvik

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/own_settings.h"
+
+namespace torvik {
+
+std::unique_ptr<QSettings> ownSettings() {
+    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                       QStringLiteral("Torvik"), QStringLiteral("Torvik"));
+}
+
+} // namespace torvik

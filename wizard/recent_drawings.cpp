@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/recent_drawings.h"
+
+#include "base/files.h"
+#include "wizard/own_settings.h"
+
+#include <QFileInfo>
+
+namespace torvik {
+namespace {
+
+const QString recentKey = QStringLiteral("RecentDrawings");
+
+} // namespace
+
+QStringList recentDrawings() {
+    QStringList names = ownSettings()->value(recentKey).toStringList();
+    names.removeIf([](const QString& name) { return !QFileInfo::exists(name); });
+    return names;
+}
+
+void addRecentDrawing(const std::filesystem::path& drawing) {
+    const QString name = QString::fromStdString(utf8FromPath(drawing));
+    const auto settings = ownSettings();
+    QStringList names = settings->value(recentKey).toStringList();
+    names.removeAll(name);
+    names.prepend(name);
+    settings->setValue(recentKey, QStringList(names.mid(0, maxRecentDrawings)));
+}
+
+} // namespace torvik

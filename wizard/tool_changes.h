@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Which settings groups have another tool than before, after tools were deleted: a group knows its
+// tool by the place in the list only.
+#pragma once
+
+#include "job/job.h"
+#include "tools/tool_list.h"
+
+#include <string>
+#include <vector>
+
+namespace torvik {
+
+// The tools of all groups at one moment.
+class ToolsOfGroups {
+public:
+    ToolsOfGroups(const Job& job, const ToolList& tools);
+
+    // The colours and hole sizes whose tool is now another one or missing, as the user reads them.
+    std::vector<std::string> changedSince(const Job& job, const ToolList& tools) const;
+
+private:
+    std::vector<int> m_numbers; // per settings group, the tool's own number; 0 for none
+};
+
+} // namespace torvik
