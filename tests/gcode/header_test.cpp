@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/header.h"
+#include "tests/gcode/job_to_write.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace torvik {
+namespace {
+
+constexpr const char* threePens = "SP1;PD1,1;SP2;PD1,1;SP3;PD1,1";
+
+std::string header(JobToWrite& work, std::string_view opener) {
+    StringSink sink;
+    ProgramOutput output(sink);
+    work.whole = WriteHeader(work.job, work.tools, opener, output, work.logger);
+    output.flush();
+    return work.statements(sink.bytes());
+}
+
+TEST(WriteHeader, WritesFieldsAndTools) {
+    const struct {
+        const char* says;
+        void (*change)(JobToWrite&);
+        const char* opener;
+        const char* lines;
+    } rows[] = {
+        {"a tool used throughout stands once", [](JobToWrite&) {}, "(",
+         "(Tool - T1 6.0mm Slot drill);"},
+        {"a tool that comes back stands again", [](JobToWrite& w) { w.of(2).intTool = 2; }, "*",
+         "*First tool - T1 6.0mm Slot drill;*Second tool - T7 3.0mm Drill;"
+         "*Third tool - T1 6.0mm Slot drill;"},
+        {"an empty order has no tool", [](JobToWrite& w) { w.job.gintOrder.fill(0); }, "", ""},
+        {"values are trimmed of blanks, tool types are not",
+         [](JobToWrite& w) {
+             w.job.gstrHeader[0] = "  \t1 May  ";
+             w.job.gstrHeader[5] = "   ";
+             w.job.gstrHeader[6] = " 100";
+             w.tools.gudtTools[1].strType = " Drill ";
+             w.tools.gudtTools[1].sngDiameter = 6.25F;
+         },
+         "(", "(Date -  1 May);(Billet Length X - 100mm);(Tool - T1 6.3mm  Drill );"},
+        {"line breaks are blanks, letters ISO 8859-1 or question marks, brackets stand",
+         [](JobToWrite& w) {
+             w.job.gstrHeader[2] = "M\xC3\xBCller\r\n(\xCE\xA9)";
+             w.tools.gudtTools[1].strType = "Fr\xC3\xA4ser\n8";
+         },
+         "(", "(Teacher - M\xFCller (?));(Tool - T1 6.0mm Fr\xE4ser 8);"},
+    };
+    for (const auto& row : rows) {
+        JobToWrite work(threePens);
+        row.change(work);
+        EXPECT_EQ(header(work, row.opener), row.lines) << row.says;
+        EXPECT_TRUE(work.whole) << row.says;
+    }
+    JobToWrite work(threePens);
+    work.job.gstrHeader[8] = " 12 ";
+    header(work, "");
+    EXPECT_EQ(work.job.gstrHeader[8], "12");
+}
+
+TEST(WriteHeader, StopsWhereItCannotGoOn) {
+    JobToWrite holes("SP1;CI40;CI80;CI120;CI160;CI200;CI240;CI280;CI320;CI360;CI400;CI440;CI480;"
+                     "CI520;CI560;CI600;CI640;CI680");
+    for (int k = 1; k <= 17; ++k)
+        holes.of(1, k).intTool = static_cast<std::int16_t>(2 - k % 2);
+    const std::string lines = header(holes, "");
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), ';'), 16);
+    EXPECT_TRUE(lines.ends_with("Fifteenth tool - T1 6.0mm Slot drill;"
+                                "Sixteenth tool - T7 3.0mm Drill;"));
+    EXPECT_EQ(holes.reports, "there is no entry number 17 (the list runs from 1 to 16);");
+    EXPECT_NE(holes.body(3).find("%;"), std::string::npos);
+
+    JobToWrite pens(threePens);
+    pens.job.gintOrder[3] = 9;
+    EXPECT_EQ(header(pens, "("), "") << "a pen above 8 leaves no tool line";
+    JobToWrite missing(threePens);
+    missing.of(2).intTool = 4;
+    EXPECT_EQ(header(missing, "("), "(First tool - T1 6.0mm Slot drill);");
+}
+
+} // namespace
+} // namespace torvik

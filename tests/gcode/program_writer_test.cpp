@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/dialects.h"
+#include "tests/gcode/job_to_write.h"
+
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+constexpr std::int16_t noTarget = 9;
+constexpr const char* line = "SP1;PD400,0";      // to X10
+constexpr const char* hole = "SP1;PU400,0;CI40"; // of radius 1 at X10
+constexpr const char* twoLines = "SP1;PD400,0;SP2;PU0,400;PD400,400";
+constexpr const char* twoHoles = "SP1;CI40;SP1;PU0,0;CI80"; // at one place
+
+const std::string start = "T1;S1000;G0 Z5.00;";
+const std::string end = "G0 Z5.00;G0 Z50.00;%;";
+const std::string cutLine = "G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F100;G1 X10.000 Y0.000 F300;";
+const std::string secondLine =
+    "G0 Z5.00;G0 X0.000 Y10.000;G0 Z2.00;G1 Z-1.00 F100;G1 X10.000 Y10.000 F300;";
+const std::string kestraStart = "T1 G43 H1;S1000 M3;G0 Z5.00;";
+const std::string kestraEnd = "G0 Z5.00;G0 Z50.00 M5;G49;M30;%;"; // of WinNC too
+
+struct Row {
+    const char* says;
+    const char* drawing;
+    const char* changes;
+    std::int16_t target;
+    std::string body;
+    const char* cause = ""; // of the error that ends it
+};
+
+void expectBody(const Row& row, JobToWrite& work) {
+    work.change(row.changes);
+    EXPECT_EQ(work.body(row.target), row.body) << row.says;
+    EXPECT_EQ(work.reports, row.cause) << row.says;
+    EXPECT_EQ(work.whole, work.reports.empty()) << row.says;
+}
+
+void expectBodies(std::span<const Row> rows) {
+    for (const Row& row : rows) {
+        JobToWrite work(row.drawing);
+        expectBody(row, work);
+    }
+}
+
+TEST(WriteGcodes, ChangesToolsAndSpeeds) {
+    const Row rows[] = {
+        {"an empty drawing goes up and ends", "", "", targetWinNc, kestraEnd},
+        {"the same tool and speed has nothing between", twoLines, "", targetMaskor,
+         start + cutLine + secondLine + end},
+        {"the same tool at another speed goes up without stopping the spindle", twoLines,
+         "2.speed=1000.5", targetWinCam,
+         "M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine + "G0 Z5.00;G0 Z50.00;M3 S1001;" + secondLine +
+             "G0 Z5.00;G0 Z50.00 M5;M30;"},
+        {"a first tool at the height of rapids goes to safe height first", line, "toolChange=2",
+         targetWinCam,
+         "G0 Z5.00;G0 Z2.00 M5;M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine +
+             "G0 Z5.00;G0 Z2.00 M5;M30;"},
+        {"a first tool at the safe height stops the spindle", line, "toolChange=5 1.depth=0",
+         targetKestra, "G0 Z5.00 M5;" + kestraStart + "G0 Z5.00;G0 Z5.00 M5;G49;M30;%;"},
+        {"another tool while at the safe height goes straight up", twoLines, "1.depth=0 2.tool=2",
+         targetMaskor, start + "G0 Z50.00;T7;S1000;" + secondLine + end},
+        {"a safe height below that of rapids is written again", twoHoles,
+         "safe=0 1/1.depth=0 1/2.depth=0 1/2.tool=2", targetWinNc,
+         "T1 G43 H1;S1000 M3;G0 Z0.00;G0 X0.000 Y0.000;G0 Z0.00;G0 Z50.00 M5;G49;M0;T7 G43 H7;"
+         "S1000 M3;G0 Z0.00;G0 Z0.00;G0 Z50.00 M5;G49;M30;%;"},
+        {"a first group without tool and speed is machined at once", line, "1.tool=0 1.speed=0",
+         targetMaskor, "G0 Z5.00;" + cutLine + end},
+        {"an unknown target has no statement of its own and looks no tool up", twoHoles,
+         "1/1.dwell=1 1/2.tool=9", noTarget,
+         "G0 Z5.00;G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F100;G0 Z2.00;G0 Z5.00;G0 Z5.00;G0 Z2.00;"
+         "G1 Z-1.00 F100;G0 Z2.00;G0 Z5.00;"},
+        {"a tool that is not in the list ends at the statement that names it", line, "1.tool=4",
+         targetWinCam, "M1;", "there is no entry number 4 (the list runs from 1 to 3);"},
+        {"a later group without tool has taken the tool before off", twoLines, "2.tool=0",
+         targetWinNc, kestraStart + cutLine + "G0 Z5.00;G0 Z50.00 M5;G49;M0;",
+         "there is no entry number 0 (the list runs from 1 to 3);"},
+        {"a tool number above 16384 has no offset in WinCAM", line, "1.tool=3", targetWinCam, "M1;",
+         "the whole number is outside -32768 to 32767;"},
+        {"elsewhere it is a tool as any other", "SP1;PD0,0", "1.tool=3 1.depth=0", targetKestra,
+         "T16385 G43 H16385;S1000 M3;G0 Z5.00;" + kestraEnd},
+    };
+    expectBodies(rows);
+
+    JobToWrite work(twoLines);
+    work.job.gintOrder[1] = -3;
+    work.job.gintOrder[8] = 9;
+    expectBody({"empty entries are skipped, a pen above 8 ends after those before it", "", "",
+                targetMaskor, start + secondLine.substr(9),
+                "there is no entry number 9 (the list runs from 1 to 8);"},
+               work);
+}
+
+TEST(WriteGcodes, CutsPaths) {
+    const std::string down = start + "G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F100;";
+    const Row rows[] = {
+        {"a start within 0.001 of where the tool stands needs no move",
+         "SP1;PD400,0;PU400.036,0;PD0,0", "", targetMaskor,
+         down + "G1 X10.000 Y0.000 F300;G1 X0.000 Y0.000 F300;" + end},
+        {"one that is more than 0.001 away as singles does", "SP1;PD400,0;PU400,0.0400001;PD0,0",
+         "", targetMaskor,
+         down +
+             "G1 X10.000 Y0.000 F300;G0 Z5.00;G0 X10.000 Y0.001;G0 Z2.00;G1 Z-1.00 F100;"
+             "G1 X0.000 Y0.000 F300;" +
+             end},
+        {"a start where the tool is said to stand at first needs no move",
+         "SP1;PU40000,40000;PD0,0", "", targetMaskor,
+         start + "G0 Z2.00;G1 Z-1.00 F100;G1 X0.000 Y0.000 F300;" + end},
+        {"from a safe height below that of rapids the feed starts", line, "safe=0", targetMaskor,
+         "T1;S1000;G0 Z0.00;G0 X0.000 Y0.000;G1 Z-1.00 F100;G1 X10.000 Y0.000 F300;G0 Z0.00;"
+         "G0 Z50.00;%;"},
+        {"a height of rapids at the pass level leaves nothing to feed down", line, "down=-1",
+         targetMaskor, start + "G0 X0.000 Y0.000;G0 Z-1.00;G1 X10.000 Y0.000 F300;" + end},
+        {"numbers round half away from zero on their exact value and have no minus at zero",
+         "SP1;PU2.5,-0.016;PD-2.5,-0.01", "down=0.0625 1.depth=0.125 1.feed=22.5 1.feedDown=0.4",
+         targetMaskor,
+         start + "G0 X0.063 Y0.000;G0 Z0.06;G1 Z-0.13 F0;G1 X-0.063 Y0.000 F23;" + end},
+        {"feeds are divided in double precision", line, "1.feed=2.1", targetKestra,
+         kestraStart + "G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F1.67;G1 X10.000 Y0.000 F0.03;" +
+             kestraEnd},
+        {"a step upward never ends", line, "1.step=-1", targetMaskor, start,
+         "a step of -1 mm below Z 0 never reaches the depth;"},
+        {"a step that is lost in a large level never ends", "SP1;PD0,0",
+         "1.depth=1e8 1.step=1 1.final=2e8", targetMaskor,
+         start + "G0 X0.000 Y0.000;G0 Z2.00;G1 X0.000 Y0.000 F300;",
+         "a step of 1 mm below Z 100000000 never reaches the depth;"},
+    };
+    expectBodies(rows);
+
+    JobToWrite other("SP1;PU400,400;PD0,400;PU0,0;PD400,0");
+    other.job.gudtPaths[1].intType = 4;
+    expectBody({"paths of another kind are passed over, their moves too", "", "", targetMaskor,
+                start + cutLine + end},
+               other);
+    JobToWrite arcs("SP1;PU400,0;AA0,0,-90;AA0,0,90");
+    expectBody({"arcs both ways", "", "", targetMaskor,
+                start +
+                    "G0 X10.000 Y0.000;G0 Z2.00;G1 Z-1.00 F100;G2 X0.000 Y-10.000 I-10.000 "
+                    "J0.000 F300;G3 X10.000 Y0.000 I0.000 J10.000 F300;" +
+                    end},
+               arcs);
+    EXPECT_EQ(arcs.job.gudtPaths[1].sngOffsetI, -10);
+    EXPECT_EQ(arcs.job.gudtPaths[2].sngOffsetJ, 10);
+}
+
+TEST(WriteGcodes, DrillsHoles) {
+    const std::string down = "G0 X10.000 Y0.000;G0 Z2.00;";
+    const std::string twice = "G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F100;G0 Z2.00;G0 Z5.00;G0 Z2.00;"
+                              "G1 Z-1.00 F100;G0 Z2.00;";
+    const Row rows[] = {
+        {"holes of two sizes at one place need no move between them", twoHoles, "", targetMaskor,
+         start + twice + end},
+        {"pecks stay down unless pecking is on, and the last is not too deep", hole,
+         "1/1.step=0.75 1/1.dwell=0.5", targetWinNc,
+         kestraStart + down + "G1 Z-0.75 F100;G1 Z-1.00 F100;G4 X0.50;G0 Z2.00;" + kestraEnd},
+        {"pecking retracts and dwells after every peck", hole,
+         "1/1.step=0.75 1/1.dwell=0.5 1/1.peck=1", targetMaskor,
+         start + down + "G1 Z-0.75 F100;G4 P0.50;G0 Z2.00;G1 Z-1.00 F100;G4 P0.50;G0 Z2.00;" + end},
+        {"milliseconds are computed in double precision", hole, "1/1.dwell=0.0025", targetKestra,
+         kestraStart + down + "G1 Z-1.00 F1.67;G4 P2;G0 Z2.00;" + kestraEnd},
+        {"a hole without depth is gone to", hole, "1/1.depth=0", targetMaskor, start + down + end},
+        {"a peck upward never ends", hole, "1/1.step=-1", targetMaskor, start + down,
+         "a step of -1 mm below Z 0 never reaches the depth;"},
+    };
+    expectBodies(rows);
+
+    const struct {
+        const char* says;
+        float first, second; // radii of the sizes; the circle's own is 1
+        std::string holes;
+    } sizes[] = {
+        {"a circle less than 0.01 from two sizes is drilled for each", 1.0099F, 0.9901F, twice},
+        {"one of 1 is so near to 1.01 and 0.99 as singles", 1.01F, 0.99F, twice},
+        {"sizes further off have no hole", 1.0101F, 0.9899F, ""},
+    };
+    for (const auto& size : sizes) {
+        JobToWrite work(twoHoles);
+        work.job.gudtPens[1].sngRadii = {size.first, size.second};
+        expectBody({size.says, "", "", targetMaskor, start + size.holes + end}, work);
+    }
+}
+
+TEST(WriteGcodes, GoesDownInPasses) {
+    const struct {
+        const char* says;
+        const char* changes;
+        const char* passes; // Z and feed of each pass over a path that ends where it starts
+    } rows[] = {
+        {"the last pass is at full depth and at the final feed", "1.depth=5 1.step=2",
+         "-2.00@300 -4.00@300 -5.00@400 "},
+        {"without a final feed the feed stays", "1.depth=3 1.step=2 1.finalFeed=0",
+         "-2.00@300 -3.00@300 "},
+        {"a negative final feed is none", "1.finalFeed=-1", "-1.00@300 "},
+        {"a step that divides the depth adds no pass", "1.depth=4 1.step=2",
+         "-2.00@300 -4.00@400 "},
+        {"a step of 0 is one pass", "1.depth=5", "-5.00@400 "},
+        {"a step of 0 with a final pass is two", "1.depth=5 1.final=0.5", "-4.50@300 -5.00@400 "},
+        {"a final pass is left by the roughing", "1.depth=5 1.step=2 1.final=0.5",
+         "-2.00@300 -4.00@300 -4.50@300 -5.00@400 "},
+        {"a step that ends at the roughing floor adds no pass", "1.depth=4 1.step=2 1.final=2",
+         "-2.00@300 -4.00@400 "},
+        {"a final pass of the whole depth roughs at the surface", "1.final=1",
+         "0.00@300 -1.00@400 "},
+        {"a final pass above the surface roughs in the air", "1.final=2",
+         "1.00@300 0.00@300 -1.00@400 "},
+        {"a final pass below the depth goes too deep in steps", "1.step=0.4 1.final=-0.5",
+         "-0.40@300 -0.80@300 -1.20@300 "},
+        {"levels are singles: three steps of 0.1 are 0.3", "1.depth=0.3 1.step=0.1",
+         "-0.10@300 -0.20@300 -0.30@400 "},
+        {"a negative depth has no pass", "1.depth=-1 1.step=0.5", ""},
+    };
+    for (const auto& row : rows) {
+        JobToWrite work("SP1;PD0,0");
+        work.change("1.finalFeed=400");
+        work.change(row.changes);
+        const std::string body = work.body(targetMaskor);
+        std::string passes = work.reports;
+        for (auto at = body.find("G1 Z"); at != body.npos; at = body.find("G1 Z", at + 1)) {
+            const auto feed = body.find(" F", body.find("G1 X", at)) + 2;
+            passes += body.substr(at + 4, body.find(' ', at + 3) - at - 4) + "@" +
+                      body.substr(feed, body.find(';', feed) - feed) + " ";
+        }
+        EXPECT_EQ(passes, row.passes) << row.says;
+    }
+}
+
+TEST(CommandLine, NumbersRunToNines) {
+    Job job;
+    job.gintLineNumber = 9998;
+    StringSink sink;
+    ProgramOutput output(sink);
+    output.CommandLine(job, "M1");
+    output.CommandLine(job, "");
+    output.WriteLine("half ", false);
+    output.WriteLine("line");
+    output.flush();
+    EXPECT_EQ(sink.bytes(), "N9999 M1\r\nN1 \r\nhalf line\r\n");
+}
+
+} // namespace
+} // namespace torvik
