@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+#include "preview/preview_widget.h"
+
+#include "base/error_trap.h"
+#include "job/job.h"
+#include "preview/machined_path.h"
+#include "preview/piece_picture.h"
+#include "preview/sheet.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QLabel>
+#include <QResizeEvent>
+#include <QScrollArea>
+
+#include <cmath>
+
+namespace torvik {
+namespace {
+
+constexpr int helpPreview = 10;
+constexpr int stripMargin = 8; // pixels, as all here
+constexpr int rowsBelow = 3;   // of the legend where its strip lies below the drawing
+constexpr int legendRowHeight = 24;
+
+// Ink on paper, whatever the theme.
+QPalette paper() {
+    QPalette palette(Qt::white);
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::WindowText, QColor(0x30, 0x30, 0x30));
+    palette.setColor(QPalette::Text, QColor(0x30, 0x30, 0x30));
+    return palette;
+}
+
+QPalette quietPaper() {
+    QPalette palette = paper();
+    palette.setColor(QPalette::WindowText, QColor(0x70, 0x70, 0x70));
+    return palette;
+}
+
+int pixels(float twips) {
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+} // namespace
+
+PreviewWidget::PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QWidget* parent)
+    : QFrame(parent), m_job(job), m_tools(tools), m_logger(logger),
+      m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+    const auto image = [this]() -> const QImage& { return picture(); };
+    m_picBack = new Sheet(image, this);
+    m_picBack->setObjectName(QStringLiteral("picBack"));
+    m_picBack->installEventFilter(this);
+    m_picPlot = new Sheet(image, m_picBack);
+    m_picPlot->setObjectName(QStringLiteral("picPlot"));
+    m_picPlot->setAccessibleName(QStringLiteral("Preview of the drawing"));
+    m_picPlot->setProperty("helpContext", helpPreview);
+
+    auto* over = new QBoxLayout(QBoxLayout::TopToBottom, m_picBack);
+    m_noDrawing = new QLabel(QStringLiteral("The drawing appears here."), m_picBack);
+    m_noDrawing->setObjectName(QStringLiteral("lblNoDrawing"));
+    m_noDrawing->setAlignment(Qt::AlignCenter);
+    m_noDrawing->setWordWrap(true);
+    m_noDrawing->setPalette(quietPaper());
+    over->addWidget(m_noDrawing);
+
+    setFrameShape(QFrame::StyledPanel);
+    setPalette(paper());
+    setAutoFillBackground(true);
+    buildLegendStrip();
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_picBack, 1);
+    m_layout->addWidget(m_strip);
+    placeLegendStrip();
+    startShowing(Showing::nothing);
+}
+
+void PreviewWidget::buildLegendStrip() {
+    m_strip = new QWidget(this);
+    m_strip->setObjectName(QStringLiteral("picLegend"));
+    m_legendCaption = new QLabel(QStringLiteral("Depths"), m_strip);
+    m_legendCaption->setObjectName(QStringLiteral("lblLegend"));
+    m_legendArea = new QScrollArea(m_strip);
+    m_legendArea->setFrameShape(QFrame::NoFrame);
+    m_legendArea->setFocusPolicy(Qt::NoFocus);
+    m_legendArea->setWidgetResizable(true);
+    m_legendArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_legend = new Legend;
+    m_legend->setAccessibleName(QStringLiteral("Depths of the piece"));
+    m_legendArea->setWidget(m_legend);
+    m_legendArea->viewport()->installEventFilter(this);
+
+    auto* column = new QBoxLayout(QBoxLayout::TopToBottom, m_strip);
+    column->setContentsMargins(stripMargin, stripMargin, stripMargin, stripMargin);
+    column->setSpacing(0);
+    column->addWidget(m_legendCaption);
+    column->addWidget(m_legendArea, 1);
+}
+
+// The strip lies where the frame has more room than most drawings need.
+void PreviewWidget::placeLegendStrip() {
+    const bool beside = width() >= height();
+    m_layout->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_strip->setMinimumSize(0, 0);
+    m_strip->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (beside)
+        m_strip->setFixedWidth(m_legend->columnWidth() + stripMargin);
+    else
+        m_strip->setFixedHeight(m_legendCaption->sizeHint().height() + rowsBelow * legendRowHeight +
+                                2 * stripMargin);
+    m_layout->activate();
+}
+
+void PreviewWidget::GetScale() {
+    m_piece.reset();
+    m_lines.forget();
+    startShowing(Showing::nothing);
+    torvik::GetScale(m_job, frameSize(), m_line, m_logger);
+    placePicture();
+}
+
+void PreviewWidget::PlotLines() {
+    startShowing(Showing::lines);
+    m_failed = !withErrorTrap(m_logger, {"PlotLines", "modHpgl"}, [this] { paintLines(); });
+}
+
+void PreviewWidget::DrawLine(std::int16_t path, std::int16_t mode) {
+    withErrorTrap(m_logger, {"DrawLine", "modHpgl"}, [&] {
+        if (m_showing != Showing::lines || isStale()) {
+            startShowing(Showing::lines);
+            paintLines();
+        }
+        m_lines.DrawLine(m_job, path, mode);
+        m_picBack->update();
+    });
+}
+
+void PreviewWidget::plotBlink(const std::vector<std::int16_t>& paths, bool visible) {
+    if (m_showing != Showing::lines)
+        startShowing(Showing::lines);
+    if (m_failed)
+        return;
+    m_failed = !withQuietErrorTrap(m_logger, {"PlotLines", "modHpgl"}, [&] {
+        paintLines();
+        m_lines.plotBlink(m_job, paths, visible);
+        m_picBack->update();
+    });
+}
+
+void PreviewWidget::DrawPiece() {
+    startShowing(Showing::piece);
+    m_failed = !withErrorTrap(m_logger, {"DrawPiece", "modHpgl"}, [this] {
+        PieceScale piece;
+        if (!GetPieceScale(m_job, m_tools, frameSize(), piece, m_logger))
+            return;
+        m_piece = piece;
+        if (sortPathsByDepth(m_job, m_logger))
+            paintPiece();
+    });
+}
+
+void PreviewWidget::clear() {
+    m_lines.forget();
+    startShowing(Showing::nothing);
+}
+
+const QImage& PreviewWidget::picture() {
+    if (m_showing == Showing::nothing)
+        return m_noImage;
+    if (isStale())
+        paintAgain();
+    return m_showing == Showing::piece ? m_pieceImage : m_lines.image();
+}
+
+void PreviewWidget::startShowing(Showing what) {
+    m_showing = what;
+    m_failed = false;
+    m_pieceImage = QImage();
+    m_legend->clear();
+    m_legendCaption->setVisible(what == Showing::piece);
+    m_legendArea->setVisible(what == Showing::piece);
+    m_noDrawing->setVisible(what == Showing::nothing);
+    m_picPlot->setVisible(what != Showing::nothing);
+    m_picBack->update();
+}
+
+bool PreviewWidget::isStale() const {
+    return m_resized || m_paintedRatio != devicePixelRatioF();
+}
+
+void PreviewWidget::paintLines() {
+    m_lines.PlotLines(m_job, view(), imageSize());
+    painted();
+}
+
+void PreviewWidget::paintPiece() {
+    const DepthList depths =
+        torvik::paintPiece(m_pieceImage, imageSize(), view(), m_job, m_tools, *m_piece);
+    m_legend->setDepths(depths, m_piece->sngShallowest, m_piece->sngDeepest);
+    painted();
+}
+
+void PreviewWidget::painted() {
+    m_resized = false;
+    m_paintedRatio = devicePixelRatioF();
+    m_picBack->update();
+}
+
+void PreviewWidget::paintAgain() {
+    if (m_failed)
+        return;
+    const bool piece = m_showing == Showing::piece;
+    m_failed = !withQuietErrorTrap(m_logger, {piece ? "DrawPiece" : "PlotLines", "modHpgl"}, [&] {
+        if (!piece)
+            paintLines();
+        else if (m_piece)
+            paintPiece();
+    });
+}
+
+FrameSize PreviewWidget::frameSize() const {
+    return {static_cast<float>(m_picBack->width() * twipsPerPixel),
+            static_cast<float>(m_picBack->height() * twipsPerPixel)};
+}
+
+PictureView PreviewWidget::view() const {
+    const double ratio = devicePixelRatioF();
+    return {fit(),
+            m_picPlot->height() * twipsPerPixel,
+            {std::round(m_picPlot->x() * ratio), std::round(m_picPlot->y() * ratio)},
+            ratio};
+}
+
+QSize PreviewWidget::imageSize() const {
+    const double ratio = devicePixelRatioF();
+    return {static_cast<int>(std::ceil(m_picBack->width() * ratio)),
+            static_cast<int>(std::ceil(m_picBack->height() * ratio))};
+}
+
+void PreviewWidget::refitToFrame() {
+    m_resized = true;
+    withQuietErrorTrap(m_logger, {"GetScale", "modHpgl"}, [this] {
+        refit(m_line, frameSize());
+        if (m_piece)
+            refit(*m_piece, frameSize());
+    });
+    placePicture();
+}
+
+void PreviewWidget::placePicture() {
+    const PictureBox& box = m_line.picture;
+    m_picPlot->setGeometry(pixels(box.sngLeft), pixels(box.sngTop), pixels(box.sngWidth),
+                           pixels(box.sngHeight));
+}
+
+QSize PreviewWidget::minimumSizeHint() const {
+    return {300, 250};
+}
+
+QSize PreviewWidget::sizeHint() const {
+    return {560, 460};
+}
+
+void PreviewWidget::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    placeLegendStrip();
+}
+
+bool PreviewWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        if (watched == m_picBack)
+            refitToFrame();
+        else
+            m_legend->fitHeight(m_legendArea->viewport()->height());
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace torvik
