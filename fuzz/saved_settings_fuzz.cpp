@@ -2,9 +2,10 @@
 // The reader of kept answers, for a drawing with a pen of lines and a pen of two circle sizes:
 // any bytes are refused with a FileError or give answers whose text reads back to the same.
 #include "base/errors.h"
+#include "fuzz/invariant.h"
 #include "wizard/saved_text.h"
 
-#include <cstdlib>
+#include <cstdint>
 
 namespace {
 
@@ -32,8 +33,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // What was understood is written without an error, and the text holds every value.
     const std::string written = torvik::formatAnswers(answers);
     const torvik::SavedAnswers again = torvik::parseAnswers(written, shape, "written.plx");
-    if (torvik::formatAnswers(again) != written || again.header != answers.header ||
-        again.order != answers.order || again.digest != answers.digest)
-        std::abort();
+    torvik::holds(again.digest == answers.digest, "the digest reads back");
+    torvik::holds(again.header == answers.header, "the texts read back");
+    torvik::holds(again.order == answers.order, "the order reads back");
+    torvik::holds(torvik::formatAnswers(again) == written, "what reads back is written alike");
     return 0;
 }

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -31,10 +32,14 @@ bool belongsToSystem(const QString& folder) {
 #endif
 }
 
-// Permissions alone do not tell for every file system, so a nameless or at once removed file does.
 bool canBeWritten(const QString& folder) {
+#ifdef Q_OS_WIN
+    // Who may write is not looked up there unless a file is made; it is removed at once.
     QTemporaryFile probe(folder + QLatin1String("/torvik-XXXXXX"));
     return probe.open();
+#else
+    return QFileInfo(folder).isWritable();
+#endif
 }
 
 } // namespace
