@@ -76,13 +76,10 @@ char* putFixed(char* out, double value, int decimals) {
             *out++ = '-';
         return putDecimals(out, scaled, decimals);
     }
-    // A large number: its whole part is printed in full, its fraction rounded alone.
+    // A large number: its whole part is printed in full, its fraction rounded alone. That never
+    // carries: so large a number has too few binary places to come close enough to the next one.
     double whole = 0;
-    std::uint64_t fraction = roundedProduct(std::modf(size, &whole), power);
-    if (fraction == static_cast<std::uint64_t>(power)) {
-        whole += 1;
-        fraction = 0;
-    }
+    const std::uint64_t fraction = roundedProduct(std::modf(size, &whole), power);
     if (value < 0)
         *out++ = '-';
     out = std::to_chars(out, out + maxFixedLength - 8, whole, std::chars_format::fixed, 0).ptr;

@@ -66,6 +66,9 @@ TEST(SetUpPens, StopsAtAPenOutside1To8) {
     EXPECT_EQ(said, "An error has occurred in SetUpPens (modHpgl):\n"
                     "there is no entry number 9 (the list runs from 1 to 8).");
     EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "as it was";
+    job.gudtPaths[2].intPen = 2;
+    EXPECT_TRUE(SetUpPens(job, logger));
+    EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "a second time from the start";
 }
 
 TEST(SetUpPens, StopsWhereTheGroupsExceed16Bits) {
