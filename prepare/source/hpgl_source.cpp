@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/source/hpgl_source.h"
+
+#include "base/errors.h"
+#include "prepare/source/instruction_table.h"
+
+#include <string>
+
+namespace torvik {
+namespace {
+
+void readParameters(Scanner& scanner, Shape shape, char textTerminator, Parameters& parameters) {
+    parameters.numbers.clear();
+    parameters.text = {};
+    switch (shape) {
+    case Shape::numbers:
+        scanner.readNumbers(parameters.numbers);
+        break;
+    case Shape::text:
+        parameters.text = scanner.readText(textTerminator);
+        break;
+    case Shape::character:
+        parameters.text = scanner.readCharacter();
+        break;
+    case Shape::comment:
+        parameters.text = scanner.readComment();
+        break;
+    case Shape::encoded:
+        parameters.text = scanner.readEncoded();
+        break;
+    }
+}
+
+void readInto(SourceDrawing& drawing, Scanner& scanner, const HpglSourceOptions& options) {
+    PenPlotter plotter(drawing.strokes, drawing.report, options.segmentLimit, options.roundTurn);
+    std::vector<long> counts(instructionTable().size());
+    Parameters parameters;
+    for (Mnemonic mnemonic{}; scanner.nextMnemonic(mnemonic);) {
+        const Instruction* const row = findInstruction(mnemonic);
+        if (row == nullptr) {
+            ++drawing.report.unknown[std::string(mnemonic.begin(), mnemonic.end())];
+            scanner.readNumbers(parameters.numbers);
+            continue;
+        }
+        ++counts[static_cast<std::size_t>(row - instructionTable().data())];
+        readParameters(scanner, row->shape, plotter.textTerminator(), parameters);
+        (plotter.*row->perform)(parameters);
+    }
+    plotter.finish();
+    for (std::size_t i = 0; i < counts.size(); ++i)
+        if (counts[i] > 0)
+            drawing.report.instructions[std::string(instructionTable()[i].mnemonic)] = counts[i];
+    drawing.report.strayCharacters += scanner.strayCharacters();
+}
+
+} // namespace
+
+SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
+                       const HpglSourceOptions& options) {
+    SourceDrawing drawing;
+    Scanner scanner(bytes);
+    try {
+        readInto(drawing, scanner, options);
+    } catch (const RunTimeError& error) {
+        throw FileError(std::string(fileName), error.what(), scanner.line());
+    }
+    return drawing;
+}
+
+} // namespace torvik

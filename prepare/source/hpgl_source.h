@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// A drawing in the pen language of plotters as strokes. Takes the language in all its forms (see
+// instruction_table.h); what it does not know is counted and passed over. Refuses a number that
+// fits no double, a place more than 100 m away, and more segments than the given limit.
+#pragma once
+
+#include "prepare/source/source_report.h"
+#include "prepare/strokes.h"
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace torvik {
+
+struct SourceDrawing {
+    std::vector<Stroke> strokes; // dots, too; pens of 1 and above
+    SourceReport report;
+};
+
+struct HpglSourceOptions {
+    double roundTurn = 24; // degrees; chords above this are reported
+    std::size_t segmentLimit = 4'000'000;
+};
+
+// Raises FileError with the line; `fileName` is for the message.
+SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
+                       const HpglSourceOptions& options = {});
+
+} // namespace torvik
