@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "tools/ini_text.h"
+
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(IniText, ReadsTheValueToTheEndOfItsLine) {
+    const struct {
+        const char* name;
+        std::string text;
+        std::string expected; // the value of Name
+    } cases[] = {
+        {"blanks and tabs round name and value", "[Maskor]\n \tName \t=\t a b \t\n", "a b"},
+        {"a last line without an end", "[Maskor]\nName=a", "a"},
+        {"lines ending in CR LF", "[Maskor]\r\nName=a\r\n", "a"},
+        {"lines ending in CR", "[Maskor]\rName=a\rOther=b", "a"},
+        {"a byte order mark", "\xEF\xBB\xBF[Maskor]\nName=a", "a"},
+        {"comma, semicolon, hash and equals sign", "[Maskor]\nName=a,b;c#d=e ;f", "a,b;c#d=e ;f"},
+        {"an empty value", "[Maskor]\nName=", ""},
+        {"name and section in another case", "[ MASKOR ]\nnAME=a", "a"},
+        {"the last of two alike", "[Maskor]\nName=a\nNAME=b", "b"},
+        {"the section given twice", "[Maskor]\n[Other]\n[Maskor]\nName=a", "a"},
+        {"a value in quotes", "[Maskor]\nName=\" a\\\\\\\" \"", " a\\\" "},
+        {"single backslashes in quotes", "[Maskor]\nName=\"C:\\temp\\ \"", "C:\\temp\\ "},
+        {"two quoted words", "[Maskor]\nName=\"a\" and \"b\"", "\"a\" and \"b\""},
+        {"a last quote that is escaped", "[Maskor]\nName=\"a\\\"", "\"a\\\""},
+        {"a NUL and another control character", "[Maskor]\nName=a\0b\x1B"s + "c", "a b c"},
+        {"a comment is no entry", "[Maskor]\n;Name=a\n# Name=a", "missing"},
+        {"another section's entry", "[Maskor]\n[Maskor 2]\nName=a\n[\nName=a", "missing"},
+        {"an entry before every section", "Name=a\n[Maskor]", "missing"},
+        {"a line without an equals sign", "[Maskor]\nName\n", "missing"},
+    };
+    for (const auto& [name, text, expected] : cases) {
+        const IniText ini(text, "Maskor");
+        const auto entry = ini.values().find("Name");
+        EXPECT_EQ(entry == ini.values().end() ? "missing" : entry->second, expected) << name;
+        EXPECT_EQ(ini.text(), text) << name;
+    }
+}
+
+TEST(IniText, KeepsEveryValueThroughWritingAndReading) {
+    for (const std::string& value : {""s,
+                                     "a,b"s,
+                                     ";a"s,
+                                     "#a"s,
+                                     "[Maskor]"s,
+                                     "="s,
+                                     "\""s,
+                                     "\"\""s,
+                                     "\"a\""s,
+                                     "a\""s,
+                                     "a\"b"s,
+                                     "\\"s,
+                                     "a\\"s,
+                                     "\\\""s,
+                                     "\"\\"s,
+                                     "\"a\\\""s,
+                                     " "s,
+                                     " a"s,
+                                     "a "s,
+                                     "\ta\t"s,
+                                     "a\tb"s,
+                                     " \\ "s,
+                                     "C:\\new\\"s,
+                                     "Fr\xC3\xA4ser \xE2\x82\xAC"s,
+                                     "\xFF broken"s,
+                                     "@ByteArray(%1)"s}) {
+        IniText ini("", "Maskor");
+        ini.setValue("PLT File Path", "first");
+        ini.setValue("PLT File Path", value);
+        ini.setValue("Next", "1");
+        const IniText again(ini.text(), "Maskor");
+        EXPECT_EQ(again.values().at("PLT File Path"), value) << ini.text();
+        EXPECT_EQ(again.values().size(), 2u) << ini.text();
+    }
+}
+
+TEST(IniText, WritesPlainLinesAndLeavesTheRestOfTheFileAsItStands) {
+    IniText ini("\xEF\xBB\xBF; ours\r\n[Maskor]\r\n# mills\r\n tool01 = 1 \r\nKept =  x\r\n\r\n"
+                "[Other]\r\nTool01=z",
+                "Maskor");
+    ini.setValue("Tool01", "1|\"Slot\" \\ drill|6.000");
+    ini.setValue("Kept", "x");
+    ini.setValue("Edge", " a\\\"");
+    ini.setValue("Lines", "a\r\nb\nc");
+    for (const char* unfit : {"", "a=b", "[a", ";a", "#a", " a", "a\nb"})
+        ini.setValue(unfit, "4");
+    EXPECT_EQ(ini.text(), "\xEF\xBB\xBF; ours\r\n[Maskor]\r\n# mills\r\n"
+                          "tool01=1|\"Slot\" \\ drill|6.000\r\nKept =  x\r\n"
+                          "Edge=\" a\\\\\\\"\"\r\nLines=a b c\r\n\r\n[Other]\r\nTool01=z");
+
+    IniText other("[Other]\nTool01=z", "Maskor");
+    other.setValue("Tool01", "2");
+    EXPECT_EQ(other.text(), "[Other]\nTool01=z\n\n[Maskor]\nTool01=2\n");
+}
+
+} // namespace
+} // namespace torvik
