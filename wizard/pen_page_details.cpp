@@ -127,16 +127,18 @@ void PenPage::focusFirstEmptyBox() {
 bool PenPage::SaveDetails() {
     bool kept = false;
     withErrorTrap(m_workshop.logger, {"SaveDetails", "modHpgl"}, [&] {
-        kept = true;
-        if (!asksForDetails())
+        if (!asksForDetails()) {
+            kept = true;
             return;
+        }
         Job& job = m_workshop.job;
         const PenForm form = currentForm(job);
-        const auto refused = storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form,
-                                        job.gsngFeedFactor, m_workshop.tools, currentSettings(job));
-        kept = !refused;
+        const auto refused =
+            storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form, job.gsngFeedFactor,
+                       m_workshop.tools, currentSettings(job));
         if (refused)
             refuse(*refused, cannotBeStored(form, *refused));
+        kept = !refused;
     });
     return kept;
 }
