@@ -49,9 +49,21 @@ private:
     }
 
     void paint() {
-        m_pen.setColor(colourOf(m_colour));
+        const QPointF start(m_chain.front().x, m_chain.front().y);
+        const QColor colour = colourOf(m_colour);
+        if (polygonOf(m_chain, m_polygon).count(start) == m_polygon.size()) {
+            paintDot(start, colour); // a line of no length would not show
+            return;
+        }
+        m_pen.setColor(colour);
         m_painter.setPen(m_pen);
-        m_painter.drawPolyline(polygonOf(m_chain, m_polygon));
+        m_painter.drawPolyline(m_polygon);
+    }
+
+    void paintDot(QPointF centre, const QColor& colour) {
+        QRectF dot(0, 0, m_pen.widthF(), m_pen.widthF());
+        dot.moveCenter(centre);
+        m_painter.fillRect(dot, colour);
     }
 
     QPainter& m_painter;

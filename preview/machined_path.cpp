@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/picture.h"
 #include "job/job.h"
+#include "job/machined_groups.h"
 #include "job/pens.h"
 #include "tools/tool_list.h"
 
@@ -12,44 +13,43 @@
 namespace torvik {
 namespace {
 
-// The subscript in sngRadii of the first size that is the path's.
-long circleSizeOf(const Pen& pen, const Path& path) {
+// The subscript in sngRadii of the first size that is the path's, 0 for a pen that is cut.
+std::int16_t holeSizeOf(const Pen& pen, const Path& path) {
+    if (!pen.blnDrill)
+        return 0;
     // The sizes are ascending: all before this one are too small.
     auto at = std::lower_bound(pen.sngRadii.begin(), pen.sngRadii.end(),
                                path.sngRadius - 2 * radiusTolerance);
     for (; at != pen.sngRadii.end() && *at <= path.sngRadius + 2 * radiusTolerance; ++at)
         if (singleDistance(*at, path.sngRadius) <= radiusTolerance)
-            return at - pen.sngRadii.begin() + 1;
+            return static_cast<std::int16_t>(at - pen.sngRadii.begin() + 1);
     throw InvalidCall("the " + pen.strColour + " circles have no size of " +
                       formatFixed(2.0 * path.sngRadius, 1) + " mm");
 }
 
-[[noreturn]] void raiseNoTool(const Pen& pen, const Path& path) {
-    throw InvalidCall(
-        "no tool is chosen for the " + pen.strColour +
-        (pen.blnDrill ? " holes of " + formatFixed(2.0 * path.sngRadius, 1) + " mm" : " lines"));
+const Settings& settingsAt(const Job& job, const Pen& pen, std::int16_t holeSize) {
+    return job.gudtSettings[pen.intSettings + holeSize];
 }
 
 } // namespace
 
-std::int16_t settingsOf(const Job& job, const Path& path) {
+const Settings& settingsOf(const Job& job, const Path& path) {
     const Pen& pen = job.gudtPens[path.intPen];
-    if (!pen.blnDrill)
-        return pen.intSettings;
-    return toInt16(pen.intSettings + static_cast<double>(circleSizeOf(pen, path)));
+    return settingsAt(job, pen, holeSizeOf(pen, path));
 }
 
 MachinedPath machinedPath(const Job& job, const ToolList& tools, const Path& path) {
     const Pen& pen = job.gudtPens[path.intPen];
-    const Settings& settings = job.gudtSettings[settingsOf(job, path)];
+    const std::int16_t holeSize = holeSizeOf(pen, path);
+    const Settings& settings = settingsAt(job, pen, holeSize);
     if (settings.intTool < 1 || settings.intTool > tools.gintToolCount)
-        raiseNoTool(pen, path);
-    return {settings.sngDepth, toolAt(tools, settings.intTool).sngDiameter, pen.blnDrill};
+        throw InvalidCall(groupText(pen, holeSize) + " have no tool");
+    return {settings.sngDepth, toolAt(tools, settings.intTool).sngDiameter, holeSize > 0};
 }
 
 bool sortPathsByDepth(Job& job, Logger& logger) {
     for (Path& path : job.gudtPaths)
-        path.sngSortKey = job.gudtSettings[settingsOf(job, path)].sngDepth;
+        path.sngSortKey = settingsOf(job, path).sngDepth;
     return SortPaths(job, logger);
 }
 

@@ -88,6 +88,7 @@ void PreviewWidget::buildLegendStrip() {
     m_legendArea->setWidgetResizable(true);
     m_legendArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_legend = new Legend;
+    m_legend->setObjectName(QStringLiteral("lblDepths"));
     m_legend->setAccessibleName(QStringLiteral("Depths of the piece"));
     m_legendArea->setWidget(m_legend);
     m_legendArea->viewport()->installEventFilter(this);

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "preview/line_picture.h"
+#include "tests/preview/machined_job.h"
+
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+// A slanted Black line, Red ones across it, a Green circle; 50 mm square.
+const char* const crossing = "SP1;PU100,200;PD1900,1700;SP2;PU200,1800;PD1800,100;PD1900,900;"
+                             "SP3;PU1000,1000;CI500";
+
+class LinePictureTest : public testing::TestWithParam<double> {
+protected:
+    void plot(LinePicture& picture) const {
+        const int side = static_cast<int>(200 * GetParam());
+        picture.PlotLines(job, plainView(4, 200, GetParam()), {side, side});
+    }
+
+    Job job = setUpDrawing(crossing);
+};
+
+INSTANTIATE_TEST_SUITE_P(ScaleFactors, LinePictureTest, testing::Values(1.0, 1.25, 1.5, 2.0));
+
+TEST_P(LinePictureTest, ALineErasedAndDrawnAgainLeavesThePictureAsItWas) {
+    LinePicture picture;
+    plot(picture);
+    const QImage before = picture.image().copy();
+    picture.DrawLine(job, 2, 1);
+    EXPECT_NE(picture.image(), before);
+    picture.DrawLine(job, 2, 0);
+    EXPECT_EQ(picture.image(), before);
+}
+
+TEST_P(LinePictureTest, HiddenPathsLeaveNoTraceAndNoGap) {
+    Job others = job;
+    others.gudtPens[1].blnOmit = true; // never drawn at all
+    LinePicture expected;
+    const int side = static_cast<int>(200 * GetParam());
+    expected.PlotLines(others, plainView(4, 200, GetParam()), {side, side});
+
+    LinePicture picture;
+    plot(picture);
+    const QImage before = picture.image().copy();
+    picture.plotBlink(job, {1}, false);
+    EXPECT_EQ(picture.image(), expected.image());
+    picture.plotBlink(job, {1}, true);
+    EXPECT_EQ(picture.image(), before);
+    picture.plotBlink(job, {2, 3, 4}, false);
+    EXPECT_NE(picture.image(), expected.image());
+}
+
+TEST_P(LinePictureTest, APenThatIsLeftOutOrBackShowsAtOnce) {
+    LinePicture picture;
+    plot(picture);
+    const QImage before = picture.image().copy();
+    job.gudtPens[2].blnOmit = true;
+    plot(picture);
+    EXPECT_NE(picture.image(), before);
+    job.gudtPens[2].blnOmit = false;
+    plot(picture);
+    EXPECT_EQ(picture.image(), before);
+}
+
+TEST_P(LinePictureTest, UprightAndLevelLinesAreSharp) {
+    job = setUpDrawing("SP2;PU400,400;PD1600,400;PD1600,1200");
+    LinePicture picture;
+    plot(picture);
+    const int width = std::max(1, static_cast<int>(std::lround(GetParam())));
+    const QImage& image = picture.image();
+    int rows = 0;
+    int columns = 0;
+    for (int i = 0; i < image.width(); ++i) {
+        const QRgb inColumn = image.pixel(image.width() / 2, i);
+        const QRgb inRow = image.pixel(i, image.height() / 2);
+        for (const QRgb pixel : {inColumn, inRow})
+            EXPECT_TRUE(pixel == white || pixel == 0xFFFF0000) << "blurred at " << i;
+        rows += inColumn != white;
+        columns += inRow != white;
+    }
+    EXPECT_EQ(rows, width);
+    EXPECT_EQ(columns, width);
+}
+
+TEST_P(LinePictureTest, ADotShows) {
+    for (const char* drawing : {"SP1;PU1000,1000;PD1000,1000", "SP1;PU1000,1000;CI0"}) {
+        job = readDrawing(drawing);
+        LinePicture picture;
+        plot(picture);
+        const int middle = static_cast<int>(100 * GetParam());
+        EXPECT_LT(qGray(picture.image().pixel(middle, middle)), 0xC0) << drawing;
+    }
+}
+
+TEST(LinePicture, ANewDrawingOfTheSameSizeIsPaintedAnew) {
+    LinePicture picture;
+    picture.PlotLines(setUpDrawing("SP1;PD1000,1000"), plainView(4, 200), {200, 200});
+    const QImage before = picture.image().copy();
+    picture.forget();
+    picture.PlotLines(setUpDrawing("SP1;PD1000,500"), plainView(4, 200), {200, 200});
+    EXPECT_NE(picture.image(), before);
+}
+
+TEST(LinePicture, APenOutside1To8IsRefused) {
+    Job job = readDrawing("SP8;PD10,10");
+    job.gudtPaths[1].intPen = 9;
+    LinePicture picture;
+    EXPECT_THROW(picture.PlotLines(job, {}, {9, 9}), SubscriptOutOfRange);
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "preview/machined_path.h"
+#include "preview/piece_picture.h"
+#include "tests/preview/machined_job.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+constexpr int side = 200; // pixels, 4 to a mm
+
+struct Painted {
+    QImage image;
+    DepthList depths;
+
+    QRgb at(double x, double y) const { // mm
+        return image.pixel(static_cast<int>(x * 4), static_cast<int>(side - y * 4));
+    }
+};
+
+Painted paint(Job& job, const ToolList& tools, double pixelRatio = 1) {
+    Logger logger;
+    PieceScale piece;
+    EXPECT_TRUE(GetPieceScale(job, tools, {side * 15, side * 15}, piece, logger));
+    EXPECT_TRUE(sortPathsByDepth(job, logger));
+    Painted painted;
+    const int size = static_cast<int>(side * pixelRatio);
+    painted.depths =
+        paintPiece(painted.image, {size, size}, plainView(4, side, pixelRatio), job, tools, piece);
+    return painted;
+}
+
+constexpr QRgb grey(int level) {
+    return qRgb(level, level, level);
+}
+
+double distanceToLine(const Path& path, double x, double y) {
+    const double dx = path.sngEndX - path.sngStartX;
+    const double dy = path.sngEndY - path.sngStartY;
+    const double square = dx * dx + dy * dy;
+    const double along = (x - path.sngStartX) * dx + (y - path.sngStartY) * dy;
+    const double part = square == 0 ? 0 : std::clamp(along / square, 0.0, 1.0);
+    return std::hypot(path.sngStartX + part * dx - x, path.sngStartY + part * dy - y);
+}
+
+double distanceToArc(const Path& path, double x, double y) {
+    const auto turn = [&](double angle) { // counter-clockwise from the arc's first angle
+        return std::fmod(angle - path.sngAngleFrom + 4 * M_PI, 2 * M_PI);
+    };
+    const double dx = x - path.sngCentreX;
+    const double dy = y - path.sngCentreY;
+    const double length = turn(path.sngAngleTo) == 0 ? 7 : turn(path.sngAngleTo);
+    if (turn(std::atan2(dy, dx)) <= length)
+        return std::fabs(std::hypot(dx, dy) - path.sngRadius);
+    return std::min(std::hypot(path.sngStartX - x, path.sngStartY - y),
+                    std::hypot(path.sngEndX - x, path.sngEndY - y));
+}
+
+double distanceTo(const Path& path, bool drilled, double x, double y) {
+    if (drilled)
+        return std::hypot(path.sngCentreX - x, path.sngCentreY - y);
+    return path.intType == straightLine ? distanceToLine(path, x, y) : distanceToArc(path, x, y);
+}
+
+struct ShapeCase {
+    const char* name;
+    const char* drawing;
+    bool drill;
+};
+
+// Whatever the shape: what the tool touches has the depth's colour, all else is untouched.
+TEST(DrawPiece, ShowsJustWhatTheToolTouches) {
+    const ShapeCase cases[] = {
+        {"a line", "SP1;PU600,800;PD1500,1300", false},
+        {"a dot", "SP1;PU600,800;PD600,800", false},
+        {"an arc", "SP1;PU1400,1000;AA1000,1000,200", false},
+        {"a clockwise arc", "SP1;PU1400,1000;AA1000,1000,-70", false},
+        {"an arc narrower than the tool", "SP1;PU1100,1000;AA1000,1000,120", false},
+        {"a circle", "SP1;PU1000,1000;CI500", false},
+        {"a circle narrower than the tool", "SP1;PU1000,1000;CI100", false},
+        {"a drilled hole", "SP1;PU1000,1000;CI500", true},
+    };
+    const ToolList tools = toolsOf({8});
+    for (const ShapeCase& row : cases) {
+        SCOPED_TRACE(row.name);
+        Job job = machinedDrawing(row.drawing, {{1, 2}});
+        for (Settings& settings : job.gudtSettings)
+            settings = job.gudtSettings[1];
+        job.gudtPens[1].blnDrill = row.drill;
+        const Painted painted = paint(job, tools);
+        const Path& path = job.gudtPaths[1];
+        int wrong = 0;
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x) {
+                const double mmX = (x + 0.5) / 4;
+                const double mmY = (side - y - 0.5) / 4;
+                const double distance = distanceTo(path, row.drill, mmX, mmY);
+                const QRgb pixel = painted.image.pixel(x, y);
+                wrong += distance < 3.75 && pixel != grey(0xC0); // a pixel's width inside
+                wrong += distance > 4.25 && pixel != white;
+            }
+        EXPECT_EQ(wrong, 0);
+    }
+}
+
+TEST(DrawPiece, DeeperWorkLiesOverShallowerAndHolesKeepTheirRims) {
+    // Holes 1 mm deep, on one of which a line 5 mm deep ends; drawn first in the file.
+    Job job = machinedDrawing("SP1;PU400,1000;PD1000,1000;SP2;PU1000,1000;CI200;PU1600,1600;CI200",
+                              {{1, 5}, {0, 0}, {2, 1}});
+    job.gudtPens[2].blnDrill = true;
+    const Painted painted = paint(job, toolsOf({2, 10}));
+    EXPECT_EQ(painted.at(25, 25), grey(16));      // the line's end within the hole
+    EXPECT_EQ(painted.at(27, 27.5), grey(208));   // the hole beside it
+    EXPECT_GT(qGray(painted.at(20.15, 25)), 190); // the hole's rim on the line
+    EXPECT_EQ(painted.at(18, 25), grey(16));      // the line outside
+    EXPECT_EQ(painted.at(40, 40), grey(208));     // the other hole
+    EXPECT_EQ(painted.depths.gsngDepths, (OneBasedArray<float>{1, 5}));
+}
+
+TEST(DrawPiece, ChordsOfACurveShowNoSeams) {
+    std::string curve = "SP1;PU1500,1000;";
+    for (int i = 1; i <= 180; ++i)
+        curve += "PD" + std::to_string(1000 + 500 * std::cos(i * M_PI / 90)) + "," +
+                 std::to_string(1000 + 500 * std::sin(i * M_PI / 90)) + ";";
+    Job job = machinedDrawing(curve, {{1, 2}});
+    const Painted painted = paint(job, toolsOf({4}), 1);
+    for (int i = 0; i < 360; ++i)
+        for (const double radius : {11.0, 12.5, 14.0})
+            EXPECT_EQ(painted.at(25 + radius * std::cos(i * M_PI / 180),
+                                 25 + radius * std::sin(i * M_PI / 180)),
+                      grey(0xC0));
+}
+
+TEST(DrawPiece, AToolThinnerThanAPixelStillShows) {
+    for (const double ratio : {1.0, 2.0}) {
+        Job job = machinedDrawing("SP1;PU401,0;PD401,2000", {{1, 2}});
+        const Painted painted = paint(job, toolsOf({0.1F}), ratio);
+        double ink = 0; // pixels' worth of full colour in one row
+        for (int x = 0; x < painted.image.width(); ++x)
+            ink += (255 - qGray(painted.image.pixel(x, 50))) / (255.0 - 0xC0);
+        EXPECT_NEAR(ink, ratio, 0.1);
+    }
+}
+
+TEST(DrawPiece, LeftOutPensAreNeitherDrawnNorInTheLegend) {
+    Job job =
+        machinedDrawing("SP1;PU200,1000;PD1800,1000;SP2;PU1000,200;PD1000,1800", {{1, 3}, {1, 7}});
+    job.gudtPens[2].blnOmit = true;
+    const Painted painted = paint(job, toolsOf({2}));
+    EXPECT_EQ(painted.at(25, 10), white);
+    EXPECT_EQ(painted.at(10, 25), grey(0xC0));
+    EXPECT_EQ(painted.depths.gsngDepths, (OneBasedArray<float>{3}));
+}
+
+} // namespace
+} // namespace torvik

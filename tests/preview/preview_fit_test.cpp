@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "preview/outlines.h"
+#include "preview/preview_fit.h"
+#include "tests/preview/machined_job.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+constexpr FrameSize frame{600 * 15, 400 * 15};
+
+LineScale lineScale(const Job& job) {
+    Logger logger;
+    LineScale scale;
+    EXPECT_TRUE(GetScale(job, frame, scale, logger));
+    return scale;
+}
+
+struct FitCase {
+    const char* name;
+    const char* drawing;
+    PreviewFit fit;
+    PictureBox picture; // twips
+};
+
+void expectBox(const PictureBox& box, const PictureBox& expected) {
+    EXPECT_NEAR(box.sngLeft, expected.sngLeft, 0.001);
+    EXPECT_NEAR(box.sngTop, expected.sngTop, 0.001);
+    EXPECT_NEAR(box.sngWidth, expected.sngWidth, 0.001);
+    EXPECT_NEAR(box.sngHeight, expected.sngHeight, 0.001);
+}
+
+TEST(GetScale, FitsDrawings) {
+    const FitCase cases[] = {
+        {"a wide drawing fills the width",
+         "SP1;PU400,400;PD4400,2400",
+         {87.6F, 756, 756},
+         {0, 690, 9000, 4620}},
+        {"a tall drawing fills the height",
+         "SP1;PD400,1600",
+         {144, -120, -120},
+         {3660, 0, 1680, 6000}},
+        {"a level line lies at the margins",
+         "SP1;PU400,800;PD1200,800",
+         {438, 4260, 8640},
+         {0, 2880, 9000, 240}},
+        {"a dot has the largest scale",
+         "SP1;PU40,0;PD40,0",
+         {99999, 99879, -120},
+         {4380, 2880, 240, 240}},
+        {"a circle counts with all its sides",
+         "SP1;CI400",
+         {288, -3000, -3000},
+         {1500, 0, 6000, 6000}},
+        {"the search starts at 1000 mm",
+         "SP1;PU80000,0;PD100000,100000",
+         {2.304F, 2184, -120},
+         {2652, 0, 3696, 6000}},
+        {"an empty drawing fills the frame",
+         "SP1;PU4000,4000",
+         {15, -120, -120},
+         {0, 0, 9000, 6000}},
+    };
+    for (const FitCase& row : cases) {
+        SCOPED_TRACE(row.name);
+        const LineScale scale = lineScale(readDrawing(row.drawing));
+        EXPECT_FLOAT_EQ(scale.fit.gsngScale, row.fit.gsngScale);
+        EXPECT_FLOAT_EQ(scale.fit.gsngOffsetX, row.fit.gsngOffsetX);
+        EXPECT_FLOAT_EQ(scale.fit.gsngOffsetY, row.fit.gsngOffsetY);
+        expectBox(scale.picture, row.picture);
+    }
+}
+
+TEST(GetScale, TheLowestLeftExtremeLiesEightPixelsInsideThePicture) {
+    const LineScale scale = lineScale(readDrawing("SP1;PU400,800;PD1200,800"));
+    const PictureView view{scale.fit, scale.picture.sngHeight, {}, 1};
+    EXPECT_FLOAT_EQ(static_cast<float>(view.screenX(10)), 120);
+    EXPECT_FLOAT_EQ(static_cast<float>(view.screenY(20)), 120);
+}
+
+TEST(GetScale, AnotherFrameGivesTheSameFitAsReadingAgain) {
+    LineScale scale = lineScale(readDrawing("SP1;PU400,400;PD4400,2400"));
+    refit(scale, {300 * 15, 400 * 15});
+    EXPECT_FLOAT_EQ(scale.fit.gsngScale, 42.6F);
+    expectBox(scale.picture, {0, 1815, 4500, 2370});
+}
+
+struct ArcCase {
+    const char* name;
+    float from, to;
+    Extents expected; // of an arc of radius 10 about 0, 0
+};
+
+TEST(GetScale, ArcsCountWithTheirBulges) {
+    const double s = 10 * std::sqrt(0.5);
+    const ArcCase cases[] = {
+        {"over the top", 0.785398F, 2.356194F, {-s, s, s, 10}},
+        {"over the angle 0", 5.497787F, 0.785398F, {s, -s, 10, s}},
+        {"all but the right side", 0.785398F, 5.497787F, {-10, -10, s, 10}},
+        {"over 0 and round to the bottom", 3.926991F, 2.356194F, {-s, -10, 10, 10}},
+        {"within a quarter", 0.785398F, 1.570796F, {0, s, s, 10}},
+    };
+    for (const ArcCase& row : cases) {
+        SCOPED_TRACE(row.name);
+        Path arc{arcCounterClockwise, 1};
+        arc.sngRadius = 10;
+        arc.sngAngleFrom = row.from;
+        arc.sngAngleTo = row.to;
+        arc.sngStartX = 10 * std::cos(row.from);
+        arc.sngStartY = 10 * std::sin(row.from);
+        arc.sngEndX = 10 * std::cos(row.to);
+        arc.sngEndY = 10 * std::sin(row.to);
+        Job job;
+        job.gudtPaths.append(arc);
+        const Extents found = lineScale(job).extents;
+        EXPECT_NEAR(found.minX, row.expected.minX, 1e-5);
+        EXPECT_NEAR(found.minY, row.expected.minY, 1e-5);
+        EXPECT_NEAR(found.maxX, row.expected.maxX, 1e-5);
+        EXPECT_NEAR(found.maxY, row.expected.maxY, 1e-5);
+    }
+}
+
+TEST(Arcs, AWholeTurnWithinAHundredthIsACircle) {
+    Path arc{arcCounterClockwise, 1};
+    arc.sngRadius = 100;
+    const auto gap = [&](float to) {
+        arc.sngAngleTo = to;
+        Points points;
+        appendLine(points, arc, plainView(1, 0));
+        return std::hypot(points.front().x - points.back().x, points.front().y - points.back().y);
+    };
+    EXPECT_NEAR(gap(6.279F), 0, 1e-9);
+    EXPECT_NEAR(gap(0.009F), 0, 1e-9);
+    EXPECT_NEAR(gap(6.26F), 2 * 100 * std::sin((2 * M_PI - 6.26) / 2), 1e-3);
+    EXPECT_NEAR(gap(0.02F), 2, 1e-3);
+}
+
+TEST(GetPieceScale, WidensEachPathByItsTool) {
+    // Black lines, Red lines that are left out, Blue holes drilled, each 10 mm from the next.
+    Job job = machinedDrawing("SP1;PU400,400;PD4400,2400;SP2;PU400,400;PD8000,2400;"
+                              "SP4;PU2000,2000;CI200",
+                              {{1, 4}, {0, 9}, {0, 0}, {2, 2.5F}});
+    job.gudtPens[2].blnOmit = true;
+    job.gudtPens[4].blnDrill = true;
+    Logger logger;
+    PieceScale piece;
+    ASSERT_TRUE(GetPieceScale(job, toolsOf({6, 3}), frame, piece, logger));
+    EXPECT_EQ(piece.extents.minX, 7);
+    EXPECT_EQ(piece.extents.minY, 7);
+    EXPECT_EQ(piece.extents.maxX, 200); // a left-out line has no width
+    EXPECT_EQ(piece.extents.maxY, 63);
+    EXPECT_FLOAT_EQ(piece.fit.gsngScale, 8760.0F / 193);
+    EXPECT_FLOAT_EQ(piece.fit.gsngOffsetX, 8760.0F / 193 * 7 - 120);
+    EXPECT_FLOAT_EQ(piece.sngShallowest, 2.5F);
+    EXPECT_FLOAT_EQ(piece.sngDeepest, 4);
+}
+
+TEST(GetPieceScale, ADrilledCircleCountsAsItsToolsDisc) {
+    Job job = machinedDrawing("SP1;PU2000,2000;CI200", {{0, 0}, {1, 2}});
+    job.gudtPens[1].blnDrill = true;
+    Logger logger;
+    PieceScale piece;
+    ASSERT_TRUE(GetPieceScale(job, toolsOf({3}), frame, piece, logger));
+    EXPECT_FLOAT_EQ(piece.fit.gsngScale, 1920); // 5760 twips for 3 mm
+    EXPECT_FLOAT_EQ(piece.fit.gsngOffsetY, 1920 * 48.5F - 120);
+}
+
+TEST(GetPieceScale, NamesTheGroupWithoutATool) {
+    Job job = machinedDrawing("SP4;PU2000,2000;CI200;CI100", {{0, 0}, {2, 1}, {1, 1}});
+    job.gudtPens[4].blnDrill = true;
+    std::string message;
+    Logger logger({}, [&](const ErrorReport& report) { message = report.message(); });
+    PieceScale piece;
+    EXPECT_FALSE(GetPieceScale(job, toolsOf({3}), frame, piece, logger));
+    EXPECT_EQ(message, "An error has occurred in GetPieceScale (modHpgl):\n"
+                       "the 5.0 mm Blue holes have no tool.");
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "preview/preview_widget.h"
+#include "tests/preview/machined_job.h"
+
+#include <QApplication>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+class PreviewWidgetTest : public testing::Test {
+protected:
+    PreviewWidgetTest() {
+        preview.resize(700, 400);
+        preview.setAttribute(Qt::WA_DontShowOnScreen);
+        preview.show();
+    }
+
+    void read(const char* drawing, const std::vector<Group>& groups) {
+        job = machinedDrawing(drawing, groups);
+        preview.GetScale();
+        preview.PlotLines();
+    }
+    QWidget* child(const char* name) { return preview.findChild<QWidget*>(name); }
+    bool isBlank() {
+        const QImage shown = child("picBack")->grab().toImage();
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                if (shown.pixel(x, y) != white)
+                    return false;
+        return true;
+    }
+    std::vector<std::string> legend() {
+        std::vector<std::string> texts;
+        for (const Legend::Row& row : preview.findChild<Legend*>("lblDepths")->rows())
+            texts.push_back(row.text.toStdString());
+        return texts;
+    }
+
+    Job job;
+    ToolList tools = toolsOf({6, 3});
+    std::vector<std::string> reports;
+    Logger logger{{}, [this](const ErrorReport& report) { reports.push_back(report.message()); }};
+    PreviewWidget preview{job, tools, logger};
+};
+
+const char* const plate = "SP1;PU400,400;PD4400,2400";
+
+TEST_F(PreviewWidgetTest, ThePictureIsSizedAndCentred) {
+    read(plate, {{1, 2}});
+    const QWidget* back = child("picBack");
+    const QRect plot = child("picPlot")->geometry();
+    EXPECT_FLOAT_EQ(preview.fit().gsngScale, static_cast<float>((back->width() - 16) * 15) / 100);
+    EXPECT_EQ(plot.width(), back->width());
+    EXPECT_EQ(plot.height(), std::lround((back->width() - 16) / 2.0 + 16));
+    EXPECT_EQ(plot.center().y(), back->rect().center().y());
+    EXPECT_EQ(child("picPlot")->property("helpContext").toInt(), 10);
+}
+
+TEST_F(PreviewWidgetTest, ThePieceFitStaysInForceUntilTheNextDrawing) {
+    read(plate, {{1, 2}});
+    const float lines = preview.fit().gsngScale;
+    const QRect plot = child("picPlot")->geometry();
+    preview.DrawPiece();
+    const float piece = preview.fit().gsngScale;
+    EXPECT_FLOAT_EQ(piece, lines * 100 / 106);
+    EXPECT_EQ(child("picPlot")->geometry(), plot);
+    preview.PlotLines();
+    EXPECT_EQ(preview.fit().gsngScale, piece);
+    preview.resize(750, 400);
+    EXPECT_FLOAT_EQ(preview.fit().gsngScale,
+                    static_cast<float>((child("picBack")->width() - 16) * 15) / 106);
+    preview.GetScale();
+    EXPECT_GT(preview.fit().gsngScale, piece * 106 / 100);
+}
+
+TEST_F(PreviewWidgetTest, BothPartsOfTheFrameShowThePicture) {
+    // The groove is wider than the picture is high, and goes on above it.
+    read("SP1;PU400,800;PD1200,800", {{1, 2}});
+    preview.DrawPiece();
+    const QRect plot = child("picPlot")->geometry();
+    ASSERT_EQ(plot.height(), 16);
+    EXPECT_EQ(child("picPlot")->grab().toImage().pixel(plot.width() / 2, 2), 0xFFC0C0C0);
+    EXPECT_EQ(child("picBack")->grab().toImage().pixel(plot.center().x(), plot.top() - 20),
+              0xFFC0C0C0);
+}
+
+TEST_F(PreviewWidgetTest, TheLegendListsTheDepthsAndGoesWithThePiece) {
+    read("SP1;PD4000,0;SP2;PU0,2000;PD4000,2000;SP3;PU0,1000;PD4000,1000;SP4;PU0,100;PD40,100",
+         {{1, 1}, {1, 5}, {1, 3}, {2, 3}});
+    preview.DrawPiece();
+    EXPECT_EQ(legend(), (std::vector<std::string>{"1.00 mm", "3.00 mm", "5.00 mm"}));
+    EXPECT_EQ(preview.findChild<Legend*>("lblDepths")->rows()[1].colour, 112 * 0x010101);
+    EXPECT_FALSE(child("lblLegend")->isHidden());
+    preview.PlotLines();
+    EXPECT_TRUE(legend().empty());
+    EXPECT_TRUE(child("lblLegend")->isHidden());
+}
+
+TEST_F(PreviewWidgetTest, TheLegendNeverCoversTheDrawing) {
+    read(plate, {{1, 2}});
+    preview.DrawPiece();
+    for (const QSize size : {QSize(300, 250), QSize(400, 700), QSize(2400, 1800)}) {
+        preview.resize(size.width(), size.height());
+        EXPECT_FALSE(child("picBack")->geometry().intersects(child("picLegend")->geometry()));
+        EXPECT_TRUE(child("picBack")->rect().contains(child("picPlot")->geometry()));
+        EXPECT_TRUE(preview.rect().contains(child("picLegend")->geometry()));
+        EXPECT_GT(preview.fit().gsngScale, 0);
+    }
+}
+
+TEST_F(PreviewWidgetTest, WhatWasClearedStaysEmptyAtAnySize) {
+    read(plate, {{1, 2}});
+    EXPECT_FALSE(isBlank());
+    preview.clear();
+    EXPECT_FALSE(child("lblNoDrawing")->isHidden());
+    child("lblNoDrawing")->hide(); // its own text is no drawing
+    EXPECT_TRUE(isBlank());
+    preview.resize(500, 500);
+    EXPECT_TRUE(isBlank());
+    preview.PlotLines();
+    EXPECT_FALSE(isBlank());
+    EXPECT_TRUE(child("lblNoDrawing")->isHidden());
+}
+
+TEST_F(PreviewWidgetTest, ABlinkKeepsItsPathsHiddenUntilTheyShow) {
+    read(plate, {{1, 2}});
+    const QImage before = preview.picture().copy();
+    preview.plotBlink({1}, false);
+    EXPECT_TRUE(isBlank());
+    preview.plotBlink({1}, true);
+    EXPECT_EQ(preview.picture(), before);
+}
+
+TEST_F(PreviewWidgetTest, AGroupWithoutAToolIsReportedAndLeavesTheFrameEmpty) {
+    read(plate, {{1, 2}});
+    preview.DrawPiece();
+    job.gudtSettings[1].intTool = 0;
+    preview.DrawPiece();
+    ASSERT_EQ(reports.size(), 1U);
+    EXPECT_EQ(reports[0], "An error has occurred in GetPieceScale (modHpgl):\n"
+                          "the Black lines have no tool.");
+    EXPECT_TRUE(isBlank());
+}
+
+TEST_F(PreviewWidgetTest, ABlinkThatFailsIsNotReported) {
+    read(plate, {{1, 2}});
+    for (int tick = 0; tick < 3; ++tick)
+        preview.plotBlink({7}, false);
+    EXPECT_TRUE(reports.empty());
+}
+
+} // namespace
+} // namespace torvik
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
