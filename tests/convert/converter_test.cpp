@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "tests/convert/conversion.h"
+
+#include <QProcess>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace torvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path golden = TORVIK_GOLDEN;
+
+// The golden cut job as a.plt and b.plt with answers and tools where the converter looks for them,
+// and bad.plt, which is refused.
+class Converter : public testing::Test {
+protected:
+    Converter() {
+        fs::create_directories(m_conversion.home() / "PlotSave");
+        fs::create_directories(m_conversion.config() / "Baltrum");
+        for (const char* name : {"a", "b"}) {
+            fs::copy(golden / "cut_job/drawing.plt", path(std::string(name) + ".plt"));
+            fs::copy(golden / "cut_job/drawing.plx",
+                     m_conversion.home() / "PlotSave" / (std::string(name) + ".plx"));
+        }
+        fs::copy(golden / "pen_nine/drawing.plt", path("bad.plt"));
+        fs::copy(golden / "cut_job/Maskor.ini", m_conversion.config() / "Baltrum/Maskor.ini");
+        m_kept = {filesOf(m_conversion.home()), filesOf(m_conversion.config())};
+    }
+    ~Converter() override {
+        EXPECT_EQ(filesOf(m_conversion.home()), m_kept.first) << "saved settings were written";
+        EXPECT_EQ(filesOf(m_conversion.config()), m_kept.second) << "tools were written";
+    }
+
+    fs::path path(const std::string& name) const { return m_conversion.work() / name; }
+    std::string bytes(const std::string& name) const { return readWholeFile(path(name), 1 << 20); }
+    void write(const std::string& name, std::string_view text) const {
+        std::ofstream(path(name), std::ios::binary) << text;
+    }
+    // The names in the folder without the drawings.
+    std::string names() const {
+        std::string found;
+        for (const auto& [name, text] : filesOf(m_conversion.work()))
+            found += name.ends_with(".plt") ? "" : name + " ";
+        return found;
+    }
+    // Exit code, standard output and standard error.
+    std::string run(const QStringList& arguments) {
+        const int code = m_conversion.run(arguments);
+        return std::to_string(code) + "|" + m_conversion.out + "|" + m_conversion.err;
+    }
+
+private:
+    Conversion m_conversion;
+    std::pair<Files, Files> m_kept;
+};
+
+TEST_F(Converter, ConvertsSeveralDrawingsPastABadOne) {
+    EXPECT_EQ(run({"a.plt", "bad.plt", "missing.plt", "b.plt", "--target", "winnc", "--number", "7",
+                   "--output-dir", "new/folder"}),
+              "4|a.plt -> new/folder/oprg7\nb.plt -> new/folder/oprg10\n|"
+              "torvik-convert: bad.plt, line 3: pen 9 draws here, but a drawing may use the pens 1 "
+              "to 8 only\ntorvik-convert: missing.plt: the file does not exist\n");
+    EXPECT_EQ(names(), "new/folder/oprg10 new/folder/oprg10.txt new/folder/oprg7 "
+                       "new/folder/oprg7.txt ");
+    EXPECT_TRUE(bytes("new/folder/oprg10").starts_with("\x1B&HE:\x12%\r\n:0010\r\nN1 G54\r\n"));
+    EXPECT_EQ(run({"a.plt", "--target", "maskor", "--quiet"}), "0||");
+    EXPECT_EQ(bytes("a.mxc"), readWholeFile(golden / "cut_job/expected.mxc", 1 << 20));
+}
+
+TEST_F(Converter, RefusesMistakesBeforeAnythingIsWritten) {
+    fs::create_directory(path("other"));
+    fs::copy(path("a.plt"), path("other/a.plt"));
+    const QStringList rows[] = {
+        {"a.plt", "b.plt", "other/a.plt", "--target", "kestra", "--output-dir", "."},
+        {"a.plt", "b.plt", "--target", "wincam", "--number", "32767"},
+        {"a.plt", "b.plt", "--target", "kestra", "--output", "c.iso"},
+        {"a.plt", "b.plt", "--target", "kestra", "--answers", "drawing.plx"},
+        {"a.plt", "--target", "wincam", "--number", "0"},
+        {"a.plt", "--target", "wincam", "--number", "1e3"},
+        {"a.plt", "--target", "kestra", "--fast"},
+        {"a.plt"},
+        {"--target", "kestra"},
+        {},
+    };
+    for (const QStringList& row : rows) {
+        const std::string said = run(row);
+        EXPECT_TRUE(said.starts_with("1||torvik-convert: ")) << said;
+        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+        EXPECT_EQ(names(), "") << row.join(' ').toStdString();
+    }
+}
+
+TEST_F(Converter, OverwritesOnlyWhenTold) {
+    write("a.iso", "earlier");
+    EXPECT_EQ(run({"a.plt", "b.plt", "--target", "kestra", "--number", "x"}),
+              "2|b.plt -> b.iso\n|"
+              "torvik-convert: a.iso: the file exists already; --force overwrites it\n");
+    EXPECT_EQ(bytes("a.iso"), "earlier");
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--force", "--quiet"}), "0||");
+    EXPECT_EQ(bytes("a.iso"), bytes("b.iso"));
+    write("a.iso", "earlier");
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output", "a.iso"}), "0|a.plt -> a.iso\n|");
+    EXPECT_EQ(bytes("a.iso"), bytes("b.iso"));
+}
+
+TEST_F(Converter, LeavesBothFilesOrNone) {
+    fs::create_directory(path("%MPF1.txt"));
+    EXPECT_EQ(run({"a.plt", "--target", "wincam", "--number", "1", "--force"}),
+              "2||torvik-convert: %MPF1.txt: there is a folder of this name\n");
+    EXPECT_EQ(names(), "");
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output", "no/folder/a.iso"}).substr(0, 2),
+              "2|");
+
+    // A device that is full after 100 bytes, in the middle of the program.
+    write("oprg1", "an earlier program");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{100, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    const std::string said = run({"a.plt", "--target", "winnc", "--number", "1", "--force"});
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(said.starts_with("2||torvik-convert: ")) << said;
+    EXPECT_TRUE(said.ends_with(": the file cannot be written: File too large\n")) << said;
+    EXPECT_EQ(names(), "oprg1 ");
+    EXPECT_EQ(bytes("oprg1"), "an earlier program");
+}
+
+TEST_F(Converter, FillsInAMissingDateOnly) {
+    fs::copy(golden / "drilled_job/drawing.plt", path("holes.plt"));
+    const QString answers = QString::fromStdString(golden.string() + "/drilled_job/drawing.plx");
+    const QString tools = QString::fromStdString(golden.string() + "/drilled_job/Maskor.ini");
+    EXPECT_EQ(run({"holes.plt", "--target", "maskor", "--answers", answers, "--tools", tools,
+                   "--date", " 1. M\u00E4rz ", "--quiet"}),
+              "0||");
+    EXPECT_TRUE(bytes("holes.mxc").starts_with("%\r\n*Date - 1. M\xE4rz\r\n*Designer - Grace\r\n"));
+    run({"a.plt", "--target", "maskor", "--date", "1 March"});
+    EXPECT_TRUE(bytes("a.mxc").starts_with("%\r\n*Date - 14 March 2025\r\n"));
+
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--answers", "no.plx"}),
+              "2||torvik-convert: no.plx: the file does not exist\n");
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--tools", "no.ini"}),
+              "2||torvik-convert: no.ini: the file does not exist\n");
+}
+
+TEST_F(Converter, ShowsWhatDrawingsHold) {
+    fs::copy(golden / "mixed_job/drawing.plt", path("mixed.plt"));
+    EXPECT_EQ(run({"--show", "mixed.plt"}),
+              "0|Drawing: mixed.plt\nElements: 5 lines, 0 arcs, 3 circles\n"
+              "Extents: X -1.513 to 100.000 mm, Y -0.500 to 8.000 mm\n"
+              "Pen 1 Black: 3 lines, 0 arcs, 0 circles\nPen 2 Red: 1 line, 0 arcs, 0 circles\n"
+              "Pen 3 Green: 0 lines, 0 arcs, 2 circles\n  Circle sizes: 1.00 mm\n"
+              "Pen 5 Brown: 1 line, 0 arcs, 0 circles\nPen 6 Orange: 0 lines, 0 arcs, 1 circle\n"
+              "  Circle sizes: 4.00 mm\n|");
+    EXPECT_EQ(run({"bad.plt", "--show"}).substr(0, 3), "4||");
+}
+
+TEST_F(Converter, RunsAsAProgram) {
+    const auto call = [this](const QStringList& arguments) {
+        QProcess process;
+        process.start(TORVIK_CONVERT, arguments);
+        process.waitForFinished();
+        return std::to_string(process.exitCode()) + "|" +
+               process.readAllStandardOutput().toStdString() +
+               process.readAllStandardError().toStdString();
+    };
+    EXPECT_EQ(call({"--version"}), "0|torvik-convert " TORVIK_VERSION "\n");
+    const std::string help = call({"--help"});
+    for (const char* option :
+         {"0|Usage: ", "--target", "--answers", "--tools", "--number", "--output", "--output-dir",
+          "--date", "--force", "--quiet", "--show"})
+        EXPECT_NE(help.find(option), std::string::npos) << option;
+    EXPECT_EQ(call({"a.plt", "--target", "kestra"}), "0|a.plt -> a.iso\n");
+    EXPECT_EQ(bytes("a.iso"), readWholeFile(golden / "cut_job/expected.iso", 1 << 20));
+    EXPECT_EQ(call({"bad.plt", "--target", "kestra"}).substr(0, 2), "4|");
+}
+
+} // namespace
+} // namespace torvik
