@@ -139,11 +139,20 @@ std::int16_t toolNumber(const StatementValues& values) {
     return toolAt(*values.tools, values.toolPlace).intNumber;
 }
 
+std::int16_t offsetNumber(std::int16_t tool) {
+    try {
+        return toInt16(2.0 * tool - 1);
+    } catch (const Overflow&) {
+        throw Overflow("tool T" + formatInteger(tool) + " has no offset number D: 2 x " +
+                       formatInteger(tool) + " - 1 is outside -32768 to 32767");
+    }
+}
+
 std::string placeText(std::string_view place, const StatementValues& values) {
     if (place == "tool")
         return formatInteger(toolNumber(values));
     if (place == "offset")
-        return formatInteger(toInt16(2.0 * toolNumber(values) - 1));
+        return formatInteger(offsetNumber(toolNumber(values)));
     if (place == "speed")
         return formatFixed(values.spindleSpeed, 0);
     if (place == "dwell")

@@ -2,6 +2,7 @@
 #include "gcode/header.h"
 
 #include "base/error_trap.h"
+#include "base/errors.h"
 #include "base/picture.h"
 #include "base/text.h"
 #include "gcode/program_output.h"
@@ -55,8 +56,11 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
 
     const std::vector<std::int16_t> places = toolsInUse(job);
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const std::string name =
-            places.size() == 1 ? "Tool" : job.gstrOrdinal[static_cast<long>(i + 1)] + " tool";
+        const long position = static_cast<long>(i) + 1;
+        if (position > job.gstrOrdinal.high())
+            throw InvalidCall("the program changes to " + formatInteger(ssize(places)) +
+                              " tools, the header names the first sixteen only");
+        const std::string name = places.size() == 1 ? "Tool" : job.gstrOrdinal[position] + " tool";
         output.WriteLine(opener + name + " - " + toolLine(toolAt(tools, places[i])) + closer);
     }
 }

@@ -5,9 +5,8 @@
 #include "tests/base/temporary_folder.h"
 #include "tests/gcode/job_to_write.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <gtest/gtest.h>
 
 namespace torvik {
 namespace {

@@ -77,7 +77,7 @@ TEST(WriteGcodes, ChangesToolsAndSpeeds) {
          targetWinNc, kestraStart + cutLine + "G0 Z5.00;G0 Z50.00 M5;G49;M0;",
          "there is no entry number 0 (the list runs from 1 to 3);"},
         {"a tool number above 16384 has no offset in WinCAM", line, "1.tool=3", targetWinCam, "M1;",
-         "the whole number is outside -32768 to 32767;"},
+         "tool T16385 has no offset number D: 2 x 16385 - 1 is outside -32768 to 32767;"},
         {"elsewhere it is a tool as any other", "SP1;PD0,0", "1.tool=3 1.depth=0", targetKestra,
          "T16385 G43 H16385;S1000 M3;G0 Z5.00;" + kestraEnd},
     };
