@@ -35,7 +35,9 @@ void writeWhole(const std::filesystem::path& path, const std::string& text) {
         throw FileError(utf8FromPath(folder), "the folder cannot be created");
     QSaveFile file(QString::fromStdString(utf8FromPath(path)));
     const auto size = static_cast<qint64>(text.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), size) != size || !file.commit())
+    // commit() overlooks a disk that is full when it empties the buffer; flush() does not.
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), size) != size ||
+        !file.flush() || !file.commit())
         raiseFileError(path, "the answers cannot be saved", file);
 }
 

@@ -50,7 +50,7 @@ void SavedWriter::finish() {
     require(m_text.size() <= maxSavedBytes, "the texts of the job are too long to be kept");
 }
 
-void SavedWriter::require(bool holds, std::string_view cause) const {
+void SavedWriter::require(bool holds, std::string_view cause) {
     if (!holds)
         throw InvalidCall(std::string(cause));
 }

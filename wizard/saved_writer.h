@@ -22,7 +22,7 @@ public:
     void endLine();
     void finish();
     // Raises InvalidCall with the cause where the condition, on which the reader insists, fails.
-    void require(bool holds, std::string_view cause) const;
+    static void require(bool holds, std::string_view cause);
 
     std::string take() { return std::move(m_text); }
 

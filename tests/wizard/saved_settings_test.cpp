@@ -10,14 +10,18 @@
 #include "wizard/program_folder.h"
 #include "wizard/saved_names.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace torvik {
 namespace {
 
 class SavedSettings : public testing::Test {
 protected:
-    std::string bytesOf(const std::filesystem::path& path) { return readWholeFile(path, 1 << 20); }
+    static std::string bytesOf(const std::filesystem::path& path) {
+        return readWholeFile(path, 1 << 20);
+    }
     ImportResult import(const std::filesystem::path& drawing) {
         return importDrawing(job, drawing, tools, saved, logger);
     }
@@ -57,7 +61,10 @@ TEST_F(SavedSettings, OffersTheAnswersForAnUnchangedDrawingOnly) {
     job.gudtSettings[3].sngDwell = 2;
     job.gudtSettings[3].intTool = 4;
     rebuildOrder(job);
+    job.gintOrder[8] = -1; // holds no pen
     ASSERT_TRUE(PutSavedData(job, tools, saved, logger));
+    EXPECT_TRUE(
+        bytesOf(job.gstrSavedFile).ends_with("\r\n1\r\n2\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"));
 
     EXPECT_EQ(import(drawing).saved.outcome, SavedOutcome::taken);
     EXPECT_EQ(job.gstrHeader[headerMaterial], "Foam");
@@ -98,6 +105,26 @@ TEST_F(SavedSettings, LogsADamagedFileAndLeavesTheJobAlone) {
               SavedOutcome::taken);
 }
 
+// Lets no file of this process grow beyond the size while it lives.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN); // a write then fails instead
+};
+
 TEST_F(SavedSettings, KeepsTheEarlierFileWhereSavingFails) {
     import(folder.file("a.plt", "SP1;PD40,40;"));
     ASSERT_TRUE(PutSavedData(job, tools, saved, logger));
@@ -107,14 +134,19 @@ TEST_F(SavedSettings, KeepsTheEarlierFileWhereSavingFails) {
     job.gsngSafeHeight = 1;
     job.gudtSettings[1].intTool = 10;
     EXPECT_FALSE(PutSavedData(job, tools, saved, logger));
-    EXPECT_EQ(bytesOf(saved / "a.plx"), good);
-
     job.gudtSettings[1].intTool = 0;
+    {
+        const FileSizeLimit limit(100); // as a full disk
+        EXPECT_FALSE(PutSavedData(job, tools, saved, logger));
+    }
+    EXPECT_EQ(bytesOf(saved / "a.plx"), good);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(saved), {}), 1);
+
     EXPECT_FALSE(PutSavedData(job, tools, folder.file("file", "kept"), logger));
     EXPECT_EQ(bytesOf(folder.path() / "file"), "kept");
     std::filesystem::create_directory(folder.path() / "a.plx");
     EXPECT_FALSE(PutSavedData(job, tools, folder.path(), logger));
-    EXPECT_EQ(reports, 4);
+    EXPECT_EQ(reports, 5);
 }
 
 TEST_F(SavedSettings, RefusesADrawingAsAWhole) {

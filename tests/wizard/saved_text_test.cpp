@@ -133,7 +133,7 @@ TEST(SavedText, NamesTheLineOfADamage) {
     } rows[] = {
         {"no digest", 1, "", 1, "digest is missing"},
         {"a text without quotes", 3, "Anna", 3, "the designer does not stand in double quotes"},
-        {"a text that goes on to the next quote", 7, "\"Foam", 8, "goes on: \"100\"\""},
+        {"a text that goes on to the next quote", 7, "\"Foam", 8, R"(goes on: "100"")"},
         {"the last text is not closed", 10, "\"5", 10, "no closing quote"},
         {"more after a text", 7, R"("Foam" x)", 7, "goes on: \"x\""},
         {"a defect after a text of three lines", 7, "\"Foam\r\nor\nwood\"\r\n5", 10, "quotes"},
@@ -154,7 +154,7 @@ TEST(SavedText, NamesTheLineOfADamage) {
         {"another count of sizes", 15, "0,0,0,0,0,0,#TRUE#,#TRUE#,#FALSE#,1,0,0", 15, "it is 2"},
         {"an order entry with a fraction", 19, "1.5", 19, "no whole number"},
         {"a blank line in the order", 20, "", 20, "machining order is missing"},
-        {"more than the order", 25, "0\r\n\r\n\"more\"", 27, "goes on: \"\"more\"\""},
+        {"more than the order", 25, "0\r\n\r\n\"more\"", 27, R"(goes on: ""more"")"},
     };
     for (const auto& row : rows) {
         std::vector<std::string> lines = goodLines();
