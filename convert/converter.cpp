@@ -9,8 +9,8 @@
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
+#include "gcode/tool_check.h"
 #include "job/job.h"
-#include "job/machined_groups.h"
 #include "tools/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/import_drawing.h"
@@ -156,13 +156,11 @@ private:
         }
     }
 
-    // Names the first group that would be milled without a tool.
     void requireTools(const Job& job, const std::filesystem::path& drawing) const {
-        visitMachinedGroups(job, [&](const MachinedGroup& group) {
-            if (job.gudtSettings[group.settings].intTool < 1)
-                throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + groupText(job.gudtPens[group.pen], group.radius) +
-                                                 " have no tool of the tool library"};
-        });
+        const std::string group = groupWithoutTool(job, m_tools);
+        if (!group.empty())
+            throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + group +
+                                             " have no tool of the tool library"};
     }
 
     static void refuseOverwritingInput(const std::filesystem::path& output,

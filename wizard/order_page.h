@@ -6,8 +6,11 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <vector>
 
-class QToolButton;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
 
 namespace torvik {
 
@@ -32,6 +35,37 @@ public:
 
     // The rows as they stand, into gintOrder; gblnOrderSet is then set.
     void readOrder();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // One row: picOrd and lblOrd, whose property "Tag" holds the pen's number as text.
+    struct Row {
+        QWidget* frame;
+        QLabel* picOrd;
+        QLabel* lblOrd;
+    };
+
+    QWidget* buildList();
+    QWidget* buildButtons();
+    void addRow(std::int16_t pen);
+    void showPen(const Row& row, std::int16_t pen);
+    void highlight(std::int16_t row, bool selected);
+    // The row that shows the widget, 0 for none; the row at a height of the list.
+    std::int16_t rowOf(const QObject* widget) const;
+    std::int16_t rowAt(int y) const;
+    void select(std::int16_t row);
+    void dragTo(int y);
+
+    Workshop& m_workshop;
+    QWidget* m_list = nullptr;
+    QVBoxLayout* m_rowsLayout = nullptr;
+    QPushButton* m_up = nullptr;
+    QPushButton* m_down = nullptr;
+    std::vector<Row> m_rows; // row 1 is the first
+    std::int16_t m_selectedRow = 0;
+    std::int16_t m_selectedPen = 0;
 };
 
 } // namespace torvik

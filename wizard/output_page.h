@@ -6,6 +6,9 @@
 
 #include <cstdint>
 
+class QButtonGroup;
+class QLabel;
+
 namespace torvik {
 
 struct Workshop;
@@ -20,6 +23,17 @@ public:
     std::int16_t target() const;
     // Remembers the target for the next time.
     void rememberTarget();
+    // On entry to the step: what the page says of drive A:, and the focus on the chosen target.
+    void enter();
+
+private:
+    QWidget* buildDrive();
+    void changeDrive();
+    void showDrive();
+
+    Workshop& m_workshop;
+    QButtonGroup* m_targets = nullptr;
+    QLabel* m_drive = nullptr;
 };
 
 } // namespace torvik

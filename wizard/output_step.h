@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The road from the output page to the written file: program number, diskette, Save dialog,
-// writing, saving of the answers, and the menu that follows.
+// writing, keeping of the answers, and the menu that follows.
 #pragma once
-
-#include <QWidget>
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
+
+class QWidget;
 
 namespace torvik {
 
+struct Dialect;
 struct Workshop;
 
 // What the user wants after the output.
@@ -23,23 +25,28 @@ enum class AfterOutput {
 class OutputStep {
 public:
     // Dialogs are shown over the window.
-    OutputStep(Workshop& workshop, QWidget& window);
+    OutputStep(Workshop& workshop, QWidget& window) : m_workshop(workshop), m_window(window) {}
 
     // Asks what the target needs to know and calls WriteFile. gblnUnsaved becomes False only when
     // a file was really written.
     AfterOutput run(std::int16_t target);
 
-    // Writes the program, keeps the answers and shows frmMenu. An empty path asks for the file
-    // with strGetOutputFile.
+    // Writes the program, keeps the answers and shows frmMenu. Targets without a program number
+    // ask for the file with strGetOutputFile.
     AfterOutput WriteFile(std::int16_t target, std::int16_t number);
-
-    // The Save dialog of the target; an empty path when it is cancelled.
-    std::filesystem::path strGetOutputFile(const std::string& proposedName, std::int16_t target);
 
     // Whether the diskette drive's folder exists and can be written.
     bool blnDisketteReady() const;
 
 private:
+    // The program number, 0 where the user cancelled.
+    std::int16_t askForNumber(const Dialect& dialect);
+    bool waitForDiskette();
+    bool mayOverwrite(const std::string& name);
+    // False where the user gave up or the writing failed.
+    bool write(std::int16_t target, std::int16_t number, const std::filesystem::path& file);
+    AfterOutput showMenu(const std::string& writtenFile);
+
     Workshop& m_workshop;
     QWidget& m_window;
 };

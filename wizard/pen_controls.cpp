@@ -19,6 +19,7 @@ namespace {
 const QColor grey(192, 192, 192);
 const QColor paleCyan(192, 255, 255);
 
+constexpr int widestContent = 80; // letters
 constexpr int columnCaption = 0;
 constexpr int columnBox = 1;
 constexpr int columnUnit = 2;
@@ -59,6 +60,7 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
 
     controls.choice = new QButtonGroup(&page);
     auto* column = new QVBoxLayout;
+    column->setSpacing(6);
     column->addWidget(controls.title);
     column->addSpacing(6);
     for (std::size_t i = 0; i < controls.optCut.size(); ++i) {
@@ -116,7 +118,7 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
 
 void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(8);
+    grid->setHorizontalSpacing(6);
     grid->setColumnStretch(columnCaption, 1);
     for (std::size_t i = 0; i < penRowCount; ++i) {
         const QString number = QString::number(i);
@@ -163,11 +165,19 @@ void setTabOrder(const PenControls& controls) {
 
 PenControls makePenControls(QWidget& page) {
     PenControls controls;
-    auto* layout = new QVBoxLayout(&page);
+    // On a wide page the boxes stay near their captions.
+    auto* content = new QWidget(&page);
+    content->setMaximumWidth(widestContent * page.fontMetrics().averageCharWidth());
+    auto* outer = new QHBoxLayout(&page);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(content, 100);
+    outer->addStretch(1);
+
+    auto* layout = new QVBoxLayout(content);
     layout->setSpacing(12);
-    makeHead(controls, page, *layout);
-    makeToolPanel(controls, page, *layout);
-    makeRows(controls, page, *layout);
+    makeHead(controls, *content, *layout);
+    makeToolPanel(controls, *content, *layout);
+    makeRows(controls, *content, *layout);
     layout->addStretch();
     setTabOrder(controls);
     return controls;

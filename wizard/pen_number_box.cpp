@@ -26,7 +26,7 @@ QSize NumberBox::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     QSize size = QLineEdit::sizeHint();
     size.rwidth() +=
-        10 * metrics.horizontalAdvance(u'0') - usualLetters * metrics.horizontalAdvance(u'x');
+        8 * metrics.horizontalAdvance(u'0') - usualLetters * metrics.horizontalAdvance(u'x');
     return size;
 }
 

@@ -14,7 +14,7 @@ class NumberBox : public QLineEdit {
 public:
     explicit NumberBox(bool minusAllowed, QWidget* parent = nullptr);
 
-    // Room for ten digits.
+    // Room for eight digits.
     QSize sizeHint() const override;
 
 signals:

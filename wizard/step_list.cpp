@@ -8,9 +8,8 @@ namespace torvik {
 namespace {
 
 QStringList stepNames() {
-    return {StepList::tr("Open a drawing"), StepList::tr("Heights"),
-            StepList::tr("Pens"),           StepList::tr("Order"),
-            StepList::tr("Job details"),    StepList::tr("Output")};
+    return {StepList::tr("Open a drawing"), StepList::tr("Heights"),     StepList::tr("Pens"),
+            StepList::tr("Order"),          StepList::tr("Job details"), StepList::tr("Output")};
 }
 
 } // namespace

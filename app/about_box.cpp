@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "app/about_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace torvik {
+
+void showAboutBox(QWidget* parent) {
+    QMessageBox box(parent);
+    box.setObjectName(QStringLiteral("frmAbout"));
+    box.setWindowTitle(QObject::tr("About Torvik"));
+    box.setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
+    box.setText(QObject::tr("<b>Torvik %1</b>").arg(QApplication::applicationVersion()));
+    box.setInformativeText(
+        QObject::tr("From a pen-plotter drawing to a program for the milling machine.<br><br>"
+                    "Free software under the MIT licence. Built with Qt %1.")
+            .arg(QString::fromUtf8(qVersion())));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace torvik

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// One running copy of the program for each user: a second one asks the first to come to the front.
+#pragma once
+
+#include <QLocalServer>
+#include <QLockFile>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+namespace torvik {
+
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    // `name` tells the program and its user apart from all others.
+    explicit SingleInstance(const QString& name, QObject* parent = nullptr);
+
+    // True where this copy is the only one; it then listens for others. A lock left behind by a
+    // copy that crashed does not count.
+    bool claim();
+    // For a copy that is not the only one: asks the running one to show itself. False where it
+    // does not answer.
+    bool activateOther();
+
+signals:
+    // Another copy was started and has ended.
+    void otherStarted();
+
+private:
+    // Removes a lock file that no copy on this machine can have written: a torn one, or one from
+    // when the machine had another name.
+    bool isForeign();
+    void answer();
+
+    QString m_name;
+    std::unique_ptr<QLockFile> m_lock;
+    QLocalServer m_server;
+};
+
+// The name for this user's copies of the desktop program.
+QString instanceName();
+
+} // namespace torvik

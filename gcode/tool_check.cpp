@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "gcode/tool_check.h"
+
+#include "job/machined_groups.h"
+#include "tools/tool_list.h"
+
+namespace torvik {
+
+std::string groupWithoutTool(const Job& job, const ToolList& tools) {
+    std::string found;
+    visitMachinedGroups(job, [&](const MachinedGroup& group) {
+        const std::int16_t tool = job.gudtSettings[group.settings].intTool;
+        if (found.empty() && (tool < 1 || tool > tools.gintToolCount))
+            found = groupText(job.gudtPens[group.pen], group.radius);
+    });
+    return found;
+}
+
+} // namespace torvik

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+#include "tools/frm_tool_select.h"

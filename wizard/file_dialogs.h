@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// The dialogs that choose a drawing to open and a program's file to save. They start in the folder
+// used last, which the workshop's programs share, and remember the folder they ended in.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+class QWidget;
+
+namespace torvik {
+
+class Registry;
+
+// Folder settings of the registry.
+inline constexpr const char* plotFolderSetting = "PLT File Path";
+inline constexpr const char* maskorFolderSetting = "CNC File Path";
+inline constexpr const char* kestraFolderSetting = "Kestra File Path";
+
+// "Select the HPGL file to process". An empty path when the user cancels.
+std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent);
+
+// The Save dialog of the target, which adds the extension before it asks about overwriting and
+// refuses the drawing itself. An empty path when the user cancels.
+std::filesystem::path strGetOutputFile(Registry& registry, const std::string& proposedName,
+                                       std::int16_t target, const std::filesystem::path& drawing,
+                                       QWidget* parent);
+
+} // namespace torvik

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// Opening a drawing: the question, the file dialog, the import and the layout after it.
+#include "base/error_trap.h"
+#include "base/files.h"
+#include "preview/preview_widget.h"
+#include "wizard/colour_tree_view.h"
+#include "wizard/file_dialogs.h"
+#include "wizard/frm_main.h"
+#include "wizard/globals_page.h"
+#include "wizard/import_drawing.h"
+#include "wizard/program_folder.h"
+#include "wizard/recent_drawings.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace torvik {
+namespace {
+
+// The one drawing that is dragged, or an empty name.
+QString draggedDrawing(const QMimeData& data) {
+    if (data.urls().size() != 1)
+        return {};
+    const QString name = data.urls().constFirst().toLocalFile();
+    return name.endsWith(u".plt", Qt::CaseInsensitive) ? name : QString();
+}
+
+} // namespace
+
+void FrmMain::ReadFile() {
+    withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
+        if (!agreesToOpen())
+            return;
+        const auto drawing = strGetInputFile(m_workshop.registry, this);
+        if (!drawing.empty())
+            importFrom(drawing);
+    });
+}
+
+void FrmMain::ReadFile(const std::filesystem::path& drawing) {
+    withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
+        if (agreesToOpen())
+            importFrom(drawing);
+    });
+}
+
+bool FrmMain::agreesToOpen() {
+    return !m_workshop.job.gblnUnsaved ||
+           m_workshop.messages.intStdMsgBox("Are you sure you want to open a file\n"
+                                            "without saving the current file as G-codes?",
+                                            styleQuestion, "Open file") == buttonYes;
+}
+
+void FrmMain::importFrom(const std::filesystem::path& drawing) {
+    Job& job = m_workshop.job;
+    m_flash.stop();
+    const auto fullPath = std::filesystem::absolute(drawing);
+    const ImportResult result =
+        importDrawing(job, fullPath, m_workshop.tools, savedSettingsFolder(), m_workshop.logger);
+    if (!result.imported) {
+        returnToStart();
+        return;
+    }
+    m_kept.giveBack(job);
+    CreateTree(job, m_workshop.logger);
+    addRecentDrawing(fullPath);
+    layOutImported();
+}
+
+void FrmMain::layOutImported() {
+    const Job& job = m_workshop.job;
+    setWindowTitle(
+        tr("Torvik - importing from HPGL file %1").arg(QString::fromStdString(job.gstrPlotFile)));
+    showStep(2);
+    updateTree();
+    m_preview->GetScale();
+    PlotLines();
+    m_globals->RestoreGlobals();
+    m_globals->enter();
+    if (job.gintPathCount == 0)
+        warnOfEmptyDrawing();
+}
+
+void FrmMain::warnOfEmptyDrawing() {
+    m_workshop.messages.intStdMsgBox("This drawing holds nothing that can be milled:\n" +
+                                         m_workshop.job.gstrPlotFile,
+                                     styleExclamation, usualTitle);
+}
+
+void FrmMain::returnToStart() {
+    Job& job = m_workshop.job;
+    ClearData(job);
+    job.gstrPlotFile.clear();
+    job.gblnUnsaved = false;
+    setWindowTitle(QString::fromUtf8(usualTitle));
+    updateTree();
+    clearPreview();
+    showStep(1);
+}
+
+void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedDrawing(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void FrmMain::dropEvent(QDropEvent* event) {
+    const QString name = draggedDrawing(*event->mimeData());
+    event->acceptProposedAction();
+    later([this, name] { ReadFile(pathFromUtf8(name.toStdString())); });
+}
+
+} // namespace torvik

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/globals_page.h"
+
+#include "base/error_trap.h"
+#include "base/errors.h"
+#include "base/numbers.h"
+#include "base/picture.h"
+#include "wizard/form_fields.h"
+#include "wizard/pen_number_box.h"
+#include "wizard/wizard_host.h"
+#include "wizard/workshop.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+
+#include <string_view>
+
+namespace torvik {
+namespace {
+
+constexpr int helpHeights = 2;
+constexpr float perMinute = 1;
+constexpr float perSecond = 60;
+
+struct Height {
+    std::string_view name;
+    const char* caption;
+    const char* tip;
+    float Job::*field;
+};
+
+constexpr std::array<Height, 3> heights{{
+    {"Tool Change Height", QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
+     QT_TRANSLATE_NOOP("GlobalsPage",
+                       "Where the tool is changed, well above the work and its clamps"),
+     &Job::gsngToolChangeHeight},
+    {"Safe Height for Rapids", QT_TRANSLATE_NOOP("GlobalsPage", "Safe &Height for Rapids"),
+     QT_TRANSLATE_NOOP("GlobalsPage",
+                       "Where the tool travels quickly across the work without touching anything"),
+     &Job::gsngSafeHeight},
+    {"Rapid Down To", QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
+     QT_TRANSLATE_NOOP("GlobalsPage",
+                       "How far the tool comes down quickly; the rest it goes at its feed"),
+     &Job::gsngRapidDownTo},
+}};
+
+} // namespace
+
+GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
+    : QWidget(parent), m_workshop(workshop), m_host(host) {
+    setObjectName(QStringLiteral("picGlobals"));
+    auto* const explanation = new QLabel(
+        tr("Heights are measured from the top of the material (Z 0). A height above it is "
+           "positive."));
+    explanation->setWordWrap(true);
+
+    auto* const form = new QGridLayout;
+    form->setColumnStretch(3, 1);
+    const auto changed = [this] {
+        if (m_workshop.job.gintWizardStep == 2)
+            m_host.setNextEnabled(isFilled());
+    };
+    for (int i = 0; i < 3; ++i) {
+        const Height& height = heights[static_cast<std::size_t>(i)];
+        auto* const box = new NumberBox(true);
+        box->setObjectName(QStringLiteral("txtGlob%1").arg(i));
+        box->setToolTip(tr(height.tip));
+        addFormRow(*form, i, tr(height.caption), box, QStringLiteral("mm"), helpHeights);
+        connect(box, &QLineEdit::textChanged, this, changed);
+        m_heights[static_cast<std::size_t>(i)] = box;
+    }
+
+    auto* const units = new QGroupBox(tr("Feed rates are typed in"));
+    auto* const unitsLayout = new QVBoxLayout(units);
+    auto* const group = new QButtonGroup(this);
+    const std::array<QString, 2> unitTexts{tr("mm per &minute"), tr("mm per secon&d")};
+    for (int i = 0; i < 2; ++i) {
+        auto* const option = new QRadioButton(unitTexts[static_cast<std::size_t>(i)]);
+        option->setObjectName(QStringLiteral("optUnits%1").arg(i));
+        option->setToolTip(tr("The unit of every feed rate on the pages that follow"));
+        option->setProperty("helpContext", helpHeights);
+        group->addButton(option, i);
+        unitsLayout->addWidget(option);
+        connect(option, &QRadioButton::toggled, this, changed);
+        m_units[static_cast<std::size_t>(i)] = option;
+    }
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(makePageTitle(tr("Heights and units for the whole job")));
+    layout->addWidget(explanation);
+    layout->addLayout(form);
+    layout->addWidget(units);
+    layout->addStretch(1);
+}
+
+void GlobalsPage::SaveGlobals() {
+    withErrorTrap(m_workshop.logger, {"SaveGlobals", "modHpgl"}, [&] {
+        Job& job = m_workshop.job;
+        for (std::size_t i = 0; i < heights.size(); ++i) {
+            try {
+                job.*heights[i].field = toSingle(leadingNumber(m_heights[i]->text().toStdString()));
+            } catch (const Overflow&) {
+                // blnGlobalsValid names the box; the job keeps the height it had.
+            }
+        }
+        const bool minutes = m_units[0]->isChecked();
+        job.gstrFeedUnits = minutes ? "(mm/min)" : "(mm/sec)";
+        job.gsngFeedFactor = minutes ? perMinute : perSecond;
+    });
+}
+
+void GlobalsPage::RestoreGlobals() {
+    withErrorTrap(m_workshop.logger, {"RestoreGlobals", "modHpgl"}, [&] {
+        const Job& job = m_workshop.job;
+        for (std::size_t i = 0; i < heights.size(); ++i) {
+            const float height = job.*heights[i].field;
+            m_heights[i]->setText(height == 0 ? QString()
+                                              : QString::fromStdString(formatFixed(height, 0)));
+        }
+        m_units[job.gsngFeedFactor == perMinute ? 0 : 1]->setChecked(true);
+    });
+}
+
+bool GlobalsPage::blnGlobalsValid() {
+    bool valid = false;
+    withErrorTrap(m_workshop.logger, {"blnGlobalsValid", "modHpgl"}, [&] {
+        for (std::size_t i = 0; i < heights.size(); ++i) {
+            std::string wrong;
+            try {
+                const double height = leadingNumber(m_heights[i]->text().toStdString());
+                toSingle(height);
+                if (height == 0)
+                    wrong = " may not be zero";
+            } catch (const Overflow&) {
+                wrong = " is too large a number";
+            }
+            if (wrong.empty())
+                continue;
+            m_heights[i]->selectAll();
+            m_workshop.messages.intStdMsgBox("The " + std::string(heights[i].name) + wrong,
+                                             styleExclamation, usualTitle);
+            m_heights[i]->setFocus();
+            return;
+        }
+        valid = true;
+    });
+    return valid;
+}
+
+bool GlobalsPage::isFilled() const {
+    for (const QLineEdit* const box : m_heights)
+        if (box->text().isEmpty())
+            return false;
+    return m_units[0]->isChecked() || m_units[1]->isChecked();
+}
+
+void GlobalsPage::enter() {
+    m_host.setNextEnabled(isFilled());
+    for (QLineEdit* const box : m_heights) {
+        if (box->text().isEmpty()) {
+            box->setFocus();
+            return;
+        }
+    }
+    m_heights[0]->setFocus();
+}
+
+} // namespace torvik

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/header_page.h"
+
+#include "base/error_trap.h"
+#include "base/text.h"
+#include "wizard/form_fields.h"
+#include "wizard/saved_names.h"
+#include "wizard/workshop.h"
+
+#include <QDate>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QToolTip>
+
+namespace torvik {
+namespace {
+
+constexpr int helpHeader = 5;
+
+struct Field {
+    const char* caption;
+    const char* unit;
+    const char* tag; // as the question for it names it; empty: need not be filled
+};
+
+constexpr std::array<Field, 9> fields{{
+    {QT_TRANSLATE_NOOP("HeaderPage", "D&ate"), "", "date"},
+    {QT_TRANSLATE_NOOP("HeaderPage", "&Designer"), "", "designer"},
+    {QT_TRANSLATE_NOOP("HeaderPage", "&Teacher"), "", ""},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Teaching &Group"), "", ""},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Name of &Part"), "", "name of the part"},
+    {QT_TRANSLATE_NOOP("HeaderPage", "&Material"), "", "material"},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Billet Length &X"), "mm", ""},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Billet Width &Y"), "mm", ""},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Billet Depth &Z"), "mm", ""},
+}};
+
+QString trimmed(const QLineEdit& box) {
+    return QString::fromStdString(std::string(trimBlanks(box.text().toStdString())));
+}
+
+// A round bracket would end the comment that the value stands in.
+void replaceBrackets(QLineEdit& box) {
+    QString text = box.text();
+    if (!text.contains(u'(') && !text.contains(u')'))
+        return;
+    const int cursor = box.cursorPosition();
+    text.replace(u'(', u'[').replace(u')', u']');
+    box.setText(text);
+    box.setCursorPosition(cursor);
+    QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())),
+                       HeaderPage::tr("Round brackets would end a comment in the program, so they "
+                                      "are written as [ and ]"),
+                       &box);
+}
+
+} // namespace
+
+HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
+    : QWidget(parent), m_workshop(workshop) {
+    setObjectName(QStringLiteral("picHeader"));
+    auto* const form = new QGridLayout;
+    form->setColumnStretch(1, 1);
+    for (int i = 0; i < 9; ++i) {
+        const Field& field = fields[static_cast<std::size_t>(i)];
+        auto* const box = new QLineEdit;
+        box->setObjectName(QStringLiteral("txtHead%1").arg(i));
+        box->setProperty("Tag", QString::fromUtf8(field.tag));
+        const bool needed = *field.tag != '\0';
+        box->setToolTip(needed ? tr("Must be filled; it stands at the top of the program")
+                               : tr("Optional; it stands at the top of the program"));
+        QLabel* const caption =
+            addFormRow(*form, i, tr(field.caption), box, QString::fromUtf8(field.unit), helpHeader);
+        if (needed)
+            caption->setText(caption->text() + QStringLiteral(" *"));
+        connect(box, &QLineEdit::textEdited, box, [box] { replaceBrackets(*box); });
+        m_boxes[static_cast<std::size_t>(i)] = box;
+    }
+    auto* const note = new QLabel(tr("* must be filled"));
+    auto* const layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(makePageTitle(tr("Details of the job")));
+    layout->addLayout(form);
+    layout->addWidget(note);
+    layout->addStretch(1);
+}
+
+void HeaderPage::fill() {
+    const Job& job = m_workshop.job;
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        m_boxes[i]->setText(QString::fromStdString(job.gstrHeader[static_cast<long>(i)]));
+    if (trimmed(*m_boxes[headerDate]).isEmpty())
+        m_boxes[headerDate]->setText(
+            QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+    if (trimmed(*m_boxes[headerPartName]).isEmpty())
+        m_boxes[headerPartName]->setText(
+            QString::fromStdString(proposedPartName(job.gstrPlotFile)));
+    for (QLineEdit* const box : m_boxes)
+        replaceBrackets(*box);
+    for (QLineEdit* const box : m_boxes) {
+        if (trimmed(*box).isEmpty()) {
+            box->setFocus();
+            return;
+        }
+    }
+    m_boxes[0]->setFocus();
+}
+
+void HeaderPage::readBoxes() {
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        m_workshop.job.gstrHeader[static_cast<long>(i)] = m_boxes[i]->text().toStdString();
+}
+
+bool HeaderPage::blnHeaderDone() {
+    bool done = false;
+    withErrorTrap(m_workshop.logger, {"blnHeaderDone", "modHpgl"}, [&] {
+        for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+            if (*fields[i].tag == '\0' || !trimmed(*m_boxes[i]).isEmpty())
+                continue;
+            m_workshop.messages.intStdMsgBox(std::string("Please enter the ") + fields[i].tag,
+                                             styleExclamation, "Required information");
+            m_boxes[i]->setFocus();
+            return;
+        }
+        done = true;
+    });
+    return done;
+}
+
+} // namespace torvik

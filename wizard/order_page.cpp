@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/order_page.h"
+
+#include "base/error_trap.h"
+#include "base/numbers.h"
+#include "job/pens.h"
+#include "wizard/form_fields.h"
+#include "wizard/pen_pictures.h"
+#include "wizard/workshop.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace torvik {
+namespace {
+
+constexpr int helpOrder = 4;
+constexpr int pictureSide = 24;
+constexpr const char* tagProperty = "Tag";
+
+std::int16_t penOf(const QLabel& label) {
+    return toInt16(leadingNumber(label.property(tagProperty).toString().toStdString()));
+}
+
+} // namespace
+
+OrderPage::OrderPage(Workshop& workshop, QWidget* parent) : QWidget(parent), m_workshop(workshop) {
+    setObjectName(QStringLiteral("picOrder"));
+    setProperty("helpContext", helpOrder);
+    auto* const explanation =
+        new QLabel(tr("The pens are machined from top to bottom. Move a colour with the buttons, "
+                      "with the arrow keys, or by dragging it. Holes and inner shapes usually come "
+                      "first, the outline that cuts the part free comes last."));
+    explanation->setWordWrap(true);
+    auto* const middle = new QHBoxLayout;
+    middle->addWidget(buildList(), 1);
+    middle->addWidget(buildButtons());
+    auto* const layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(makePageTitle(tr("Machining order")));
+    layout->addWidget(explanation);
+    layout->addLayout(middle, 1);
+}
+
+QWidget* OrderPage::buildList() {
+    m_list = new QFrame;
+    m_list->setObjectName(QStringLiteral("picOrderList"));
+    m_list->setAccessibleName(tr("Machining order"));
+    static_cast<QFrame*>(m_list)->setFrameShape(QFrame::StyledPanel);
+    m_list->setBackgroundRole(QPalette::Base);
+    m_list->setAutoFillBackground(true);
+    m_rowsLayout = new QVBoxLayout(m_list);
+    m_rowsLayout->setContentsMargins(1, 1, 1, 1);
+    m_rowsLayout->setSpacing(0);
+    m_rowsLayout->addStretch(1);
+    return m_list;
+}
+
+QWidget* OrderPage::buildButtons() {
+    m_up = new QPushButton(tr("Move &Up"));
+    m_up->setObjectName(QStringLiteral("cmdUp"));
+    m_up->setToolTip(tr("Machine the selected colour earlier (arrow up)"));
+    m_down = new QPushButton(tr("Move &Down"));
+    m_down->setObjectName(QStringLiteral("cmdDown"));
+    m_down->setToolTip(tr("Machine the selected colour later (arrow down)"));
+    connect(m_up, &QPushButton::clicked, this, [this] { ColourReOrder(-1); });
+    connect(m_down, &QPushButton::clicked, this, [this] { ColourReOrder(1); });
+    auto* const column = new QWidget;
+    auto* const layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_up);
+    layout->addWidget(m_down);
+    layout->addStretch(1);
+    return column;
+}
+
+void OrderPage::ShowOrder(std::int16_t /*direction*/) {
+    withErrorTrap(m_workshop.logger, {"ShowOrder", "modHpgl"}, [&] {
+        Job& job = m_workshop.job;
+        for (const Row& row : m_rows)
+            delete row.frame;
+        m_rows.clear();
+        m_selectedRow = 0;
+        if (!job.gblnOrderSet)
+            rebuildOrder(job);
+        job.gintOrderCount = 0;
+        for (const std::int16_t pen : job.gintOrder) {
+            if (pen > 0) {
+                ++job.gintOrderCount;
+                addRow(pen);
+            }
+        }
+        if (!m_rows.empty())
+            select(1);
+    });
+}
+
+void OrderPage::addRow(std::int16_t pen) {
+    const auto number = static_cast<int>(m_rows.size()) + 1;
+    Row row{new QWidget, new QLabel, new QLabel};
+    row.picOrd->setObjectName(QStringLiteral("picOrd%1").arg(number));
+    row.lblOrd->setObjectName(QStringLiteral("lblOrd%1").arg(number));
+    row.picOrd->setFocusPolicy(Qt::StrongFocus);
+    row.lblOrd->setAutoFillBackground(false);
+    row.lblOrd->setContentsMargins(6, 0, 6, 0);
+    row.frame->setCursor(Qt::OpenHandCursor);
+    auto* const layout = new QHBoxLayout(row.frame);
+    layout->setContentsMargins(6, 3, 6, 3);
+    layout->addWidget(row.picOrd);
+    layout->addWidget(row.lblOrd, 1);
+    for (QWidget* const widget : std::initializer_list<QWidget*>{row.frame, row.picOrd, row.lblOrd})
+        widget->installEventFilter(this);
+    m_rowsLayout->insertWidget(number - 1, row.frame);
+    m_rows.push_back(row);
+    showPen(row, pen);
+}
+
+void OrderPage::showPen(const Row& row, std::int16_t pen) {
+    const Job& job = m_workshop.job;
+    const QString colour = QString::fromStdString(job.gudtPens[pen].strColour);
+    row.picOrd->setPixmap(penPicture(static_cast<std::int16_t>(imageCut + pen), job)
+                              .pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
+    row.picOrd->setAccessibleName(colour);
+    row.lblOrd->setText(colour);
+    row.lblOrd->setProperty(tagProperty, QString::number(pen));
+}
+
+void OrderPage::select(std::int16_t row) {
+    ListItemClicked(row, penOf(*m_rows[static_cast<std::size_t>(row - 1)].lblOrd));
+}
+
+void OrderPage::ListItemClicked(std::int16_t row, std::int16_t pen) {
+    withErrorTrap(m_workshop.logger, {"ListItemClicked", "modHpgl"}, [&] {
+        const auto count = static_cast<std::int16_t>(m_rows.size());
+        // The first row is tested first, so a single row leaves cmdDown enabled: it has nowhere to
+        // go.
+        m_up->setEnabled(row != 1);
+        m_down->setEnabled(row == 1 || row != count);
+        for (std::int16_t i = 1; i <= count; ++i)
+            highlight(i, i == row);
+        m_selectedRow = row;
+        m_selectedPen = pen;
+    });
+}
+
+void OrderPage::highlight(std::int16_t row, bool selected) {
+    QLabel* const label = m_rows[static_cast<std::size_t>(row - 1)].lblOrd;
+    label->setAutoFillBackground(selected);
+    label->setBackgroundRole(selected ? QPalette::Highlight : QPalette::Base);
+    label->setForegroundRole(selected ? QPalette::HighlightedText : QPalette::Text);
+    label->setAccessibleName(selected ? tr("%1, selected").arg(label->text()) : label->text());
+}
+
+void OrderPage::ColourReOrder(std::int16_t step) {
+    withErrorTrap(m_workshop.logger, {"ColourReOrder", "modHpgl"}, [&] {
+        const std::int16_t oldRow = m_selectedRow;
+        const auto newRow = static_cast<std::int16_t>(oldRow + step);
+        const auto count = static_cast<std::int16_t>(m_rows.size());
+        if (oldRow < 1 || oldRow > count || newRow < 1 || newRow > count)
+            return;
+        const Row& from = m_rows[static_cast<std::size_t>(oldRow - 1)];
+        const Row& to = m_rows[static_cast<std::size_t>(newRow - 1)];
+        showPen(from, penOf(*to.lblOrd));
+        showPen(to, m_selectedPen);
+        ListItemClicked(newRow, m_selectedPen);
+    });
+}
+
+bool OrderPage::KeyCheck(int keyCode) {
+    constexpr int keyCodeUp = 38;
+    constexpr int keyCodeDown = 40;
+    if (m_workshop.job.gintWizardStep != 4)
+        return false;
+    if (keyCode == keyCodeDown && m_down->isEnabled()) {
+        m_down->click();
+        return true;
+    }
+    if (keyCode == keyCodeUp && m_up->isEnabled()) {
+        m_up->click();
+        return true;
+    }
+    return false;
+}
+
+void OrderPage::readOrder() {
+    withErrorTrap(m_workshop.logger, {"readOrder", "modHpgl"}, [&] {
+        Job& job = m_workshop.job;
+        job.gintOrder.fill(0);
+        job.gintOrderCount = static_cast<std::int16_t>(m_rows.size());
+        for (std::int16_t i = 1; i <= job.gintOrderCount; ++i)
+            job.gintOrder[i] = penOf(*m_rows[static_cast<std::size_t>(i - 1)].lblOrd);
+        job.gblnOrderSet = true;
+    });
+}
+
+std::int16_t OrderPage::rowOf(const QObject* widget) const {
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        if (widget == m_rows[i].frame || widget == m_rows[i].picOrd || widget == m_rows[i].lblOrd)
+            return static_cast<std::int16_t>(i + 1);
+    return 0;
+}
+
+std::int16_t OrderPage::rowAt(int y) const {
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        if (y < m_rows[i].frame->geometry().bottom())
+            return static_cast<std::int16_t>(i + 1);
+    return static_cast<std::int16_t>(m_rows.size());
+}
+
+// The selected row follows the mouse, one place at a time, so that no pen is passed over.
+void OrderPage::dragTo(int y) {
+    const std::int16_t target = rowAt(y);
+    const std::int16_t step = target < m_selectedRow ? -1 : 1;
+    while (m_selectedRow != target) {
+        const std::int16_t before = m_selectedRow;
+        ColourReOrder(step);
+        if (m_selectedRow == before)
+            return;
+    }
+}
+
+bool OrderPage::eventFilter(QObject* watched, QEvent* event) {
+    const std::int16_t row = rowOf(watched);
+    if (row == 0)
+        return QWidget::eventFilter(watched, event);
+    auto* const widget = static_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            select(row);
+        return true;
+    case QEvent::MouseMove: {
+        const auto* const mouse = static_cast<QMouseEvent*>(event);
+        if (mouse->buttons() & Qt::LeftButton)
+            dragTo(widget->mapTo(m_list, mouse->position().toPoint()).y());
+        return true;
+    }
+    case QEvent::FocusIn:
+        select(row);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace torvik
