@@ -74,7 +74,8 @@ TEST(SetUpPens, StopsAtAPenOutside1To8) {
 TEST(SetUpPens, StopsWhereTheGroupsExceed16Bits) {
     Job job;
     for (std::int16_t i = 0; i < 32767; ++i)
-        job.gudtPaths.append({.intType = arcCounterClockwise, .intPen = 1, .sngRadius = 1.0F + i});
+        job.gudtPaths.append(
+            {.intType = arcCounterClockwise, .intPen = 1, .sngRadius = 1 + static_cast<float>(i)});
     job.gintPathCount = 32767;
     Logger logger;
     EXPECT_FALSE(SetUpPens(job, logger));
