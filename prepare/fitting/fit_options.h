@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// What the fitting may do. Lengths are plotter units, angles degrees.
+#pragma once
+
+namespace torvik {
+
+struct FitOptions {
+    double tolerance = 0.4;
+    double roundTurn = 24; // the widest chord that may stand for a piece of a circle
+    bool arcs = true;      // chords may become arcs and circles
+};
+
+// Rounded coordinates turn a chord by a trifle.
+inline constexpr double turnSlack = 0.01;
+
+// Larger circles are as good as straight on any machine, and their sweeps cannot be written finely
+// enough.
+inline constexpr double largestFittedRadius = 40000;
+
+} // namespace torvik

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/fitting/grid.h"
+
+#include "prepare/arcs.h"
+
+#include <utility>
+
+namespace torvik {
+namespace {
+
+bool isOnGrid(const Segment& arc) {
+    return arc.first == toGrid(arc.first) && arc.sweep == toGrid(arc.sweep);
+}
+
+} // namespace
+
+double toGrid(double value) {
+    constexpr double perUnit = 10000;
+    return std::nearbyint(value * perUnit) / perUnit + 0.0; // no minus zero
+}
+
+Point toGrid(Point point) {
+    return {toGrid(point.x), toGrid(point.y)};
+}
+
+Segment gridArc(Point start, Point target, double sweep) {
+    sweep = toGrid(sweep);
+    const Point chord = target - start;
+    const double half = radians(sweep) / 2;
+    if (sweep == 0 || start == target)
+        return lineSegment(toGrid(target));
+    const Point centre = start + chord * 0.5 + turnedLeft(chord) * (0.5 / std::tan(half));
+    return arcSegment(start, toGrid(centre), sweep);
+}
+
+Segment gridSegment(Point start, const Segment& segment) {
+    switch (segment.kind) {
+    case SegmentKind::arc:
+        return isOnGrid(segment) ? arcSegment(start, segment.first, segment.sweep)
+                                 : gridArc(start, segment.end, segment.sweep);
+    case SegmentKind::curve:
+        return curveSegment(segment.first, segment.second, toGrid(segment.end));
+    case SegmentKind::line:
+        break;
+    }
+    return lineSegment(toGrid(segment.end));
+}
+
+void settle(Stroke& stroke) {
+    if (stroke.isCircle()) {
+        const Point centre = stroke.segments[0].first;
+        stroke = circleStroke(stroke.pen, toGrid(centre), toGrid(distance(centre, stroke.start)));
+        return;
+    }
+    stroke.start = toGrid(stroke.start);
+    Point place = stroke.start;
+    std::size_t kept = 0;
+    for (const Segment& segment : stroke.segments) {
+        const Segment next = gridSegment(place, segment);
+        if (next.kind == SegmentKind::line && next.end == place)
+            continue;
+        place = next.end;
+        stroke.segments[kept++] = next;
+    }
+    stroke.segments.resize(kept);
+}
+
+} // namespace torvik

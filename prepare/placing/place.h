@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Where a drawing lies and how large it is, which pens draw it, what becomes of its dots. All of
+// it before the fitting, so that tolerances are those of the part.
+#pragma once
+
+#include "prepare/strokes.h"
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace torvik {
+
+enum class Mirror { none, leftRight, upDown };
+
+struct Placement {
+    double scale = 1; // about the origin
+    // Mirroring and turning leave the drawing's lower left corner where it is.
+    Mirror mirror = Mirror::none;
+    int rotation = 0;            // 0, 90, 180 or 270 degrees counter-clockwise
+    std::optional<Point> origin; // where the lower left corner comes to, plotter units
+};
+
+void place(std::vector<Stroke>& strokes, const Placement& placement);
+
+// Gives strokes another pen. Raises RunTimeError with a list where pens above 8 are left.
+void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens);
+
+// Makes circles of dots, of the diameter in plotter units; without one takes them out. Returns
+// their count.
+long replaceDots(std::vector<Stroke>& strokes, std::optional<double> diameter);
+
+} // namespace torvik

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/prepare.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "job/hpgl_reader.h"
+#include "job/job.h"
+#include "job/pens.h"
+#include "prepare/fitting/grid.h"
+#include "prepare/placing/join.h"
+#include "prepare/placing/order.h"
+#include "prepare/writing/check.h"
+#include "prepare/writing/readable.h"
+#include "prepare/writing/writer.h"
+
+#include <utility>
+
+namespace torvik {
+namespace {
+
+class Preparation {
+public:
+    Preparation(SourceDrawing source, const PrepareOptions& options)
+        : m_options(options),
+          m_strokes(std::move(source.strokes)), m_fit{options.tolerance * plotterUnitsPerMm,
+                                                      options.roundTurn, options.arcs} {
+        m_result.report.source = std::move(source.report);
+    }
+
+    PreparedDrawing run() {
+        placeAll();
+        measure(m_result.report.cutBefore, m_result.report.airBefore);
+        m_result.report.elementsBefore = segmentCount(m_strokes);
+        if (m_options.keepBefore)
+            m_result.before = m_strokes;
+        simplify();
+        if (m_options.optimize)
+            orderStrokes(m_strokes);
+        fitUntilReadable();
+        write();
+        measure(m_result.report.cutAfter, m_result.report.airAfter);
+        describe();
+        m_result.strokes = std::move(m_strokes);
+        return std::move(m_result);
+    }
+
+private:
+    void placeAll() {
+        mapPens(m_strokes, m_options.pens);
+        Placement placement{m_options.scale, m_options.mirror, m_options.rotation, {}};
+        if (m_options.origin)
+            placement.origin = *m_options.origin * plotterUnitsPerMm;
+        place(m_strokes, placement);
+        std::optional<double> dots;
+        if (m_options.dots)
+            dots = *m_options.dots * plotterUnitsPerMm;
+        m_result.report.dots = replaceDots(m_strokes, dots);
+        m_result.report.dotsDrawn = dots.has_value();
+        if (m_strokes.empty())
+            throw RunTimeError(m_result.report.dots > 0
+                                   ? "the drawing holds nothing but dots; --dots MM makes circles "
+                                     "of them"
+                                   : "the drawing holds nothing to draw");
+    }
+
+    void simplify() {
+        sortByPen(m_strokes);
+        for (Stroke& stroke : m_strokes)
+            settle(stroke);
+        if (m_options.dropDuplicates)
+            m_result.report.duplicates = dropDuplicates(m_strokes);
+        m_result.report.joined = joinTouching(m_strokes);
+        fitStrokes(m_strokes, m_fit, m_result.report.fit);
+    }
+
+    // A new order can bring strokes together, and lines that lead the reader to an arc can go
+    // together with others: both are then fitted once more, as they would be the next time.
+    void fitUntilReadable() {
+        constexpr int mostRounds = 4;
+        for (int i = 0; i < mostRounds; ++i) {
+            const auto before = m_strokes;
+            m_result.report.joined += joinTouching(m_strokes);
+            makeReadable(m_strokes, m_fit.tolerance);
+            if (m_strokes == before)
+                return;
+            FitReport again;
+            fitStrokes(m_strokes, m_fit, again);
+        }
+        makeReadable(m_strokes, m_fit.tolerance);
+    }
+
+    void write() {
+        m_result.text = writeDrawing(m_strokes);
+        checkWritten(m_result.text, m_strokes, m_options.tolerance);
+    }
+
+    void measure(double& cut, double& air) const {
+        for (const Stroke& stroke : m_strokes)
+            cut += drawnLength(stroke) / plotterUnitsPerMm;
+        air = airLength(m_strokes) / plotterUnitsPerMm;
+    }
+
+    void describe() {
+        PrepareReport& report = m_result.report;
+        report.elementsAfter = segmentCount(m_strokes);
+        const StrokeExtents extents = extentsOf(m_strokes);
+        report.extents = {extents.low * (1 / plotterUnitsPerMm),
+                          extents.high * (1 / plotterUnitsPerMm)};
+        Job job;
+        SetColourDefinitions(job);
+        for (const Stroke& stroke : m_strokes) {
+            if (report.pens.empty() || report.pens.back().pen != stroke.pen)
+                report.pens.push_back({stroke.pen, job.gudtPens[stroke.pen].strColour, 0, 0, 0});
+            PenUse& use = report.pens.back();
+            for (const Segment& segment : stroke.segments)
+                ++(segment.kind == SegmentKind::line ? use.lines
+                   : stroke.isCircle()               ? use.circles
+                                                     : use.arcs);
+        }
+    }
+
+    const PrepareOptions& m_options;
+    std::vector<Stroke> m_strokes;
+    FitOptions m_fit;
+    PreparedDrawing m_result;
+};
+
+} // namespace
+
+PreparedDrawing prepareDrawing(SourceDrawing source, const PrepareOptions& options) {
+    return Preparation(std::move(source), options).run();
+}
+
+std::string preparedName(std::string_view sourceName) {
+    auto path = pathFromUtf8(sourceName);
+    path.replace_filename(path.stem());
+    path += "-torvik.plt";
+    return utf8FromPath(path);
+}
+
+} // namespace torvik

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// The last step: what was written is read by the job's own reader and compared with the strokes.
+#pragma once
+
+#include "prepare/strokes.h"
+
+#include <span>
+#include <string>
+
+namespace torvik {
+
+// Raises RunTimeError where the reader takes more elements than it can, or any element's pen, kind
+// or place differs from the strokes by more than the tolerance in mm.
+void checkWritten(const std::string& text, std::span<const Stroke> strokes, double tolerance);
+
+} // namespace torvik
