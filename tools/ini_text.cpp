@@ -80,14 +80,14 @@ bool startsEntry(std::string_view line) {
 }
 
 bool fitsName(std::string_view name) {
-    return startsEntry(name) && trimmed(name) == name && name.find('=') == name.npos &&
+    return startsEntry(name) && trimmed(name) == name && name.find('=') == std::string_view::npos &&
            std::none_of(name.begin(), name.end(), isControl);
 }
 
 // The length of the first line with its end.
 std::size_t lineLength(std::string_view text) {
     const auto end = text.find_first_of("\r\n");
-    if (end == text.npos)
+    if (end == std::string_view::npos)
         return text.size();
     return end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
 }
@@ -106,7 +106,7 @@ bool NameLess::operator()(std::string_view a, std::string_view b) const {
 IniText::IniText(std::string_view text, std::string_view section)
     : m_section(section), m_sectionEnd(m_lines.end()) {
     const std::string_view firstLine = text.substr(0, lineLength(text));
-    if (const auto end = firstLine.find_first_of("\r\n"); end != firstLine.npos)
+    if (const auto end = firstLine.find_first_of("\r\n"); end != std::string_view::npos)
         m_lineEnd = firstLine.substr(end);
     bool inSection = false;
     while (!text.empty()) {
@@ -130,7 +130,7 @@ void IniText::readLine(Line place, std::string_view line, bool& inSection) {
         return;
     m_sectionEnd = place;
     const auto equals = line.find('=');
-    if (!startsEntry(line) || equals == line.npos)
+    if (!startsEntry(line) || equals == std::string_view::npos)
         return;
     const std::string name = oneLine(trimmed(line.substr(0, equals)));
     const std::string_view value = trimmed(line.substr(equals + 1));

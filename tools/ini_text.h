@@ -23,6 +23,7 @@ struct NameLess {
 class IniText {
 public:
     IniText(std::string_view text, std::string_view section);
+    ~IniText() = default;
     IniText(const IniText&) = delete;
     IniText& operator=(const IniText&) = delete;
 

@@ -24,10 +24,10 @@ TEST(IniText, ReadsTheValueToTheEndOfItsLine) {
         {"name and section in another case", "[ MASKOR ]\nnAME=a", "a"},
         {"the last of two alike", "[Maskor]\nName=a\nNAME=b", "b"},
         {"the section given twice", "[Maskor]\n[Other]\n[Maskor]\nName=a", "a"},
-        {"a value in quotes", "[Maskor]\nName=\" a\\\\\\\" \"", " a\\\" "},
-        {"single backslashes in quotes", "[Maskor]\nName=\"C:\\temp\\ \"", "C:\\temp\\ "},
-        {"two quoted words", "[Maskor]\nName=\"a\" and \"b\"", "\"a\" and \"b\""},
-        {"a last quote that is escaped", "[Maskor]\nName=\"a\\\"", "\"a\\\""},
+        {"a value in quotes", "[Maskor]\nName=\" a\\\\\\\" \"", R"( a\" )"},
+        {"single backslashes in quotes", "[Maskor]\nName=\"C:\\temp\\ \"", R"(C:\temp\ )"},
+        {"two quoted words", "[Maskor]\nName=\"a\" and \"b\"", R"("a" and "b")"},
+        {"a last quote that is escaped", "[Maskor]\nName=\"a\\\"", R"("a\")"},
         {"a NUL and another control character", "[Maskor]\nName=a\0b\x1B"s + "c", "a b c"},
         {"a comment is no entry", "[Maskor]\n;Name=a\n# Name=a", "missing"},
         {"another section's entry", "[Maskor]\n[Maskor 2]\nName=a\n[\nName=a", "missing"},
@@ -49,23 +49,23 @@ TEST(IniText, KeepsEveryValueThroughWritingAndReading) {
                                      "#a"s,
                                      "[Maskor]"s,
                                      "="s,
-                                     "\""s,
-                                     "\"\""s,
-                                     "\"a\""s,
-                                     "a\""s,
-                                     "a\"b"s,
-                                     "\\"s,
-                                     "a\\"s,
-                                     "\\\""s,
-                                     "\"\\"s,
-                                     "\"a\\\""s,
+                                     R"(")"s,
+                                     R"("")"s,
+                                     R"("a")"s,
+                                     R"(a")"s,
+                                     R"(a"b)"s,
+                                     R"(\)"s,
+                                     R"(a\)"s,
+                                     R"(\")"s,
+                                     R"("\)"s,
+                                     R"("a\")"s,
                                      " "s,
                                      " a"s,
                                      "a "s,
                                      "\ta\t"s,
                                      "a\tb"s,
-                                     " \\ "s,
-                                     "C:\\new\\"s,
+                                     R"( \ )"s,
+                                     R"(C:\new\)"s,
                                      "Fr\xC3\xA4ser \xE2\x82\xAC"s,
                                      "\xFF broken"s,
                                      "@ByteArray(%1)"s}) {
@@ -83,9 +83,9 @@ TEST(IniText, WritesPlainLinesAndLeavesTheRestOfTheFileAsItStands) {
     IniText ini("\xEF\xBB\xBF; ours\r\n[Maskor]\r\n# mills\r\n tool01 = 1 \r\nKept =  x\r\n\r\n"
                 "[Other]\r\nTool01=z",
                 "Maskor");
-    ini.setValue("Tool01", "1|\"Slot\" \\ drill|6.000");
+    ini.setValue("Tool01", R"(1|"Slot" \ drill|6.000)");
     ini.setValue("Kept", "x");
-    ini.setValue("Edge", " a\\\"");
+    ini.setValue("Edge", R"( a\")");
     ini.setValue("Lines", "a\r\nb\nc");
     for (const char* unfit : {"", "a=b", "[a", ";a", "#a", " a", "a\nb"})
         ini.setValue(unfit, "4");
