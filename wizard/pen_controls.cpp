@@ -92,17 +92,17 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(2);
     for (std::size_t i = 0; i < toolLabelTexts.size(); ++i) {
-        const auto& [name, caption, tip] = toolLabelTexts[i];
+        const ToolLabelText& about = toolLabelTexts[i];
         const int column = static_cast<int>(i);
-        grid->addWidget(makeLabel(*controls.toolPanel, QString(name) + "Caption", caption), 0,
-                        column);
-        QLabel* label = makeLabel(*controls.toolPanel, name);
+        grid->addWidget(
+            makeLabel(*controls.toolPanel, QString(about.name) + "Caption", about.caption), 0,
+            column);
+        QLabel* label = makeLabel(*controls.toolPanel, about.name);
         label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | QFrame::Sunken);
         label->setAlignment(Qt::AlignCenter);
         label->setAutoFillBackground(true);
         label->setMargin(3);
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        label->setToolTip(tip);
         controls.toolLabels[i] = label;
         grid->addWidget(label, 1, column);
         grid->setColumnStretch(column, i == toolType ? 3 : 2);
@@ -224,9 +224,14 @@ void openBox(NumberBox& box, bool open) {
 }
 
 void setToolLabel(const PenControls& controls, std::size_t label, const QString& text) {
+    const ToolLabelText& about = toolLabelTexts[label];
     controls.toolLabels[label]->setText(text);
-    controls.toolLabels[label]->setAccessibleName(QString(toolLabelTexts[label].caption) + ": " +
+    controls.toolLabels[label]->setAccessibleName(QString(about.caption) + ": " +
                                                   (text.isEmpty() ? "none" : text));
+    // A long type is cut off in its label.
+    controls.toolLabels[label]->setToolTip(
+        text.isEmpty() ? about.tip
+                       : QString("<span>%1: %2</span>").arg(about.tip, text.toHtmlEscaped()));
 }
 
 void colourToolLabels(const PenControls& controls, bool leftOut) {

@@ -44,9 +44,9 @@ void drawTool(QPainter& painter, int left, int right, int bottom, int point) {
         painter.drawLine(left, y + 6, right, y);
 }
 
-void drawCutting(QPainter& painter) {
+void drawCutting(QPainter& painter, const QColor& passes) {
     drawMaterial(painter, 30, 90, 72, 0);
-    painter.setPen(QPen(woodEdge, 1.5, Qt::DotLine));
+    painter.setPen(QPen(passes, 1.5, Qt::DotLine));
     for (const int pass : {48, 60}) // the passes above the last
         painter.drawLine(30, pass, 90, pass);
     drawTool(painter, 30, 50, 72, 0);
@@ -79,7 +79,7 @@ void PenDiagram::paintEvent(QPaintEvent*) {
     if (m_form == PenForm::drilling)
         drawDrilling(painter);
     else
-        drawCutting(painter);
+        drawCutting(painter, palette().color(QPalette::WindowText));
 }
 
 } // namespace torvik

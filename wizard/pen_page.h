@@ -90,7 +90,7 @@ private:
     // Whether the row can be edited on this page as the record stands.
     bool isEditableRow(std::size_t row) const;
     PenBoxes boxes() const;
-    void writeBoxes(const PenBoxes& boxes);
+    void writeBoxes(const PenBoxes& state);
     void keepTypedZeros(PenTexts& texts) const;
     void focusFirstEmptyBox();
     void refuse(std::size_t row, const std::string& message);

@@ -133,9 +133,8 @@ bool PenPage::SaveDetails() {
         }
         Job& job = m_workshop.job;
         const PenForm form = currentForm(job);
-        const auto refused =
-            storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form, job.gsngFeedFactor,
-                       m_workshop.tools, currentSettings(job));
+        const auto refused = storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form,
+                                        job.gsngFeedFactor, m_workshop.tools, currentSettings(job));
         if (refused)
             refuse(*refused, cannotBeStored(form, *refused));
         kept = !refused;

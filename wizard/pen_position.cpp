@@ -14,11 +14,11 @@ namespace torvik {
 namespace {
 
 // The hole size that follows within a drilled pen, 0 where the pen is done with.
-std::int16_t nextRadius(const Pen& pen, std::int16_t radius, int direction) {
+int nextRadius(const Pen& pen, int radius, int direction) {
     if (direction > 0)
-        return radius < pen.intRadiusCount ? static_cast<std::int16_t>(radius + 1) : 0;
+        return radius < pen.intRadiusCount ? radius + 1 : 0;
     if (direction < 0)
-        return radius > 1 ? static_cast<std::int16_t>(radius - 1) : 0;
+        return radius > 1 ? radius - 1 : 0;
     return radius;
 }
 
@@ -41,7 +41,7 @@ ColourNode* findNode(Job& job, const std::string& key) {
 } // namespace
 
 PenMove movePosition(Job& job, int direction) {
-    std::int16_t radius = 0;
+    int radius = 0;
     if (job.gintCurrentPen > 0 && currentPen(job).blnDrill)
         radius = nextRadius(currentPen(job), job.gintCurrentRadius, direction);
     if (radius == 0 && direction != 0) {
@@ -57,7 +57,7 @@ PenMove movePosition(Job& job, int direction) {
             return PenMove::beforeFirst;
         }
     }
-    job.gintCurrentRadius = radius;
+    job.gintCurrentRadius = static_cast<std::int16_t>(radius);
     job.gintCurrentSettings = static_cast<std::int16_t>(currentPen(job).intSettings + radius);
     return PenMove::onPage;
 }

@@ -59,7 +59,8 @@ std::string rowUnit(const PenRow& row, std::string_view feedUnits) {
 }
 
 std::string rowCaption(const PenRow& row, std::string_view feedUnits) {
-    return std::string(row.name) + " (" + rowUnit(row, feedUnits) + ")";
+    return std::string(row.name) + " " +
+           (row.unit == RowUnit::feed ? std::string(feedUnits) : "(" + rowUnit(row, {}) + ")");
 }
 
 int feedDecimals(float feedFactor) {
