@@ -53,6 +53,12 @@ TEST(WriteGcodes, ChangesToolsAndSpeeds) {
          "2.speed=1000.5", targetWinCam,
          "M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine + "G0 Z5.00;G0 Z50.00;M3 S1001;" + secondLine +
              "G0 Z5.00;G0 Z50.00 M5;M30;"},
+        {"so it does where the next path starts where the tool is", "SP1;PD400,0;SP2;PD400,400",
+         "2.speed=2000", targetMaskor,
+         start + cutLine +
+             "G0 Z5.00;G0 Z50.00;S2000;G0 Z5.00;G0 Z2.00;G1 Z-1.00 F100;"
+             "G1 X10.000 Y10.000 F300;" +
+             end},
         {"a first tool at the height of rapids goes to safe height first", line, "toolChange=2",
          targetWinCam,
          "G0 Z5.00;G0 Z2.00 M5;M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine +
