@@ -9,55 +9,47 @@ namespace torvik {
 namespace {
 
 TEST_F(PenPageTest, CaptionsAndHelpFollowTheForm) {
-    struct Row {
-        const char* caption;
-        const char* unit;
-        int help;
-    };
-    const auto expectRows = [&](std::initializer_list<Row> expected) {
-        int i = 0;
-        for (const auto& [caption, unit, help] : expected) {
+    const auto expectRows = [&](std::initializer_list<std::pair<const char*, int>> expected) {
+        for (int i = 0; i < 7; ++i) {
             const QLabel& name = *find<QLabel>("lblDet", i);
-            EXPECT_EQ(name.text().toStdString(), caption);
-            EXPECT_EQ(label(("lblUnit" + std::to_string(i)).c_str()), unit) << caption;
+            const bool asked = i < static_cast<int>(expected.size());
+            EXPECT_EQ(name.isHidden() || box(i).isHidden(), !asked) << i;
+            if (!asked)
+                continue;
+            const auto& [caption, help] = expected.begin()[i];
+            EXPECT_EQ(name.text() + " " + box(i).accessibleName(), QString("%1 %1").arg(caption));
+            EXPECT_TRUE(name.text().endsWith("(" + find<QLabel>("lblUnit", i)->text() + ")"));
             EXPECT_EQ(name.property("helpContext").toInt(), help) << caption;
             EXPECT_EQ(box(i).property("helpContext").toInt(), help) << caption;
             EXPECT_EQ(name.buddy(), &box(i)) << caption;
-            EXPECT_EQ(box(i).accessibleName(), name.text());
-            EXPECT_FALSE(name.isHidden() || box(i).isHidden()) << caption;
-            ++i;
         }
-        for (; i < 7; ++i)
-            EXPECT_TRUE(find<QLabel>("lblDet", i)->isHidden() && box(i).isHidden()) << i;
     };
     open();
-    expectRows({{"Spindle Speed (rpm)", "rpm", 80},
-                {"Horizontal Feed Rate for Cutting (mm/min)", "mm/min", 90},
-                {"Vertical Feed Rate into Material (mm/min)", "mm/min", 100},
-                {"Final Depth (mm)", "mm", 110},
-                {"Maximum Depth per Pass (mm)", "mm", 120},
-                {"Final Pass Depth of Cut (mm)", "mm", 242},
-                {"Final Pass Horizontal Feed Rate (mm/min)", "mm/min", 244}});
+    expectRows({{"Spindle Speed (rpm)", 80},
+                {"Horizontal Feed Rate for Cutting (mm/min)", 90},
+                {"Vertical Feed Rate into Material (mm/min)", 100},
+                {"Final Depth (mm)", 110},
+                {"Maximum Depth per Pass (mm)", 120},
+                {"Final Pass Depth of Cut (mm)", 242},
+                {"Final Pass Horizontal Feed Rate (mm/min)", 244}});
     EXPECT_TRUE(peck().isHidden());
     EXPECT_EQ(option(0).text(), "&Cut the Black lines");
     EXPECT_EQ(option(1).text(), "Do NO&T cut the Black lines");
     EXPECT_EQ(option(0).property("helpContext").toInt(), 50);
-    EXPECT_EQ(label("lblDetTitle"), "Please give the details for the Black lines");
 
     job.gudtPens[2].blnDrill = true;
     useSeconds(true);
     page.ShowPen(1);
     page.ShowPen(1);
-    expectRows({{"Spindle Speed (rpm)", "rpm", 80},
-                {"Drilling Feed Rate (mm/sec)", "mm/sec", 95},
-                {"Depth of Hole (mm)", "mm", 105},
-                {"Dwell Time (s)", "s", 115},
-                {"Peck Distance (mm)", "mm", 125}});
+    expectRows({{"Spindle Speed (rpm)", 80},
+                {"Drilling Feed Rate (mm/sec)", 95},
+                {"Depth of Hole (mm)", 105},
+                {"Dwell Time (s)", 115},
+                {"Peck Distance (mm)", 125}});
     EXPECT_FALSE(peck().isHidden());
     EXPECT_EQ(option(0).text(), "&Drill the Red holes");
     EXPECT_EQ(option(1).text(), "Do NO&T drill the Red holes");
     EXPECT_EQ(option(1).property("helpContext").toInt(), 52);
-    EXPECT_EQ(label("lblDetTitle"), "Please give the details for the 3.0 mm diam. holes");
 }
 
 TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
@@ -122,8 +114,6 @@ TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     QKeyEvent deleteKey(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f");
     box(0).setCursorPosition(0);
     QApplication::sendEvent(&box(0), &deleteKey);
-    QKeyEvent arabicDigit(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(0x0663)));
-    QApplication::sendEvent(&box(0), &arabicDigit);
     QInputMethodEvent composed;
     composed.setCommitString("2,5");
     QApplication::sendEvent(&box(0), &composed);
@@ -264,15 +254,15 @@ TEST_F(PenPageTest, AFailureNamesItsProcedure) {
     open();
     job.gintCurrentSettings = 99;
     page.ShowDetails();
-    EXPECT_FALSE(page.SaveDetails() || page.blnInputValid() || host.next);
+    EXPECT_FALSE(host.next);
+    EXPECT_FALSE(page.SaveDetails());
+    EXPECT_FALSE(page.blnInputValid());
     page.SetTool(9);
-    const char* const procedures[] = {"ShowDetails", "SaveDetails", "blnInputValid", "SetTool"};
-    ASSERT_EQ(errors.size(), std::size(procedures));
-    for (std::size_t i = 0; i < errors.size(); ++i)
-        EXPECT_EQ(errors[i].rfind(
-                      "An error has occurred in " + std::string(procedures[i]) + " (modHpgl)", 0),
-                  0U)
-            << errors[i];
+    std::string places;
+    for (const std::string& error : errors)
+        places += error.substr(25, error.find(':') - 25) + ", ";
+    EXPECT_EQ(places, "ShowDetails (modHpgl), SaveDetails (modHpgl), blnInputValid (modHpgl), "
+                      "SetTool (modHpgl), ");
 }
 
 } // namespace

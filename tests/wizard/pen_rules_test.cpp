@@ -1,38 +1,39 @@
 // SPDX-License-Identifier: MIT
-// The rules of the pen pages, without a window.
+// The rules of the pen pages, without a window. Rows of a page stand as one text, "-" for an empty
+// box.
 #include "tests/job/drawing.h"
 #include "wizard/pen_checks.h"
 #include "wizard/pen_position.h"
 #include "wizard/pen_values.h"
 
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace torvik {
 namespace {
 
+constexpr auto cutting = PenForm::cutting;
+constexpr auto drilling = PenForm::drilling;
 const ToolList oneTool{{{7, "Drill", 6}}, 1, {}, 0};
 
-Settings cutSettings(float depth, float pass, float finalPass, float finalFeed) {
-    return {1, 12000, 600, finalFeed, 150, depth, pass, finalPass, 0, false, true};
+Settings cut(float depth, float pass, float finalPass, float finalFeed, bool complete = true) {
+    return {1, 12000, 600, finalFeed, 150, depth, pass, finalPass, 0, false, complete};
 }
 
-Settings drillSettings(float depth, float peckDistance, float dwell, bool peck) {
-    return {1, 2000, 0, 0, 90, depth, peckDistance, 0, dwell, peck, true};
+Settings drill(float depth, float peckDistance, float dwell, bool complete = true) {
+    return {1, 2000, 0, 0, 90, depth, peckDistance, 0, dwell, true, complete};
 }
 
-std::string joined(const PenTexts& texts) {
-    std::string all;
-    for (const std::string& text : texts)
-        all += (text.empty() ? "~" : text) + " ";
-    all.pop_back();
-    return all;
+PenTexts split(const char* rows) {
+    PenTexts texts;
+    std::istringstream in(rows);
+    for (std::string& text : texts)
+        if (in >> text && text == "-")
+            text.clear();
+    return texts;
 }
 
 TEST(ShownTexts, SayOnlyTheZerosThatMeanSomething) {
-    const auto incomplete = [](Settings settings) {
-        settings.blnComplete = false;
-        return settings;
-    };
     const struct {
         const char* says;
         PenForm form;
@@ -40,229 +41,136 @@ TEST(ShownTexts, SayOnlyTheZerosThatMeanSomething) {
         Settings settings;
         const char* texts;
     } rows[] = {
-        {"an unset group is empty", PenForm::cutting, 1, {}, "~ ~ ~ ~ ~ ~ ~"},
-        {"feeds in mm/min are whole", PenForm::cutting, 1, cutSettings(3, 1.125F, 0.2F, 300.5F),
+        {"an unset group is empty", cutting, 1, {}, ""},
+        {"mm/min are whole", cutting, 1, cut(3, 1.125F, 0.2F, 300.5F),
          "12000 600 150 3.00 1.13 0.20 301"},
-        {"feeds in mm/sec have two decimals", PenForm::cutting, 60, cutSettings(3, 1, 0.2F, 100),
+        {"mm/sec are not", cutting, 60, cut(3, 1, 0.2F, 100),
          "12000 10.00 2.50 3.00 1.00 0.20 1.67"},
-        {"no final pass, said by a complete group", PenForm::cutting, 1, cutSettings(3, 1, 0, 0),
-         "12000 600 150 3.00 1.00 0 ~"},
-        {"no final pass in one not complete", PenForm::cutting, 1,
-         incomplete(cutSettings(3, 1, 0, 0)), "12000 600 150 3.00 1.00 ~ ~"},
-        {"one pass has no final pass", PenForm::cutting, 1, cutSettings(3, 3, 0.2F, 300),
-         "12000 600 150 3.00 3.00 ~ ~"},
-        {"a feed that shows as 0 is empty", PenForm::cutting, 1, cutSettings(3, 1, 0.2F, 0.4F),
-         "12000 600 150 3.00 1.00 0.20 ~"},
-        {"no dwell, said by a complete group", PenForm::drilling, 60, drillSettings(8, 2, 0, true),
-         "2000 1.50 8.00 0 2.00 ~ ~"},
-        {"no dwell in one not complete", PenForm::drilling, 1,
-         incomplete(drillSettings(8, 2, 0, true)), "2000 90 8.00 ~ 2.00 ~ ~"},
+        {"no final pass", cutting, 1, cut(3, 1, 0, 0), "12000 600 150 3.00 1.00 0 -"},
+        {"not said yet", cutting, 1, cut(3, 1, 0, 0, false), "12000 600 150 3.00 1.00 - -"},
+        {"one pass has none", cutting, 1, cut(3, 3, 0.2F, 300), "12000 600 150 3.00 3.00 - -"},
+        {"a feed that shows as 0", cutting, 1, cut(3, 1, 1, 0.4F),
+         "12000 600 150 3.00 1.00 1.00 -"},
+        {"no dwell", drilling, 60, drill(8, 2, 0), "2000 1.50 8.00 0 2.00"},
+        {"not said yet", drilling, 1, drill(8, 2, 0, false), "2000 90 8.00 - 2.00"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(joined(shownTexts(row.settings, row.form, row.factor)), row.texts) << row.says;
-    EXPECT_THROW(shownTexts({}, PenForm::cutting, 0), DivisionByZero);
+        EXPECT_EQ(shownTexts(row.settings, row.form, row.factor), split(row.texts)) << row.says;
+    EXPECT_THROW(shownTexts({}, cutting, 0), DivisionByZero);
 }
 
 TEST(StoreTexts, ReadsLeniently) {
-    Settings cut;
-    cut.intTool = 1;
-    EXPECT_FALSE(storeTexts({"12000rpm", "10.00", "2,5", "3.5.1", "x", "0.2", "5"}, true,
-                            PenForm::cutting, 60, oneTool, cut));
-    EXPECT_EQ(cut.sngSpindleSpeed, 12000);
-    EXPECT_EQ(cut.sngFeedHorizontal, 600);
-    EXPECT_EQ(cut.sngFeedVertical, 120);
-    EXPECT_EQ(cut.sngDepth, 3.5F);
-    EXPECT_EQ(cut.sngDepthPerPass, 0);
-    EXPECT_EQ(cut.sngFinalPassDepth, 0.2F);
-    EXPECT_EQ(cut.sngFeedFinalPass, 300);
-    EXPECT_FALSE(cut.blnPeck || cut.blnComplete);
+    Settings group;
+    group.intTool = 1;
+    EXPECT_FALSE(
+        storeTexts(split("12000rpm 10.00 2,5 3.5.1 x 0.2 5"), true, cutting, 60, oneTool, group));
+    EXPECT_EQ(shownTexts(group, cutting, 1), split("12000 600 120 3.50 - 0.20 300"));
+    EXPECT_FALSE(group.blnPeck || group.blnComplete);
 
-    Settings hole = cut;
-    EXPECT_FALSE(storeTexts({"2000", "1.5", "8", "0.5", "2", "9", "9"}, true, PenForm::drilling, 60,
-                            oneTool, hole));
-    EXPECT_EQ(hole.sngFeedVertical, 90);
-    EXPECT_EQ(hole.sngDepth, 8);
-    EXPECT_EQ(hole.sngDwell, 0.5F);
-    EXPECT_EQ(hole.sngDepthPerPass, 2);
-    EXPECT_EQ(hole.sngFinalPassDepth, 0.2F); // the cutting fields stay
-    EXPECT_TRUE(hole.blnPeck && hole.blnComplete);
+    EXPECT_FALSE(storeTexts(split("2000 1.5 8 0.5 2 9 9"), true, drilling, 60, oneTool, group));
+    EXPECT_EQ(shownTexts(group, drilling, 1), split("2000 90 8.00 0.50 2.00"));
+    EXPECT_EQ(group.sngFinalPassDepth, 0.2F); // the cutting fields stay
+    EXPECT_TRUE(group.blnPeck && group.blnComplete);
 
-    // Too large for the field, for a number at all, and only when multiplied.
-    for (const char* huge : {"1e39", "-1e999", "1e37"}) {
-        Settings kept = hole;
-        EXPECT_EQ(
-            storeTexts({"1", huge, "1", "1", "1"}, false, PenForm::drilling, 60, oneTool, kept), 1U)
-            << huge;
-        EXPECT_TRUE(kept.sngSpindleSpeed == 2000 && kept.blnPeck) << huge;
+    // Too large for the field, for any number, and only once multiplied.
+    for (const char* rows : {"1 1e39 1 1 1", "1 -1e999 1 1 1", "1 1e37 1 1 1"}) {
+        EXPECT_EQ(storeTexts(split(rows), false, drilling, 60, oneTool, group), 1U) << rows;
+        EXPECT_TRUE(group.sngSpindleSpeed == 2000 && group.blnPeck) << rows;
     }
-    EXPECT_EQ(cannotBeStored(PenForm::drilling, 1),
-              "The Drilling Feed Rate is too large to be stored");
 }
 
 TEST(IsCompleteGroup, AsksForWhatTheFormNeeds) {
-    const auto with = [](Settings settings, float Settings::*field, float value) {
-        settings.*field = value;
-        return settings;
-    };
-    const auto withTool = [](Settings settings, std::int16_t tool) {
-        settings.intTool = tool;
-        return settings;
-    };
-    const Settings cut = cutSettings(3, 1, 0.2F, 300);
-    const Settings hole = drillSettings(8, 2, 0, true);
     const struct {
         const char* says;
         PenForm form;
         Settings settings;
+        void (*change)(Settings&);
         bool complete;
     } rows[] = {
-        {"all of a cut", PenForm::cutting, cut, true},
-        {"no tool", PenForm::cutting, withTool(cut, 0), false},
-        {"a tool that the list does not have", PenForm::cutting, withTool(cut, 2), false},
-        {"no speed", PenForm::cutting, with(cut, &Settings::sngSpindleSpeed, 0), false},
-        {"no cutting feed", PenForm::cutting, with(cut, &Settings::sngFeedHorizontal, 0), false},
-        {"a negative depth", PenForm::cutting, with(cut, &Settings::sngDepth, -1), false},
-        {"no depth per pass", PenForm::cutting, with(cut, &Settings::sngDepthPerPass, 0), false},
-        {"a final pass without a feed", PenForm::cutting, cutSettings(3, 1, 0.2F, 0), false},
-        {"no final pass needs no feed", PenForm::cutting, cutSettings(3, 1, 0, 0), true},
-        {"nor does one that never happens", PenForm::cutting, cutSettings(3, 3, 0.2F, 0), true},
-        {"all of a hole, without dwell", PenForm::drilling, hole, true},
-        {"no drilling feed", PenForm::drilling, with(hole, &Settings::sngFeedVertical, 0), false},
-        {"pecks without a distance", PenForm::drilling, drillSettings(8, 0, 0, true), false},
-        {"without pecks the depth is not asked", PenForm::drilling, drillSettings(0, 0, 0, false),
-         true},
+        {"all", cutting, cut(3, 1, 1, 300), [](Settings&) {}, true},
+        {"no tool", cutting, cut(3, 1, 1, 300), [](Settings& s) { s.intTool = 0; }, false},
+        {"not in the list", cutting, cut(3, 1, 1, 300), [](Settings& s) { s.intTool = 2; }, false},
+        {"no speed", cutting, cut(3, 1, 1, 300), [](Settings& s) { s.sngSpindleSpeed = 0; }, false},
+        {"no feed", cutting, cut(3, 1, 1, 300), [](Settings& s) { s.sngFeedHorizontal = 0; },
+         false},
+        {"negative depths", cutting, cut(-3, -1, 0, 300), [](Settings&) {}, false},
+        {"no depth per pass", cutting, cut(3, 0, 0, 300), [](Settings&) {}, false},
+        {"a final pass without feed", cutting, cut(3, 1, 1, 0), [](Settings&) {}, false},
+        {"no final pass", cutting, cut(3, 1, 0, 0), [](Settings&) {}, true},
+        {"one that never happens", cutting, cut(3, 3, 1, 0), [](Settings&) {}, true},
+        {"without dwell", drilling, drill(8, 2, 0), [](Settings&) {}, true},
+        {"no feed", drilling, drill(8, 2, 0), [](Settings& s) { s.sngFeedVertical = 0; }, false},
+        {"no peck distance", drilling, drill(8, 0, 0), [](Settings&) {}, false},
+        {"no pecks", drilling, drill(0, 0, 0), [](Settings& s) { s.blnPeck = false; }, true},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(isCompleteGroup(row.settings, row.form, oneTool), row.complete) << row.says;
+    for (const auto& row : rows) {
+        Settings settings = row.settings;
+        row.change(settings);
+        EXPECT_EQ(isCompleteGroup(settings, row.form, oneTool), row.complete) << row.says;
+    }
 }
 
 TEST(InputFault, IsTheFirstOne) {
-    constexpr auto cutting = PenForm::cutting;
-    constexpr auto drilling = PenForm::drilling;
     const struct {
-        const char* says;
         PenForm form;
         bool peck;
-        PenTexts texts; // an empty one is closed
+        const char* texts; // an empty box is closed
         std::size_t row;
-        const char* message;
+        const char* message; // behind "The "
     } rows[] = {
-        {"nothing wrong", cutting, false, {"1", "1", "1", "3", "3"}, 9, ""},
-        {"speed",
-         cutting,
-         false,
-         {"0", "0", "1", "3", "1"},
-         0,
-         "The Spindle Speed may not be zero"},
-        {"no number",
-         cutting,
-         false,
-         {"1", "x", "1", "3", "1"},
-         1,
-         "The Horizontal Feed Rate for Cutting may not be zero"},
-        {"negative",
-         cutting,
-         false,
-         {"1", "1", "-1", "3", "1"},
-         2,
-         "The Vertical Feed Rate into Material may not be zero"},
-        {"depth", cutting, false, {"1", "1", "1", ".", "1"}, 3, "The Final Depth may not be zero"},
-        {"pass",
-         cutting,
-         false,
-         {"1", "1", "1", "3", "0"},
-         4,
-         "The Maximum Depth per Pass may not be zero"},
-        {"no final pass", cutting, false, {"1", "1", "1", "3", "1", "0"}, 9, ""},
-        {"a negative final pass",
-         cutting,
-         false,
-         {"1", "1", "1", "3", "1", "-1", "5"},
-         5,
-         "The Final Pass Depth of Cut may not be negative"},
-        {"its feed",
-         cutting,
-         false,
-         {"1", "1", "1", "3", "1", "1", "0"},
-         6,
-         "The Final Pass Horizontal Feed Rate may not be zero"},
-        {"a deeper pass",
-         cutting,
-         false,
-         {"1", "1", "1", "2", "3", "5", "5"},
-         4,
-         "The Maximum Depth per Pass may not be greater than the Final Depth"},
-        {"a deeper final pass",
-         cutting,
-         false,
-         {"1", "1", "1", "3", "1", "1.01", "5"},
-         5,
-         "The Final Pass Depth of Cut may not be greater than the Maximum Depth per Pass"},
-        {"a huge pass",
-         cutting,
-         false,
-         {"1", "1", "1", "3", "1e400", "1", "5"},
-         4,
-         "The Maximum Depth per Pass may not be greater than the Final Depth"},
-        {"no dwell", drilling, true, {"1", "1", "2", "0", "2"}, 9, ""},
-        {"drilling feed",
-         drilling,
-         true,
-         {"1", "0", "2", "0", "2"},
-         1,
-         "The Drilling Feed Rate may not be zero"},
-        {"hole", drilling, false, {"1", "1", "0", "0", ""}, 2, "The Depth of Hole may not be zero"},
-        {"dwell",
-         drilling,
-         false,
-         {"1", "1", "2", "-1", ""},
-         3,
-         "The Dwell Time may not be negative"},
-        {"peck", drilling, true, {"1", "1", "2", "0", "0"}, 4, "The Peck Distance may not be zero"},
-        {"a peck of 0 that is not stored as on", drilling, false, {"1", "1", "2", "0", "0"}, 9, ""},
-        {"a deeper peck, though pecking is off",
-         drilling,
-         false,
-         {"1", "1", "2", "0", "2.5"},
-         4,
-         "The Peck Distance may not be greater than the Depth of Hole"},
+        {cutting, false, "1 1 1 3 3 - -", 9, ""},
+        {cutting, false, "0 0 1 3 1 - -", 0, "Spindle Speed may not be zero"},
+        {cutting, false, "1 x 1 3 1 - -", 1, "Horizontal Feed Rate for Cutting may not be zero"},
+        {cutting, false, "1 1 -1 3 1 - -", 2, "Vertical Feed Rate into Material may not be zero"},
+        {cutting, false, "1 1 1 . 1 - -", 3, "Final Depth may not be zero"},
+        {cutting, false, "1 1 1 3 0 - -", 4, "Maximum Depth per Pass may not be zero"},
+        {cutting, false, "1 1 1 3 1 0 -", 9, ""},
+        {cutting, false, "1 1 1 3 1 -1 5", 5, "Final Pass Depth of Cut may not be negative"},
+        {cutting, false, "1 1 1 3 1 1 0", 6, "Final Pass Horizontal Feed Rate may not be zero"},
+        {cutting, false, "1 1 1 2 3 5 5", 4,
+         "Maximum Depth per Pass may not be greater than the Final Depth"},
+        {cutting, false, "1 1 1 3 1e400 1 5", 4,
+         "Maximum Depth per Pass may not be greater than the Final Depth"},
+        {cutting, false, "1 1 1 3 1 1.01 5", 5,
+         "Final Pass Depth of Cut may not be greater than the Maximum Depth per Pass"},
+        {drilling, true, "1 1 2 0 2", 9, ""},
+        {drilling, true, "1 0 2 0 2", 1, "Drilling Feed Rate may not be zero"},
+        {drilling, false, "1 1 0 0 -", 2, "Depth of Hole may not be zero"},
+        {drilling, false, "1 1 2 -1 -", 3, "Dwell Time may not be negative"},
+        {drilling, true, "1 1 2 0 0", 4, "Peck Distance may not be zero"},
+        {drilling, false, "1 1 2 0 0", 9, ""}, // pecking is not stored as on
+        {drilling, false, "1 1 2 0 2.5", 4,
+         "Peck Distance may not be greater than the Depth of Hole"},
     };
     for (const auto& row : rows) {
-        PenBoxes boxes{row.texts, {}};
+        PenBoxes boxes{split(row.texts), {}};
         for (std::size_t i = 0; i < penRowCount; ++i)
-            boxes.enabled[i] = !row.texts[i].empty();
-        const InputFault fault = inputFault(boxes, row.form, row.peck).value_or(InputFault{9, ""});
-        EXPECT_EQ(fault.row, row.row) << row.says;
-        EXPECT_EQ(fault.message, row.message) << row.says;
+            boxes.enabled[i] = !boxes.text[i].empty();
+        const auto fault = inputFault(boxes, row.form, row.peck).value_or(InputFault{9, "The "});
+        EXPECT_EQ(fault.row, row.row) << row.texts;
+        EXPECT_EQ(fault.message, std::string("The ") + row.message) << row.texts;
     }
 }
 
 TEST(MovePosition, GoesPenByPenAndHoleByHole) {
-    // Used: Red with three hole sizes, Green, Brown with one hole size.
-    const std::string drawing = "SP2;PU0,0;CI40;CI80;CI120;SP3;PU0,0;PD40,0;SP5;PU0,0;CI40;";
     const struct {
         const char* says;
-        std::int16_t pen;
-        std::int16_t radius;
+        std::int16_t pen, radius;
         int direction;
         PenMove move;
-        std::int16_t nextPen;
-        std::int16_t nextRadius;
-        std::int16_t settings;
+        std::int16_t nextPen, nextRadius, settings;
     } rows[] = {
         {"to the first used pen", 0, 0, 1, PenMove::onPage, 2, 0, 1},
-        {"into a drilled pen", 2, 0, 1, PenMove::onPage, 2, 1, 2},
         {"to the next size", 2, 2, 1, PenMove::onPage, 2, 3, 4},
         {"from the last size to the next pen", 2, 3, 1, PenMove::onPage, 3, 0, 5},
-        {"a pen that is cut has no sizes", 5, 0, 1, PenMove::behindLast, 5, 0, 6},
+        {"a pen that is cut has no sizes", 5, 0, 1, PenMove::behindLast, 5, 0, 99},
         {"back to the size before", 2, 3, -1, PenMove::onPage, 2, 2, 3},
-        {"back from the first size to the pen before", 2, 1, -1, PenMove::beforeFirst, 0, 0, 1},
+        {"back from the first size", 2, 1, -1, PenMove::beforeFirst, 0, 0, 99},
         {"back into a drilled pen at its own page", 3, 0, -1, PenMove::onPage, 2, 0, 1},
-        {"staying at a size", 2, 2, 0, PenMove::onPage, 2, 2, 3},
-        {"staying at an own page", 2, 0, 0, PenMove::onPage, 2, 0, 1},
+        {"staying", 2, 2, 0, PenMove::onPage, 2, 2, 3},
     };
     for (const auto& row : rows) {
-        Job job = setUpDrawing(drawing);
+        Job job = setUpDrawing("SP2;PU0,0;CI40;CI80;CI120;SP3;PU0,0;PD40,0;SP5;PU0,0;CI40;");
         job.gudtPens[2].blnDrill = true;
         job.gintCurrentPen = row.pen;
         job.gintCurrentRadius = row.radius;
@@ -270,25 +178,19 @@ TEST(MovePosition, GoesPenByPenAndHoleByHole) {
         EXPECT_EQ(movePosition(job, row.direction), row.move) << row.says;
         EXPECT_EQ(job.gintCurrentPen, row.nextPen) << row.says;
         EXPECT_EQ(job.gintCurrentRadius, row.nextRadius) << row.says;
-        EXPECT_EQ(job.gintCurrentSettings, row.move == PenMove::onPage ? row.settings : 99)
-            << row.says;
-        EXPECT_EQ(job.gintLastPen, row.move == PenMove::behindLast ? 5 : 0) << row.says;
+        EXPECT_EQ(job.gintCurrentSettings, row.settings) << row.says;
     }
 }
 
 TEST(ToolMissesHole, BeyondAHundredth) {
     Job job = setUpDrawing("SP1;PU0,0;CI120;");
-    job.gintCurrentPen = 1;
-    job.gintCurrentRadius = 1;
+    job.gintCurrentPen = job.gintCurrentRadius = 1;
     EXPECT_FALSE(toolMissesHole(job, 9)); // cut
     job.gudtPens[1].blnDrill = true;
     for (const float fits : {5.99F, 6.0F, 6.01F})
         EXPECT_FALSE(toolMissesHole(job, fits)) << fits;
     for (const float misses : {5.98F, 6.0101F, 6.02F})
         EXPECT_TRUE(toolMissesHole(job, misses)) << misses;
-    job.gintCurrentRadius = 0;
-    EXPECT_FALSE(toolMissesHole(job, 9));
-    EXPECT_EQ(strToolTitle(job), "Black holes");
 }
 
 } // namespace
