@@ -6,15 +6,22 @@
 #include "tools/tool_list.h"
 
 #include <QDialog>
+#include <QTimer>
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
+
+class QPushButton;
 
 namespace torvik {
 
 class Logger;
 class Registry;
+class SortButton;
 class StdMessageBox;
+class ToolGrid;
 
 class FrmToolSelect : public QDialog {
     Q_OBJECT
@@ -28,10 +35,43 @@ public:
     // Places the dialog at the page that asks for the tool.
     void placeBeside(const QWidget& page);
 
-    // The place of the chosen tool in the list, 0 where the dialog was cancelled.
+    // The place of the chosen tool in the list, 0 where the dialog was cancelled. The property
+    // "Tag" holds the same as text, empty for none.
     std::int16_t chosenPosition() const;
     // Whether a tool was deleted, so that places of the list have moved.
-    bool hasDeleted() const;
+    bool hasDeleted() const { return m_deleted; }
+
+private:
+    void buildButtons();
+    void buildSortButtons();
+    void connectButtons();
+    // Sizes the grid and lays the sort buttons over its header.
+    void layOut();
+    void enableActions(bool enabled);
+    // Runs a handler's work inside the error trap.
+    template <typename Work>
+    void trapped(std::string_view procedure, Work&& work);
+
+    void selectionChanged();
+    void dropHeaderFocus();
+    void addNewTool();
+    void editTool();
+    void deleteSelectedTool();
+    void confirm();
+
+    ToolList& m_tools;
+    Registry& m_registry;
+    Logger& m_logger;
+    StdMessageBox& m_messages;
+    ToolGrid* m_grid;
+    std::array<SortButton*, 3> m_sort{};
+    QPushButton* m_add = nullptr;
+    QPushButton* m_edit = nullptr;
+    QPushButton* m_delete = nullptr;
+    QPushButton* m_ok = nullptr;
+    QPushButton* m_cancel = nullptr;
+    QTimer m_mouse;
+    bool m_deleted = false;
 };
 
 } // namespace torvik

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tools/tool_edits.h"
+
+#include "base/numbers.h"
+#include "base/picture.h"
+
+#include <algorithm>
+
+namespace torvik {
+namespace {
+
+void checkWholeList(const ToolList& tools) {
+    if (loadedToolCount(tools) < tools.gintToolCount)
+        throw InvalidCall("the tools could not be read beyond tool " +
+                          formatInteger(loadedToolCount(tools)) + " of " +
+                          formatInteger(tools.gintToolCount) +
+                          "; edit the last tool shown, choose it with OK and start the program "
+                          "again before tools are added or deleted");
+}
+
+} // namespace
+
+std::int16_t loadedToolCount(const ToolList& tools) {
+    return toInt16(
+        static_cast<double>(std::min<long>(tools.gintToolCount, tools.gudtTools.count())));
+}
+
+void addTool(ToolList& tools, Tool tool) {
+    checkWholeList(tools);
+    const std::int16_t place = toInt16(tools.gintToolCount + 1);
+    tools.gudtTools.resize(place);
+    tools.gudtTools[place] = std::move(tool);
+    tools.gintToolCount = place;
+}
+
+void deleteTool(ToolList& tools, std::int16_t place) {
+    checkWholeList(tools);
+    toolAt(tools, place);
+    for (int i = place; i < tools.gintToolCount; ++i)
+        tools.gudtTools[i] = tools.gudtTools[i + 1];
+    --tools.gintToolCount;
+}
+
+std::string deletionQuestion(const Tool& tool) {
+    return "Are you sure you want to delete:\nTool no. " + formatInteger(tool.intNumber) + "\n(" +
+           tool.strType + "  " + formatFixed(tool.sngDiameter, 3) + " mm)?\n";
+}
+
+bool isTypeInUse(const ToolList& tools, std::string_view type) {
+    const auto last = tools.gudtTools.begin() + std::max<std::int16_t>(loadedToolCount(tools), 0);
+    return std::any_of(tools.gudtTools.begin(), last,
+                       [&](const Tool& tool) { return tool.strType == type; });
+}
+
+void addUserType(ToolList& tools, std::string type) {
+    const std::int16_t place = toInt16(tools.gintUserToolTypeCount + 1);
+    tools.gstrUserToolTypes.resize(place);
+    tools.gstrUserToolTypes[place] = std::move(type);
+    tools.gintUserToolTypeCount = place;
+}
+
+void deleteUserType(ToolList& tools, std::int16_t place) {
+    if (place < 1 || tools.gintUserToolTypeCount < 1)
+        throw SubscriptOutOfRange(place, 1, tools.gintUserToolTypeCount);
+    for (int i = place; i < tools.gintUserToolTypeCount; ++i)
+        tools.gstrUserToolTypes[i] = tools.gstrUserToolTypes[i + 1];
+    --tools.gintUserToolTypeCount;
+}
+
+} // namespace torvik

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// Changes to the lists of tools and of the users' types, in memory. A list of tools that was not
+// loaded to its end is not changed in length: the places that are missing would be lost.
+#pragma once
+
+#include "tools/tool_list.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+// How many places can be read: fewer than gintToolCount where the loading broke off.
+std::int16_t loadedToolCount(const ToolList& tools);
+
+// Puts the tool behind the last one. Raises Overflow for more than 32767 tools and InvalidCall for
+// a list that was not loaded to its end.
+void addTool(ToolList& tools, Tool tool);
+// Takes the tool at the place, 1 to gintToolCount, out; later ones move down by one place and the
+// array keeps its size. Raises SubscriptOutOfRange for another place, InvalidCall as addTool.
+void deleteTool(ToolList& tools, std::int16_t place);
+// The question asked before.
+std::string deletionQuestion(const Tool& tool);
+
+// Whether a tool of the list has exactly this type.
+bool isTypeInUse(const ToolList& tools, std::string_view type);
+// Puts the type behind the last of the users' types. Raises Overflow for more than 32767 types.
+void addUserType(ToolList& tools, std::string type);
+// Takes the users' type at the place out; later ones move down by one place, the array keeps its
+// size. A place that earlier deletions left beyond the end only shortens the list; place 0 or less
+// raises SubscriptOutOfRange.
+void deleteUserType(ToolList& tools, std::int16_t place);
+
+} // namespace torvik
