@@ -3,7 +3,8 @@
 
 namespace torvik {
 
-SubscriptOutOfRange::SubscriptOutOfRange(long subscript, long low, long high)
+SubscriptOutOfRange::SubscriptOutOfRange(std::ptrdiff_t subscript, std::ptrdiff_t low,
+                                         std::ptrdiff_t high)
     : RunTimeError("there is no entry number " + std::to_string(subscript) +
                    (high < low ? std::string(" (the list is empty)")
                                : " (the list runs from " + std::to_string(low) + " to " +

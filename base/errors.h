@@ -3,6 +3,7 @@
 // sentence that a teacher understands. They are thrown inside and caught by the error trap.
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 
@@ -16,7 +17,7 @@ public:
 
 class SubscriptOutOfRange : public RunTimeError {
 public:
-    SubscriptOutOfRange(long subscript, long low, long high);
+    SubscriptOutOfRange(std::ptrdiff_t subscript, std::ptrdiff_t low, std::ptrdiff_t high);
 };
 
 class Overflow : public RunTimeError {

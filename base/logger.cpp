@@ -95,6 +95,8 @@ void Logger::append(std::string_view kind, std::string_view procedure, std::stri
         line.append(": ").append(text);
     std::replace_if(
         line.begin(), line.end(), [](unsigned char c) { return c < 32; }, ' ');
+    std::error_code ignored;
+    std::filesystem::create_directories(m_logFile.parent_path(), ignored);
     std::ofstream(m_logFile, std::ios::app) << line << '\n';
 }
 

@@ -11,13 +11,12 @@
 #include "convert/show.h"
 #include "gcode/tool_check.h"
 #include "job/job.h"
-#include "tools/open_registry.h"
+#include "tools/settings_file_reader.h"
 #include "tools/tool_store.h"
 #include "wizard/import_drawing.h"
 #include "wizard/program_folder.h"
 
-#include <QCoreApplication>
-
+#include <memory>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -118,7 +117,9 @@ private:
             return;
         if (m_options.tools)
             requireReadable(*m_options.tools);
-        const auto registry = m_options.tools ? openRegistry(*m_options.tools) : openRegistry();
+        const std::unique_ptr<RegistryReader> registry =
+            m_options.tools ? std::make_unique<SettingsFileReader>(*m_options.tools)
+                            : openRegistryReader();
         const auto value = [&](const char* name) {
             return registry->strRegistryValueGet(name, "");
         };
@@ -183,19 +184,19 @@ private:
 
 } // namespace
 
-int runConverter(const QStringList& arguments, std::ostream& out, std::ostream& err) {
-    QString usageError;
-    const auto options = parseOptions(arguments, usageError);
+int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
     if (!options) {
-        err << programName << ": " << usageError.toStdString() << " (see --help)\n";
+        err << programName << ": " << usageError << " (see --help)\n";
         return static_cast<int>(ExitCode::usage);
     }
     if (options->action == ConvertOptions::Action::help) {
-        out << helpText().toStdString();
+        out << helpText();
         return static_cast<int>(ExitCode::done);
     }
     if (options->action == ConvertOptions::Action::version) {
-        out << programName << ' ' << QCoreApplication::applicationVersion().toStdString() << '\n';
+        out << programName << " " TORVIK_VERSION "\n";
         return static_cast<int>(ExitCode::done);
     }
     return Converter(*options, out, err).run();

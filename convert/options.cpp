@@ -1,179 +1,208 @@
 // SPDX-License-Identifier: MIT
 #include "convert/options.h"
 
+#include "base/errors.h"
 #include "base/files.h"
 #include "gcode/output_file.h"
 
-#include <QCommandLineParser>
-
+#include <array>
+#include <charconv>
+#include <getopt.h>
 #include <limits>
 #include <set>
 
 namespace torvik {
 namespace {
 
-QString targetNames() {
-    QStringList names;
-    for (const Dialect& dialect : dialects())
-        names << QString::fromUtf8(dialect.optionName.data(),
-                                   static_cast<qsizetype>(dialect.optionName.size()));
-    return names.join(u", ");
-}
-
-std::filesystem::path toPath(const QString& name) {
-    return pathFromUtf8(name.toStdString());
-}
-
-class ConvertParser {
-public:
-    ConvertParser() {
-        m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        m_parser.setApplicationDescription(
-            QStringLiteral("Converts pen-plotter drawings (HPGL) to programs for milling machines, "
-                           "with the\nanswers saved for each drawing and the workshop's tools."));
-        m_parser.addPositionalArgument(QStringLiteral("drawings"),
-                                       QStringLiteral("Drawings to convert (.plt)."),
-                                       QStringLiteral("DRAWING.plt..."));
-        m_parser.addOptions({m_target, m_answers, m_tools, m_number, m_output, m_outputFolder,
-                             m_date, m_force, m_quiet, m_show, m_help, m_version});
-    }
-
-    QString helpText() const { return m_parser.helpText(); }
-
-    std::optional<ConvertOptions> parse(const QStringList& arguments, QString& error) {
-        if (!m_parser.parse(arguments)) {
-            error = m_parser.errorText();
-            return {};
-        }
-        ConvertOptions options;
-        if (m_parser.isSet(m_help)) {
-            options.action = ConvertOptions::Action::help;
-            return options;
-        }
-        if (m_parser.isSet(m_version)) {
-            options.action = ConvertOptions::Action::version;
-            return options;
-        }
-        for (const QString& name : m_parser.positionalArguments())
-            options.drawings.push_back(toPath(name));
-        readFlagsAndPaths(options);
-        error = firstMistake(options);
-        if (!error.isEmpty())
-            return {};
-        return options;
-    }
-
-private:
-    std::optional<std::filesystem::path> pathOf(const QCommandLineOption& option) const {
-        if (!m_parser.isSet(option))
-            return {};
-        return toPath(m_parser.value(option));
-    }
-
-    void readFlagsAndPaths(ConvertOptions& options) const {
-        if (m_parser.isSet(m_show))
-            options.action = ConvertOptions::Action::show;
-        options.answers = pathOf(m_answers);
-        options.tools = pathOf(m_tools);
-        options.output = pathOf(m_output);
-        options.outputFolder = pathOf(m_outputFolder);
-        options.date = m_parser.value(m_date).toStdString();
-        options.force = m_parser.isSet(m_force);
-        options.quiet = m_parser.isSet(m_quiet);
-    }
-
-    // What is wrong with the options, or an empty text; fills in target and number.
-    QString firstMistake(ConvertOptions& options) const {
-        if (options.drawings.empty())
-            return QStringLiteral("no drawing is named");
-        if (options.action == ConvertOptions::Action::show)
-            return {};
-        if (!m_parser.isSet(m_target))
-            return QStringLiteral("--target is missing (one of %1)").arg(targetNames());
-        options.dialect = dialectNamed(m_parser.value(m_target).toStdString());
-        if (options.dialect == nullptr)
-            return QStringLiteral("there is no target \"%1\" (one of %2)")
-                .arg(m_parser.value(m_target), targetNames());
-        if (QString mistake = numberMistake(options); !mistake.isEmpty())
-            return mistake;
-        if (options.output && options.outputFolder)
-            return QStringLiteral("--output and --output-dir exclude each other");
-        if (options.drawings.size() > 1 && (options.output || options.answers))
-            return QStringLiteral("--output and --answers take one drawing only");
-        return sameNameMistake(options);
-    }
-
-    QString numberMistake(ConvertOptions& options) const {
-        if (!options.dialect->needsNumber())
-            return {};
-        if (!m_parser.isSet(m_number))
-            return QStringLiteral("this target needs a program number: --number N");
-        bool isNumber = false;
-        const int number = m_parser.value(m_number).toInt(&isNumber);
-        const int last = std::numeric_limits<std::int16_t>::max();
-        const auto count = static_cast<long>(options.drawings.size());
-        if (!isNumber || number < 1 || number > last)
-            return QStringLiteral("the program number must be 1 to 32767");
-        if (number + count - 1 > last)
-            return QStringLiteral("the program numbers of %1 drawings from %2 pass 32767")
-                .arg(count)
-                .arg(number);
-        options.number = static_cast<std::int16_t>(number);
-        return {};
-    }
-
-    static QString sameNameMistake(const ConvertOptions& options) {
-        std::set<std::filesystem::path> names;
-        for (std::size_t i = 0; i < options.drawings.size(); ++i) {
-            const auto path = options.outputPath(i).lexically_normal();
-            if (!names.insert(path).second)
-                return QStringLiteral("two drawings give the same output %1")
-                    .arg(QString::fromStdString(utf8FromPath(path)));
-        }
-        return {};
-    }
-
-    const QCommandLineOption m_target{
-        QStringLiteral("target"),
-        QStringLiteral("The control to write for: %1.").arg(targetNames()), QStringLiteral("name")};
-    const QCommandLineOption m_answers{
-        QStringLiteral("answers"),
-        QStringLiteral("Saved answers to use (default: those saved for the drawing)."),
-        QStringLiteral("FILE.plx")};
-    const QCommandLineOption m_tools{QStringLiteral("tools"),
-                                     QStringLiteral("Tool library to use (default: the "
-                                                    "workshop's)."),
-                                     QStringLiteral("FILE.ini")};
-    const QCommandLineOption m_number{
-        QStringLiteral("number"),
-        QStringLiteral("Program number for WinCAM and WinNC, 1 to 32767; counts up with several "
-                       "drawings."),
-        QStringLiteral("N")};
-    const QCommandLineOption m_output{
-        QStringLiteral("output"),
-        QStringLiteral("The file to write, for one drawing (default: beside the drawing). It is "
-                       "overwritten."),
-        QStringLiteral("FILE")};
-    const QCommandLineOption m_outputFolder{QStringLiteral("output-dir"),
-                                            QStringLiteral("The folder to write to."),
-                                            QStringLiteral("DIR")};
-    const QCommandLineOption m_date{QStringLiteral("date"),
-                                    QStringLiteral("The date of the header where the answers have "
-                                                   "none."),
-                                    QStringLiteral("TEXT")};
-    const QCommandLineOption m_force{QStringLiteral("force"),
-                                     QStringLiteral("Overwrite files that exist.")};
-    const QCommandLineOption m_quiet{QStringLiteral("quiet"),
-                                     QStringLiteral("Say nothing but what went wrong.")};
-    const QCommandLineOption m_show{
-        QStringLiteral("show"),
-        QStringLiteral("Print what the drawings hold instead of converting them.")};
-    const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
-                                    QStringLiteral("Print this text.")};
-    const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
-                                       QStringLiteral("Print the version.")};
-    QCommandLineParser m_parser;
+enum OptionCode : int {
+    optionTarget = 256,
+    optionAnswers,
+    optionTools,
+    optionNumber,
+    optionOutput,
+    optionOutputFolder,
+    optionDate,
+    optionForce,
+    optionQuiet,
+    optionShow,
+    optionHelp = 'h',
+    optionVersion = 'v',
 };
+
+struct OptionRow {
+    const char* name;
+    OptionCode code;
+    const char* value; // what stands for its value in the help, nullptr where it has none
+    const char* help;  // lines at "\n"
+};
+
+constexpr std::array<OptionRow, 12> rows{{
+    {"target", optionTarget, "NAME", "the control to write for: "},
+    {"answers", optionAnswers, "FILE.plx",
+     "the answers to use (default: those saved for the\ndrawing)"},
+    {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
+    {"number", optionNumber, "N",
+     "the program number for WinCAM and WinNC, 1 to 32767;\nwith several drawings it counts up"},
+    {"output", optionOutput, "FILE",
+     "the file to write, for one drawing (default: beside\nthe drawing); overwritten if it exists"},
+    {"output-dir", optionOutputFolder, "DIR", "the folder to write to"},
+    {"date", optionDate, "TEXT", "the date of the header where the answers have none"},
+    {"force", optionForce, nullptr, "overwrite files that exist"},
+    {"quiet", optionQuiet, nullptr, "say nothing but what went wrong"},
+    {"show", optionShow, nullptr, "print what the drawings hold instead of converting"},
+    {"help", optionHelp, nullptr, "print this text"},
+    {"version", optionVersion, nullptr, "print the version"},
+}};
+
+std::string targetNames() {
+    std::string names;
+    for (const Dialect& dialect : dialects())
+        names.append(names.empty() ? "" : ", ").append(dialect.optionName);
+    return names;
+}
+
+std::array<option, rows.size() + 1> longOptions() {
+    std::array<option, rows.size() + 1> table{};
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        table[i] = {rows[i].name, rows[i].value == nullptr ? no_argument : required_argument,
+                    nullptr, rows[i].code};
+    return table;
+}
+
+// Raised for a command line that is wrong; the text says why.
+class UsageError : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
+
+void take(ConvertOptions& options, std::string& target, std::string& number, int code,
+          const char* value) {
+    switch (code) {
+    case optionTarget:
+        target = value;
+        break;
+    case optionNumber:
+        number = value;
+        break;
+    case optionAnswers:
+        options.answers = pathFromUtf8(value);
+        break;
+    case optionTools:
+        options.tools = pathFromUtf8(value);
+        break;
+    case optionOutput:
+        options.output = pathFromUtf8(value);
+        break;
+    case optionOutputFolder:
+        options.outputFolder = pathFromUtf8(value);
+        break;
+    case optionDate:
+        options.date = value;
+        break;
+    case optionForce:
+        options.force = true;
+        break;
+    case optionQuiet:
+        options.quiet = true;
+        break;
+    case optionShow:
+        options.action = ConvertOptions::Action::show;
+        break;
+    case optionHelp:
+        options.action = ConvertOptions::Action::help;
+        break;
+    case optionVersion:
+        options.action = ConvertOptions::Action::version;
+        break;
+    default:
+        break;
+    }
+}
+
+void setTarget(ConvertOptions& options, const std::string& target) {
+    if (target.empty())
+        throw UsageError("--target is missing (one of " + targetNames() + ")");
+    options.dialect = dialectNamed(target);
+    if (options.dialect == nullptr)
+        throw UsageError("there is no target \"" + target + "\" (one of " + targetNames() + ")");
+}
+
+void setNumber(ConvertOptions& options, const std::string& text) {
+    if (!options.dialect->needsNumber())
+        return;
+    if (text.empty())
+        throw UsageError("this target needs a program number: --number N");
+    constexpr long last = std::numeric_limits<std::int16_t>::max();
+    long number = 0;
+    const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (end.ec != std::errc() || end.ptr != text.data() + text.size() || number < 1 ||
+        number > last)
+        throw UsageError("the program number must be 1 to 32767");
+    if (number + static_cast<long>(options.drawings.size()) - 1 > last)
+        throw UsageError("the program numbers of " + std::to_string(options.drawings.size()) +
+                         " drawings from " + text + " pass 32767");
+    options.number = static_cast<std::int16_t>(number);
+}
+
+void checkOutputs(const ConvertOptions& options) {
+    if (options.output && options.outputFolder)
+        throw UsageError("--output and --output-dir exclude each other");
+    if (options.drawings.size() > 1 && (options.output || options.answers))
+        throw UsageError("--output and --answers take one drawing only");
+    std::set<std::filesystem::path> names;
+    for (std::size_t i = 0; i < options.drawings.size(); ++i) {
+        const auto path = options.outputPath(i).lexically_normal();
+        if (!names.insert(path).second)
+            throw UsageError("two drawings give the same output " + utf8FromPath(path));
+    }
+}
+
+// The message for what getopt_long did not understand.
+std::string unknownOption(const std::string& argument, int code) {
+    if (code == ':')
+        return "the option " + argument + " needs a value";
+    return "there is no option " + argument;
+}
+
+ConvertOptions parse(std::vector<std::string>& arguments) {
+    std::vector<char*> words;
+    for (std::string& argument : arguments)
+        words.push_back(argument.data());
+    words.push_back(nullptr);
+
+    const auto table = longOptions();
+    ConvertOptions options;
+    std::string target;
+    std::string number;
+    opterr = 0;
+    optind = 0; // start afresh
+    for (;;) {
+        const auto at = static_cast<std::size_t>(optind == 0 ? 1 : optind);
+        const int code = getopt_long(static_cast<int>(arguments.size()), words.data(), ":hv",
+                                     table.data(), nullptr);
+        if (code == -1)
+            break;
+        if (code == '?' || code == ':') {
+            const auto last = static_cast<std::size_t>(optind) - 1;
+            throw UsageError(unknownOption(words[std::max(at, last)], code));
+        }
+        take(options, target, number, code, optarg);
+        if (options.action == ConvertOptions::Action::help ||
+            options.action == ConvertOptions::Action::version)
+            return options;
+    }
+    for (auto i = static_cast<std::size_t>(optind); i < arguments.size(); ++i)
+        options.drawings.push_back(pathFromUtf8(words[i]));
+
+    if (options.drawings.empty())
+        throw UsageError("no drawing is named");
+    if (options.action == ConvertOptions::Action::convert) {
+        setTarget(options, target);
+        setNumber(options, number);
+        checkOutputs(options);
+    }
+    return options;
+}
 
 } // namespace
 
@@ -191,12 +220,39 @@ std::int16_t ConvertOptions::outputNumber(std::size_t i) const {
                                   : std::int16_t{0};
 }
 
-std::optional<ConvertOptions> parseOptions(const QStringList& arguments, QString& usageError) {
-    return ConvertParser().parse(arguments, usageError);
+std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
+                                           std::string& usageError) {
+    try {
+        return parse(arguments);
+    } catch (const UsageError& error) {
+        usageError = error.what();
+        return {};
+    }
 }
 
-QString helpText() {
-    return ConvertParser().helpText();
+std::string helpText() {
+    constexpr std::size_t column = 24;
+    std::string text =
+        "Usage: torvik-convert DRAWING.plt... --target NAME [OPTIONS]\n"
+        "       torvik-convert --show DRAWING.plt...\n\n"
+        "Converts pen-plotter drawings (HPGL) to programs for milling machines, with the\n"
+        "answers saved for each drawing and the workshop's tools.\n\n";
+    for (const OptionRow& row : rows) {
+        std::string line = std::string("  --") + row.name;
+        if (row.value != nullptr)
+            line.append(" ").append(row.value);
+        line.append(line.size() < column ? column - line.size() : 1, ' ');
+        for (const char* at = row.help; *at != '\0'; ++at) {
+            line += *at;
+            if (*at == '\n')
+                line.append(column, ' ');
+        }
+        if (row.code == optionTarget)
+            line += targetNames();
+        text += line + "\n";
+    }
+    return text + "\nExit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the\n"
+                  "answers do not belong to the drawing; 4 the job cannot be written as it is.\n";
 }
 
 } // namespace torvik

@@ -4,9 +4,6 @@
 
 #include "gcode/dialects.h"
 
-#include <QString>
-#include <QStringList>
-
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -36,11 +33,12 @@ struct ConvertOptions {
     std::int16_t outputNumber(std::size_t i) const;
 };
 
-// Reads the arguments, the program's name first. Where they are wrong, `usageError` says in one
-// line why, and the result is empty.
-std::optional<ConvertOptions> parseOptions(const QStringList& arguments, QString& usageError);
+// Reads the arguments (UTF-8), the program's name first. Where they are wrong, `usageError` says in
+// one line why, and the result is empty.
+std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
+                                           std::string& usageError);
 
 // The text of --help.
-QString helpText();
+std::string helpText();
 
 } // namespace torvik

@@ -7,20 +7,32 @@
 #include "gcode/output_file.h"
 #include "gcode/program_output.h"
 
-#include <QCoreApplication>
-
 #include <optional>
+
+#ifdef _WIN32
+#include <process.h>
+#else
+#include <unistd.h>
+#endif
 
 namespace torvik {
 namespace {
 
 namespace fs = std::filesystem;
 
+long processId() {
+#ifdef _WIN32
+    return _getpid();
+#else
+    return getpid();
+#endif
+}
+
 // A file under a temporary name, which takes its own name when it is whole and otherwise goes.
 class PendingFile {
 public:
     explicit PendingFile(const fs::path& target) : m_target(target), m_pending(target) {
-        m_pending += ".torvik-" + std::to_string(QCoreApplication::applicationPid());
+        m_pending += ".torvik-" + std::to_string(processId());
         try {
             m_sink.emplace(m_pending);
         } catch (const FileError& error) {

@@ -58,7 +58,8 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
     for (std::size_t i = 0; i < places.size(); ++i) {
         const long position = static_cast<long>(i) + 1;
         if (position > job.gstrOrdinal.high())
-            throw InvalidCall("the program changes to " + formatInteger(ssize(places)) +
+            throw InvalidCall("the program changes to " +
+                              formatInteger(static_cast<long>(places.size())) +
                               " tools, the header names the first sixteen only");
         const std::string name = places.size() == 1 ? "Tool" : job.gstrOrdinal[position] + " tool";
         output.WriteLine(opener + name + " - " + toolLine(toolAt(tools, places[i])) + closer);

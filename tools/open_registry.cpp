@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/open_registry.h"
 
+#include "tools/settings_file_reader.h"
 #include "tools/settings_file_registry.h"
 #ifdef _WIN32
 #include "tools/windows_registry.h"
@@ -12,7 +13,7 @@ std::unique_ptr<Registry> openRegistry() {
 #ifdef _WIN32
     return std::make_unique<WindowsRegistry>();
 #else
-    return openRegistry(SettingsFileRegistry::userFile());
+    return openRegistry(userSettingsFile());
 #endif
 }
 

@@ -9,12 +9,12 @@
 
 namespace torvik {
 
-class Registry {
+class RegistryReader {
 public:
-    Registry() = default;
-    Registry(const Registry&) = delete;
-    Registry& operator=(const Registry&) = delete;
-    virtual ~Registry() = default;
+    RegistryReader() = default;
+    RegistryReader(const RegistryReader&) = delete;
+    RegistryReader& operator=(const RegistryReader&) = delete;
+    virtual ~RegistryReader() = default;
 
     // The longest text that is read, in bytes of its stored form; a longer one counts as missing.
     static constexpr std::size_t maxValueBytes = 79;
@@ -22,6 +22,10 @@ public:
     // The value's text (UTF-8), or the default where it is missing or cannot be read.
     virtual std::string strRegistryValueGet(std::string_view name,
                                             std::string_view defaultText) const = 0;
+};
+
+class Registry : public RegistryReader {
+public:
     // Writes the value, creating what is missing. A write that fails goes unnoticed.
     virtual void RegistryValuePut(std::string_view name, std::string_view data) = 0;
 

@@ -8,7 +8,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
-#include <QtCore/QStandardPaths>
 #include <QtCore/QThread>
 
 #include <chrono>
@@ -45,11 +44,6 @@ bool isLockFree(const QString& file) {
 
 SettingsFileRegistry::SettingsFileRegistry(const std::filesystem::path& file)
     : m_settings(toQt(file), settingsFormat()) {}
-
-std::filesystem::path SettingsFileRegistry::userFile() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return pathFromUtf8(folder.toStdString()) / "Baltrum" / "Maskor.ini";
-}
 
 std::string SettingsFileRegistry::strRegistryValueGet(std::string_view name,
                                                       std::string_view defaultText) const {

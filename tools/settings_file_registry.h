@@ -25,9 +25,6 @@ public:
     // Outside a batch the value is on the disk when this returns.
     void RegistryValuePut(std::string_view name, std::string_view data) override;
 
-    // Baltrum/Maskor.ini in the user's configuration folder.
-    static std::filesystem::path userFile();
-
 protected:
     void beginBatch() override { ++m_batches; }
     void endBatch() override;

@@ -2,6 +2,7 @@
 #include "tools/settings_format.h"
 
 #include "tools/ini_text.h"
+#include "tools/settings_file_reader.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFileInfo>
@@ -9,8 +10,8 @@
 namespace torvik {
 namespace {
 
-constexpr qint64 maxFileBytes = qint64{16} << 20; // a full tool library has a fifth of it
-constexpr std::string_view section = "Maskor";
+constexpr auto maxFileBytes = static_cast<qint64>(maxSettingsBytes);
+constexpr std::string_view section = settingsSection;
 // Keys beside the entries' own; no entry's name holds a line break.
 const QString wholeText = QStringLiteral("\ntext");
 const QString unreadable = QStringLiteral("\nunreadable");

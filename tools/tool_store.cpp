@@ -15,7 +15,7 @@ std::string entryName(std::string_view kind, int position) {
     return std::string(kind) + formatInteger(position, 2);
 }
 
-std::int16_t readCount(const Registry& registry, std::string_view name) {
+std::int16_t readCount(const RegistryReader& registry, std::string_view name) {
     return toInt16(leadingNumber(registry.strRegistryValueGet(name, "0")));
 }
 
@@ -45,7 +45,7 @@ std::string recordOf(const Tool& tool) {
 
 } // namespace
 
-void ToolDataLoad(ToolList& tools, const Registry& registry, Logger& logger) {
+void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logger) {
     withErrorTrap(logger, {"ToolDataLoad", module}, [&] {
         tools.gudtTools.erase();
         tools.gintToolCount = 0;
@@ -72,7 +72,7 @@ void ToolDataSave(const ToolList& tools, Registry& registry, Logger& logger) {
     });
 }
 
-void ToolTypeUserLoad(ToolList& tools, const Registry& registry, Logger& logger) {
+void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger) {
     withErrorTrap(logger, {"ToolTypeUserLoad", module}, [&] {
         tools.gstrUserToolTypes.erase();
         tools.gintUserToolTypeCount = 0;

@@ -15,14 +15,14 @@ namespace torvik {
 // for its field, stops the loading: the earlier tools stay, gudtTools ends with the record that
 // failed, and gintToolCount keeps the count that was read. A count outside 16 bits empties the
 // list.
-void ToolDataLoad(ToolList& tools, const Registry& registry, Logger& logger);
+void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);
 
 // Writes the count and every tool. Records above the count are left as they are. A place that the
 // loading did not reach stops the saving there.
 void ToolDataSave(const ToolList& tools, Registry& registry, Logger& logger);
 
 // The same for gstrUserToolTypes, whose texts have no separators.
-void ToolTypeUserLoad(ToolList& tools, const Registry& registry, Logger& logger);
+void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);
 void ToolTypeUserSave(const ToolList& tools, Registry& registry, Logger& logger);
 
 } // namespace torvik

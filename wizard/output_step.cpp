@@ -13,7 +13,7 @@
 #include "wizard/frm_menu.h"
 #include "wizard/frm_output.h"
 #include "wizard/program_folder.h"
-#include "wizard/saved_settings.h"
+#include "wizard/put_saved_data.h"
 #include "wizard/workshop.h"
 
 #include <QGuiApplication>

@@ -2,70 +2,76 @@
 #include "wizard/program_folder.h"
 
 #include "base/files.h"
+#include "base/user_folders.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
-#include <QStandardPaths>
-#include <QTemporaryFile>
+#ifdef _WIN32
+#include <fstream>
+#else
+#include <unistd.h>
+#endif
 
 namespace torvik {
 namespace {
 
-std::filesystem::path toPath(const QString& name) {
-    return pathFromUtf8(name.toStdString());
+namespace fs = std::filesystem;
+
+fs::path homeFolder() {
+    const std::string home = environmentText("TORVIK_HOME");
+    return home.empty() ? fs::path() : fs::absolute(pathFromUtf8(home)).lexically_normal();
 }
 
-QString homeFolder() {
-    const QString home = qEnvironmentVariable("TORVIK_HOME");
-    return home.isEmpty() ? QString() : QDir(home).absolutePath();
+#ifdef _WIN32
+
+bool belongsToSystem(const fs::path&) {
+    return false;
 }
+
+// Who may write is not looked up there unless a file is made; it is removed at once.
+bool canBeWritten(const fs::path& folder) {
+    const fs::path probe = folder / "torvik-probe.tmp";
+    const bool opened = std::ofstream(probe).is_open();
+    std::error_code ignored;
+    fs::remove(probe, ignored);
+    return opened;
+}
+
+#else
 
 // Folders of the system are shared with other programs; whoever may write to them should not.
-bool belongsToSystem(const QString& folder) {
-#ifdef Q_OS_UNIX
-    const QString inside = folder + QLatin1Char('/');
-    return inside.startsWith(QLatin1String("/usr/")) || inside.startsWith(QLatin1String("/bin/"));
-#else
-    Q_UNUSED(folder)
-    return false;
-#endif
+bool belongsToSystem(const fs::path& folder) {
+    const std::string inside = folder.native() + '/';
+    return inside.starts_with("/usr/") || inside.starts_with("/bin/");
 }
 
-bool canBeWritten(const QString& folder) {
-#ifdef Q_OS_WIN
-    // Who may write is not looked up there unless a file is made; it is removed at once.
-    QTemporaryFile probe(folder + QLatin1String("/torvik-XXXXXX"));
-    return probe.open();
-#else
-    return QFileInfo(folder).isWritable();
-#endif
+bool canBeWritten(const fs::path& folder) {
+    return access(folder.c_str(), W_OK) == 0;
 }
+
+#endif
 
 } // namespace
 
-std::filesystem::path programFolder() {
-    const QString home = homeFolder();
-    return toPath(home.isEmpty() ? QCoreApplication::applicationDirPath() : home);
+fs::path programFolder() {
+    const fs::path home = homeFolder();
+    return home.empty() ? executableFolder() : home;
 }
 
-std::filesystem::path dataFolder() {
-    const QString home = homeFolder();
-    return home.isEmpty() ? dataFolderFor(programFolder()) : toPath(home);
+fs::path dataFolder() {
+    const fs::path home = homeFolder();
+    return home.empty() ? dataFolderFor(programFolder()) : home;
 }
 
-std::filesystem::path dataFolderFor(const std::filesystem::path& executableFolder) {
-    const QString own = QString::fromStdString(utf8FromPath(executableFolder));
-    if (!belongsToSystem(own) && canBeWritten(own))
-        return executableFolder;
-    return toPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "Torvik";
+fs::path dataFolderFor(const fs::path& executableFolder) {
+    return !belongsToSystem(executableFolder) && canBeWritten(executableFolder)
+               ? executableFolder
+               : userDataFolder() / "Torvik";
 }
 
-std::filesystem::path savedSettingsFolder() {
+fs::path savedSettingsFolder() {
     return dataFolder() / "PlotSave";
 }
 
-std::filesystem::path logFile(std::string_view programName) {
+fs::path logFile(std::string_view programName) {
     return dataFolder() / pathFromUtf8(std::string(programName).append(".log"));
 }
 

@@ -24,12 +24,6 @@ struct SavedData {
     std::string damage; // "FILE, line N: cause", for a damaged file only
 };
 
-// Keeps the job's answers in the folder, which is created where missing. All or nothing: where the
-// file cannot be written, this is logged and reported, the earlier file stays, and the result is
-// False.
-bool PutSavedData(const Job& job, const ToolList& tools, const std::filesystem::path& folder,
-                  Logger& logger);
-
 // Takes over the answers kept for the drawing that was just read. Sets gstrDigest and
 // gstrSavedFile; all else of the job changes only where the outcome is "taken", and gblnSavedFound
 // is then set. A damaged file is logged.
@@ -39,8 +33,5 @@ SavedData GetSavedData(Job& job, const ToolList& tools, const std::filesystem::p
 // The same from a named file.
 SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesystem::path& file,
                            Logger& logger);
-
-// The MD5 digest of the file's bytes in lower-case hexadecimal. Raises FileError.
-std::string strDigestFile(const std::filesystem::path& path);
 
 } // namespace torvik

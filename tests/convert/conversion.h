@@ -7,13 +7,12 @@
 #include "convert/converter.h"
 #include "tests/base/temporary_folder.h"
 
-#include <QCoreApplication>
-
 #include <map>
 #include <sstream>
 
 namespace torvik {
 
+using Arguments = std::vector<std::string>;
 using Files = std::map<std::string, std::string>; // bytes by name
 
 inline Files filesOf(const std::filesystem::path& folder) {
@@ -28,8 +27,8 @@ inline Files filesOf(const std::filesystem::path& folder) {
 class Conversion {
 public:
     Conversion() {
-        qputenv("TORVIK_HOME", (m_folder.path() / "home").c_str());
-        qputenv("XDG_CONFIG_HOME", (m_folder.path() / "config").c_str());
+        setenv("TORVIK_HOME", (m_folder.path() / "home").c_str(), 1);
+        setenv("XDG_CONFIG_HOME", (m_folder.path() / "config").c_str(), 1);
         for (const auto& folder : {home(), config(), work()})
             std::filesystem::create_directories(folder);
         std::filesystem::current_path(work());
@@ -41,14 +40,11 @@ public:
     std::filesystem::path work() const { return m_folder.path() / "work"; }
 
     // The exit code; what was said goes to out and err. Names are seen from work().
-    int run(const QStringList& arguments) {
-        char name[] = "torvik-convert";
-        char* argv[] = {name, nullptr};
-        int argc = 1;
-        const QCoreApplication application(argc, argv);
+    int run(Arguments arguments) {
         std::ostringstream said;
         std::ostringstream failed;
-        const int code = runConverter(QStringList(name) + arguments, said, failed);
+        arguments.insert(arguments.begin(), "torvik-convert");
+        const int code = runConverter(std::move(arguments), said, failed);
         out = said.str();
         err = failed.str();
         return code;

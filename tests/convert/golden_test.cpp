@@ -19,11 +19,22 @@ std::string replaced(std::string text, const std::string& place, const std::stri
     return text;
 }
 
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        if (!line.empty())
+            lines.push_back(line);
+    return lines;
+}
+
 // Runs the call in a copy of the folder: the copy must then hold what it held, and the programs.
-void expectRun(const fs::path& folder, const QStringList& arguments, int exit,
+void expectRun(const fs::path& folder, const std::vector<std::string>& arguments, int exit,
                const Files& programs) {
-    SCOPED_TRACE("cd " + folder.string() + " && torvik-convert " +
-                 arguments.join(' ').toStdString());
+    std::string call = "cd " + folder.string() + " && torvik-convert";
+    for (const std::string& argument : arguments)
+        call += " " + argument;
+    SCOPED_TRACE(call);
     Conversion conversion;
     fs::copy(folder, conversion.work(),
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);
@@ -60,9 +71,7 @@ TEST(Golden, EachFolderGivesWhatItExpects) {
     for (const auto& entry : fs::directory_iterator(TORVIK_GOLDEN)) {
         Files files = filesOf(entry.path());
         if (files.contains("arguments")) {
-            const auto lines = QString::fromStdString(files["arguments"]);
-            expectRun(entry.path(), lines.split('\n', Qt::SkipEmptyParts),
-                      std::stoi(files.at("exit")), {});
+            expectRun(entry.path(), linesOf(files["arguments"]), std::stoi(files.at("exit")), {});
             ++runs;
             continue;
         }

@@ -6,8 +6,10 @@
 #include "job/pens.h"
 #include "tests/base/temporary_folder.h"
 #include "tests/wizard/workshop_tools.h"
+#include "wizard/digest.h"
 #include "wizard/import_drawing.h"
 #include "wizard/program_folder.h"
+#include "wizard/put_saved_data.h"
 #include "wizard/saved_names.h"
 
 #include <csignal>
