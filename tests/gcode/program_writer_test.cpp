@@ -113,8 +113,8 @@ TEST(WriteGcodes, CutsPaths) {
         {"a start where the tool is said to stand at first needs no move",
          "SP1;PU40000,40000;PD0,0", "", targetMaskor,
          start + "G0 Z2.00;G1 Z-1.00 F100;G1 X0.000 Y0.000 F300;" + end},
-        {"from a safe height below that of rapids the feed starts", line, "safe=0", targetMaskor,
-         "T1;S1000;G0 Z0.00;G0 X0.000 Y0.000;G1 Z-1.00 F100;G1 X10.000 Y0.000 F300;G0 Z0.00;"
+        {"from a safe height at that of rapids the feed starts", line, "safe=2", targetMaskor,
+         "T1;S1000;G0 Z2.00;G0 X0.000 Y0.000;G1 Z-1.00 F100;G1 X10.000 Y0.000 F300;G0 Z2.00;"
          "G0 Z50.00;%;"},
         {"a height of rapids at the pass level leaves nothing to feed down", line, "down=-1",
          targetMaskor, start + "G0 X0.000 Y0.000;G0 Z-1.00;G1 X10.000 Y0.000 F300;" + end},
@@ -165,6 +165,9 @@ TEST(WriteGcodes, DrillsHoles) {
          start + down + "G1 Z-0.75 F100;G4 P0.50;G0 Z2.00;G1 Z-1.00 F100;G4 P0.50;G0 Z2.00;" + end},
         {"milliseconds are computed in double precision", hole, "1/1.dwell=0.0025", targetKestra,
          kestraStart + down + "G1 Z-1.00 F1.67;G4 P2;G0 Z2.00;" + kestraEnd},
+        {"pecks above the height of rapids are not fed to", hole, "down=-0.5 1/1.step=0.25",
+         targetMaskor,
+         start + "G0 X10.000 Y0.000;G0 Z-0.50;G1 Z-0.75 F100;G1 Z-1.00 F100;G0 Z-0.50;" + end},
         {"a hole without depth is gone to", hole, "1/1.depth=0", targetMaskor, start + down + end},
         {"a peck upward never ends", hole, "1/1.step=-1", targetMaskor, start + down,
          "a step of -1 mm below Z 0 never reaches the depth;"},
