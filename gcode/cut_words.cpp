@@ -2,6 +2,7 @@
 #include "gcode/cut_words.h"
 
 #include "base/numbers.h"
+#include "gcode/program_output.h"
 #include "gcode/statement_text.h"
 
 #include <utility>
@@ -23,10 +24,15 @@ bool startsAtEndOf(const Path& path, const Path& before) {
     return isSamePosition(path.sngStartX, path.sngStartY, before.sngEndX, before.sngEndY);
 }
 
+// What stands behind a statement's coordinates.
+std::string tailOf(std::string_view feedWord) {
+    return std::string(feedWord).append(lineEnd);
+}
+
 } // namespace
 
 CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedWord)
-    : m_feedWord(feedWord) {
+    : m_tail(tailOf(feedWord)) {
     constexpr std::size_t usualBytes = 32; // of "G1 X123.456 Y123.456 F600" and some arcs
     m_cuts.reserve(paths.size());
     m_text.reserve(paths.size() * usualBytes);
@@ -43,7 +49,7 @@ CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedW
             path.sngOffsetJ = toSingle(double{path.sngCentreY} - path.sngStartY);
             words.position(" I", path.sngOffsetI).position(" J", path.sngOffsetJ);
         }
-        words.put(feedWord);
+        words.put(m_tail);
         m_cuts.push_back({static_cast<std::uint32_t>(m_text.size()),
                           static_cast<std::uint16_t>(words.text().size()), subscript,
                           before != nullptr && startsAtEndOf(path, *before)});
@@ -53,18 +59,19 @@ CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedW
 }
 
 void CutWords::changeFeed(std::string_view feedWord) {
-    if (feedWord == m_feedWord)
+    const std::string tail = tailOf(feedWord);
+    if (tail == m_tail)
         return;
     const std::string former = std::exchange(m_text, {});
-    m_text.reserve(former.size() + m_cuts.size() * feedWord.size());
+    m_text.reserve(former.size() + m_cuts.size() * tail.size());
     for (Cut& cut : m_cuts) {
-        const std::size_t words = cut.textSize - m_feedWord.size();
+        const std::size_t words = cut.textSize - m_tail.size();
         const auto start = static_cast<std::uint32_t>(m_text.size());
-        m_text.append(former, cut.text, words).append(feedWord);
+        m_text.append(former, cut.text, words).append(tail);
         cut.text = start;
-        cut.textSize = static_cast<std::uint16_t>(words + feedWord.size());
+        cut.textSize = static_cast<std::uint16_t>(words + tail.size());
     }
-    m_feedWord = feedWord;
+    m_tail = tail;
 }
 
 } // namespace torvik

@@ -29,7 +29,7 @@ public:
     void changeFeed(std::string_view feedWord);
 
     const std::vector<Cut>& cuts() const { return m_cuts; }
-    // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ...".
+    // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ..." with its line end.
     std::string_view text(const Cut& cut) const {
         return std::string_view(m_text).substr(cut.text, cut.textSize);
     }
@@ -37,7 +37,7 @@ public:
 private:
     std::vector<Cut> m_cuts;
     std::string m_text;
-    std::string m_feedWord;
+    std::string m_tail; // the feed and the line end
 };
 
 } // namespace torvik

@@ -6,6 +6,8 @@
 #include "base/picture.h"
 #include "job/job.h"
 
+#include <array>
+#include <bit>
 #include <cerrno>
 #include <cstring>
 
@@ -13,7 +15,6 @@ namespace torvik {
 namespace {
 
 constexpr std::size_t bufferBytes = std::size_t{1} << 18;
-constexpr std::string_view lineEndText = "\r\n";
 constexpr std::int16_t lastBlockNumber = 9999;
 
 char* put(char* out, std::string_view text) {
@@ -54,34 +55,47 @@ void FileSink::fail(const char* what) {
 }
 
 char* BlockNumber::put(char* out, std::int16_t number) {
-    char& lastDigit = m_text[m_size < 2 ? 0 : m_size - 2];
-    if (number == m_number + 1 && lastDigit < '9' && m_size > 0) {
-        ++lastDigit;
+    if (number == m_number + 1 && m_number != m_lastOfTen) {
+        m_characters += m_lastDigit;
     } else {
-        m_text[0] = 'N';
-        char* const end = putInteger(m_text.data() + 1, number);
+        std::array<char, maxSize> text{'N'};
+        char* const end = putInteger(text.data() + 1, number);
         *end = ' ';
-        m_size = static_cast<std::size_t>(end + 1 - m_text.data());
+        m_size = static_cast<std::size_t>(end + 1 - text.data());
+        m_characters = 0;
+        for (std::size_t i = 0; i < m_size; ++i)
+            m_characters |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
+        m_lastDigit = std::uint64_t{1} << (8 * (m_size - 2));
+        m_lastOfTen = number - number % 10 + 9;
     }
     m_number = number;
-    std::memcpy(out, m_text.data(), maxSize);
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(out, &m_characters, maxSize);
+    } else {
+        for (std::size_t i = 0; i < maxSize; ++i)
+            out[i] = static_cast<char>(m_characters >> (8 * i));
+    }
     return out + m_size;
 }
 
 ProgramOutput::ProgramOutput(ByteSink& sink) : m_sink(sink), m_buffer(bufferBytes, '\0') {}
 
-void ProgramOutput::WriteLine(std::string_view text, bool lineEnd) {
-    char* out = put(room(text.size() + lineEndText.size()), text);
-    use(lineEnd ? put(out, lineEndText) : out);
+void ProgramOutput::WriteLine(std::string_view text, bool withLineEnd) {
+    char* out = put(room(text.size() + lineEnd.size()), text);
+    use(withLineEnd ? put(out, lineEnd) : out);
 }
 
 void ProgramOutput::CommandLine(Job& job, std::string_view text) {
+    writeBlock(job, text);
+    WriteLine({});
+}
+
+void ProgramOutput::writeBlock(Job& job, std::string_view line) {
     ++job.gintLineNumber;
     if (job.gintLineNumber > lastBlockNumber)
         job.gintLineNumber = 1;
-    char* out = room(BlockNumber::maxSize + text.size() + lineEndText.size());
-    out = put(m_blockNumber.put(out, job.gintLineNumber), text);
-    use(put(out, lineEndText));
+    char* const out = room(BlockNumber::maxSize + line.size());
+    use(put(m_blockNumber.put(out, job.gintLineNumber), line));
 }
 
 void ProgramOutput::flush() {

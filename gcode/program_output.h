@@ -17,6 +17,8 @@ namespace torvik {
 
 struct Job;
 
+inline constexpr std::string_view lineEnd = "\r\n";
+
 // Where the bytes of a program go.
 class ByteSink {
 public:
@@ -61,14 +63,17 @@ private:
 // "N", a block number and a blank as text; the number after the last one is counted up in place.
 class BlockNumber {
 public:
-    // Copies as much as the longest number takes and returns the end of what counts of it.
-    static constexpr std::size_t maxSize = 8;
+    // Writes maxSize bytes and returns the end of those that count.
+    static constexpr std::size_t maxSize = 8; // "N9999 " has six
     char* put(char* out, std::int16_t number);
 
 private:
-    std::array<char, maxSize> m_text{};
+    // The characters in one word, the first in its lowest byte: a program has a number a line.
+    std::uint64_t m_characters = 0;
+    std::uint64_t m_lastDigit = 0; // one, at the place of the last digit
     std::size_t m_size = 0;
-    int m_number = 0;
+    int m_number = -2;
+    int m_lastOfTen = -2; // the number that ends in 9
 };
 
 class ProgramOutput {
@@ -76,10 +81,12 @@ public:
     explicit ProgramOutput(ByteSink& sink);
 
     // The text as it stands (bytes of the program's own encoding), with a line end or without.
-    void WriteLine(std::string_view text, bool lineEnd = true);
+    void WriteLine(std::string_view text, bool withLineEnd = true);
     // The text as a block: "N", the job's next block number (9999 is followed by 1), a blank, the
     // text and a line end.
     void CommandLine(Job& job, std::string_view text);
+    // The same for a text that ends in its line end already.
+    void writeBlock(Job& job, std::string_view line);
     // Passes what is gathered on. Whatever is not flushed is lost with the object. After a failed
     // write there is nothing more to pass on: the failure was raised once.
     void flush();

@@ -91,6 +91,13 @@ private:
         m_y = y;
     }
 
+    // The same at the safe height.
+    void rapidAbove(float x, float y) {
+        if (m_z != m_job.gsngSafeHeight)
+            rapidToHeight(m_job.gsngSafeHeight);
+        rapidTo(x, y);
+    }
+
     bool isAt(float x, float y) const { return isSamePosition(x, y, m_x, m_y); }
 
     void setSpindle(const Settings& settings) {
@@ -152,22 +159,23 @@ private:
     }
 
     void cutPass(const CutWords& words, float z, float feedDown) {
-        bool first = true;
-        for (const CutWords::Cut& cut : words.cuts()) {
-            const Path& path = m_job.gudtPaths[cut.path];
-            if (first ? !isAt(path.sngStartX, path.sngStartY) : !cut.connected) {
-                if (m_z != m_job.gsngSafeHeight)
-                    rapidToHeight(m_job.gsngSafeHeight);
-                rapidTo(path.sngStartX, path.sngStartY);
+        const auto& cuts = words.cuts();
+        for (const CutWords::Cut& cut : cuts) {
+            if (!cut.connected) {
+                const Path& path = m_job.gudtPaths[cut.path];
+                if (&cut != &cuts.front() || !isAt(path.sngStartX, path.sngStartY))
+                    rapidAbove(path.sngStartX, path.sngStartY);
             }
-            first = false;
             if (m_z > m_job.gsngRapidDownTo)
                 rapidToHeight(m_job.gsngRapidDownTo);
             if (m_z > z)
                 feedToHeight(z, feedDown);
-            command(words.text(cut));
-            m_x = path.sngEndX;
-            m_y = path.sngEndY;
+            m_output.writeBlock(m_job, words.text(cut));
+        }
+        if (!cuts.empty()) {
+            const Path& last = m_job.gudtPaths[cuts.back().path];
+            m_x = last.sngEndX;
+            m_y = last.sngEndY;
         }
     }
 
