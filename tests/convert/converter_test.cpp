@@ -80,6 +80,7 @@ TEST_F(Converter, RefusesMistakesBeforeAnythingIsWritten) {
         {"a.plt", "--target", "wincam", "--number", "0"},
         {"a.plt", "--target", "wincam", "--number", "1e3"},
         {"a.plt", "--target", "kestra", "--fast"},
+        {"a.plt", "--target"},
         {"a.plt"},
         {"--target", "kestra"},
         {},

@@ -217,18 +217,23 @@ TEST(WriteGcodes, GoesDownInPasses) {
          "-0.40@300 -0.80@300 -1.20@300 "},
         {"levels are singles: three steps of 0.1 are 0.3", "1.depth=0.3 1.step=0.1",
          "-0.10@300 -0.20@300 -0.30@400 "},
+        {"so is the roughing floor: a step of 0.9 reaches 1 - 0.1", "1.step=0.9 1.final=0.1",
+         "-0.90@300 -1.00@400 "},
         {"a negative depth has no pass", "1.depth=-1 1.step=0.5", ""},
     };
     for (const auto& row : rows) {
         JobToWrite work("SP1;PD0,0");
         work.change("1.finalFeed=400");
         work.change(row.changes);
-        const std::string body = work.body(targetMaskor);
+        std::istringstream statements(work.body(targetMaskor));
         std::string passes = work.reports;
-        for (auto at = body.find("G1 Z"); at != body.npos; at = body.find("G1 Z", at + 1)) {
-            const auto feed = body.find(" F", body.find("G1 X", at)) + 2;
-            passes += body.substr(at + 4, body.find(' ', at + 3) - at - 4) + "@" +
-                      body.substr(feed, body.find(';', feed) - feed) + " ";
+        std::string z;
+        for (std::string statement; std::getline(statements, statement, ';');) {
+            const std::string words = statement.substr(0, 4);
+            if (words == "G1 Z")
+                z = statement.substr(4, statement.find(' ', 4) - 4);
+            else if (words == "G1 X")
+                passes += z + "@" + statement.substr(statement.find('F') + 1) + " ";
         }
         EXPECT_EQ(passes, row.passes) << row.says;
     }

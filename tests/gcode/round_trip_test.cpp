@@ -80,7 +80,7 @@ class RoundTrip : public testing::TestWithParam<std::int16_t> {};
 
 TEST_P(RoundTrip, GivesThePathsOfEachPass) {
     JobToWrite work(wanderingDrawing());
-    work.change("2.depth=3 2.step=1.25 2.final=0.25 5/2.tool=2");
+    work.change("2.depth=3 2.step=1.25 2.final=0.25 2.finalFeed=1800 5/2.tool=2");
     std::vector<Move> cuts;
     std::vector<Move> bottoms;
     for (const Move& move : readMoves(work.body(GetParam()))) {
@@ -96,6 +96,7 @@ TEST_P(RoundTrip, GivesThePathsOfEachPass) {
     ASSERT_EQ(cuts.size(), 90 * std::size(levels));
     for (std::size_t i = 0; i < cuts.size(); ++i) {
         EXPECT_EQ(cuts[i].z, levels[i / 90]);
+        EXPECT_EQ(cuts[i].words.at('F') / cuts[0].words.at('F'), i / 90 == 3 ? 6 : 1);
         expectPath(cuts[i], work.job.gudtPaths[static_cast<long>(i % 90) + 1]);
     }
     ASSERT_EQ(bottoms.size(), 20U);
