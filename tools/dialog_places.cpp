@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -11,12 +12,16 @@ namespace torvik {
 
 void placeOnScreen(QDialog& dialog, const QPoint& topLeft) {
     dialog.adjustSize();
+    // The system's frame is not known before the dialog is shown.
+    const int title = dialog.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &dialog);
+    const int border = dialog.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const QSize whole = dialog.size() + QSize(2 * border, title + border);
     const QRect area = dialog.screen()->availableGeometry();
     const auto within = [](int wanted, int low, int high) {
         return std::max(std::min(wanted, high), low);
     };
-    dialog.move(within(topLeft.x(), area.left(), area.right() + 1 - dialog.width()),
-                within(topLeft.y(), area.top(), area.bottom() + 1 - dialog.height()));
+    dialog.move(within(topLeft.x(), area.left(), area.right() + 1 - whole.width()),
+                within(topLeft.y(), area.top(), area.bottom() + 1 - whole.height()));
 }
 
 void centreOverMainWindow(QDialog& dialog) {

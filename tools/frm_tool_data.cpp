@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -89,6 +90,7 @@ QLabel* FrmToolData::addRow(QGridLayout& grid, int row, const char* name, const 
 void FrmToolData::buildButtons(QGridLayout& grid) {
     m_types = makeDialogButton("cmdToolType", tr("Tool T&ypes…"), tr("Add or remove tool types"));
     m_types->setAutoDefault(false);
+    m_types->setMinimumWidth(m_types->sizeHint().width() + dialogMargin);
     m_ok = makeDialogButton("cmdOk", tr("OK"), tr("Take the tool over (Enter)"));
     m_ok->setDefault(true);
     auto* const cancel = makeDialogButton("cmdCancel", tr("Cancel"), tr("Change nothing (Escape)"));

@@ -11,7 +11,7 @@
 #include "tools/type_lists.h"
 
 #include <QCloseEvent>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -86,6 +86,7 @@ QListWidget* FrmToolType::makeList(const char* name, const QString& caption, QHB
     auto* const label = new QLabel(caption);
     label->setBuddy(list);
     auto* const column = new QVBoxLayout;
+    column->setSpacing(dialogMargin / 3);
     column->addWidget(label);
     column->addWidget(list, 1);
     row.addLayout(column, 1);

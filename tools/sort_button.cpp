@@ -67,8 +67,8 @@ void SortButton::paintEvent(QPaintEvent* /*event*/) {
         return;
     option.sortIndicator =
         isDescending() ? QStyleOptionHeader::SortDown : QStyleOptionHeader::SortUp;
-    constexpr int arrowWidth = 7; // pixels, in the room of the header text's last blanks
-    option.rect = QRect(width() - arrowWidth - 2, 0, arrowWidth, height());
+    constexpr QSize arrow(9, 7); // pixels, above the caption
+    option.rect = QRect(QPoint((width() - arrow.width()) / 2, 0), arrow);
     painter.drawPrimitive(QStyle::PE_IndicatorHeaderArrow, option);
 }
 

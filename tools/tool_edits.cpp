@@ -21,13 +21,13 @@ void checkWholeList(const ToolList& tools) {
 } // namespace
 
 std::int16_t loadedToolCount(const ToolList& tools) {
-    return toInt16(
-        static_cast<double>(std::min<long>(tools.gintToolCount, tools.gudtTools.count())));
+    const long loaded = std::min<long>(tools.gintToolCount, tools.gudtTools.count());
+    return static_cast<std::int16_t>(std::max(loaded, 0L));
 }
 
 void addTool(ToolList& tools, Tool tool) {
     checkWholeList(tools);
-    const std::int16_t place = toInt16(tools.gintToolCount + 1);
+    const std::int16_t place = toInt16(loadedToolCount(tools) + 1);
     tools.gudtTools.resize(place);
     tools.gudtTools[place] = std::move(tool);
     tools.gintToolCount = place;
@@ -47,13 +47,13 @@ std::string deletionQuestion(const Tool& tool) {
 }
 
 bool isTypeInUse(const ToolList& tools, std::string_view type) {
-    const auto last = tools.gudtTools.begin() + std::max<std::int16_t>(loadedToolCount(tools), 0);
+    const auto last = tools.gudtTools.begin() + loadedToolCount(tools);
     return std::any_of(tools.gudtTools.begin(), last,
                        [&](const Tool& tool) { return tool.strType == type; });
 }
 
 void addUserType(ToolList& tools, std::string type) {
-    const std::int16_t place = toInt16(tools.gintUserToolTypeCount + 1);
+    const std::int16_t place = toInt16(std::max<int>(tools.gintUserToolTypeCount, 0) + 1);
     tools.gstrUserToolTypes.resize(place);
     tools.gstrUserToolTypes[place] = std::move(type);
     tools.gintUserToolTypeCount = place;

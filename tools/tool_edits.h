@@ -11,7 +11,8 @@
 
 namespace torvik {
 
-// How many places can be read: fewer than gintToolCount where the loading broke off.
+// How many places can be read: fewer than gintToolCount where the loading broke off, none for a
+// damaged count below 0.
 std::int16_t loadedToolCount(const ToolList& tools);
 
 // Puts the tool behind the last one. Raises Overflow for more than 32767 tools and InvalidCall for

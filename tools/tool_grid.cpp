@@ -7,7 +7,8 @@
 #include "tools/tool_edits.h"
 
 #include <QHeaderView>
-#include <QScrollBar>
+#include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace torvik {
 namespace {
@@ -28,6 +29,28 @@ public:
     }
 };
 
+// Draws a text over the whole width of its cell, without the margins that the library keeps.
+class CentredTexts : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QString text =
+            cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, cell.rect.width());
+        cell.text.clear();
+        const QStyle& style = *cell.widget->style();
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        const bool active = cell.state & QStyle::State_Active;
+        cell.palette.setCurrentColorGroup(active ? QPalette::Active : QPalette::Inactive);
+        style.drawItemText(painter, cell.rect, Qt::AlignCenter, cell.palette, true, text,
+                           cell.state & QStyle::State_Selected ? QPalette::HighlightedText
+                                                               : QPalette::Text);
+    }
+};
+
 } // namespace
 
 ToolGrid::ToolGrid(QWidget* parent) : QTableWidget(shownRows, shownColumns + 1, parent) {
@@ -39,8 +62,8 @@ ToolGrid::ToolGrid(QWidget* parent) : QTableWidget(shownRows, shownColumns + 1, 
     setTabKeyNavigation(false);
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setItemDelegate(new CentredTexts(this));
     setFrameStyle(QFrame::Box | QFrame::Sunken);
-    setLineWidth(1);
     setMidLineWidth(1); // a border of three pixels
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -85,6 +108,7 @@ int ToolGrid::appendTool(const QString& number, const Tool& tool, std::int16_t p
 void ToolGrid::setTool(int row, const QString& number, const Tool& tool) {
     item(row, columnNumber)->setText(number);
     item(row, columnType)->setText(QString::fromStdString(tool.strType));
+    item(row, columnType)->setToolTip(item(row, columnType)->text()); // it may be too long to show
     item(row, columnDiameter)->setText(QString::fromStdString(formatFixed(tool.sngDiameter, 3)));
 }
 
