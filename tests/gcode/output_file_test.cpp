@@ -91,9 +91,7 @@ TEST(ProposedFileName, ReplacesThreeCharacters) {
     } rows[] = {{"/jobs/gear.plt", targetMaskor, "gear.mxc"},
                 {"C:\\jobs\\gear.plt", targetKestra, "gear.iso"},
                 {"gear.hpgl", targetMaskor, "gear.hmxc"},
-                {"ab", targetKestra, "iso"},
-                {"gear.plt", targetWinCam, "%MPF7"},
-                {"gear.plt", targetWinNc, "oprg7"}};
+                {"ab", targetKestra, "iso"}};
     for (const auto& row : rows)
         EXPECT_EQ(proposedFileName(dialectFor(row.target), row.drawing, 7), row.name);
 }
