@@ -5,7 +5,8 @@ set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 
 if command -v ccache >/dev/null; then
-  export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  # What one clone has compiled serves the next one too.
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 fi
 
 # Commands of the build that someone is watching show their progress, the others nothing.
@@ -29,15 +30,16 @@ quietly() {
   fi
 }
 
-# build PRESET [OPTIONS OF CONFIGURING...]
+# build PRESET [TARGETS...]
 build() {
-  local preset=$1
+  local preset=$1 command
   shift
-  quietly "Configuring build/$preset" cmake --preset "$preset" "$@"
+  command=(cmake --build --preset "$preset" ${1:+--target "$@"})
+  quietly "Configuring build/$preset" cmake --preset "$preset"
   if [[ $watched ]]; then
     say "Building build/$preset"
-    cmake --build --preset "$preset"
+    "${command[@]}"
   else
-    quietly "Building build/$preset" cmake --build --preset "$preset"
+    quietly "Building build/$preset" "${command[@]}"
   fi
 }
