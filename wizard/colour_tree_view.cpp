@@ -4,9 +4,19 @@
 #include "job/job.h"
 #include "wizard/pen_pictures.h"
 
-#include <QHeaderView>
+#include <algorithm>
 
 namespace torvik {
+namespace {
+
+bool haveSameKeys(const std::vector<ColourNode>& a, const std::vector<ColourNode>& b) {
+    return std::ranges::equal(a, b, [](const ColourNode& one, const ColourNode& other) {
+        return one.key == other.key && one.text == other.text &&
+               haveSameKeys(one.children, other.children);
+    });
+}
+
+} // namespace
 
 ColourTreeView::ColourTreeView(QWidget* parent) : QTreeWidget(parent) {
     setObjectName(QStringLiteral("tvwColours"));
@@ -23,35 +33,55 @@ ColourTreeView::ColourTreeView(QWidget* parent) : QTreeWidget(parent) {
 
 void ColourTreeView::showTree(const Job& job) {
     setUpdatesEnabled(false);
-    clear();
-    for (const ColourNode& node : job.gudtColourTree) {
-        QTreeWidgetItem* const item = itemFor(node, job);
-        addTopLevelItem(item);
-        for (const ColourNode& child : node.children) {
-            item->addChild(itemFor(child, job));
-            if (child.bold)
-                scrollToItem(item->child(item->childCount() - 1));
-        }
-        item->setExpanded(node.expanded);
-        if (node.bold)
-            scrollToItem(item);
+    const std::vector<ColourNode>& tree = job.gudtColourTree;
+    const bool sameNodes = haveSameKeys(tree, m_shown);
+    if (!sameNodes)
+        buildNodes(tree);
+    QTreeWidgetItem* current = nullptr;
+    for (std::size_t i = 0; i < tree.size(); ++i) {
+        QTreeWidgetItem* const item = topLevelItem(static_cast<int>(i));
+        const auto update = [&](QTreeWidgetItem* of, const ColourNode& node,
+                                const ColourNode& shown) {
+            if (!sameNodes || node.image != shown.image || node.bold != shown.bold)
+                decorate(*of, node, job);
+            if (node.bold)
+                current = of;
+        };
+        update(item, tree[i], sameNodes ? m_shown[i] : tree[i]);
+        for (std::size_t k = 0; k < tree[i].children.size(); ++k)
+            update(item->child(static_cast<int>(k)), tree[i].children[k],
+                   sameNodes ? m_shown[i].children[k] : tree[i].children[k]);
+        item->setExpanded(tree[i].expanded);
     }
+    m_shown = tree;
+    if (current != nullptr)
+        scrollToItem(current);
     setUpdatesEnabled(true);
 }
 
-QTreeWidgetItem* ColourTreeView::itemFor(const ColourNode& node, const Job& job) const {
-    auto* const item = new QTreeWidgetItem;
+void ColourTreeView::buildNodes(const std::vector<ColourNode>& tree) {
+    clear();
+    for (const ColourNode& node : tree) {
+        auto* const item = new QTreeWidgetItem(this);
+        for (std::size_t k = 0; k < node.children.size(); ++k)
+            new QTreeWidgetItem(item);
+    }
+}
+
+void ColourTreeView::decorate(QTreeWidgetItem& item, const ColourNode& node, const Job& job) {
     const QString text = QString::fromStdString(node.text);
     const QString picture = penPictureText(node.image);
-    item->setText(0, text);
-    item->setIcon(0, penPicture(node.image, job));
-    item->setToolTip(0, text + QStringLiteral(": ") + picture);
-    item->setData(0, Qt::AccessibleTextRole, text + QStringLiteral(", ") + picture);
-    item->setData(0, Qt::UserRole, QString::fromStdString(node.key));
+    QIcon& icon = m_pictures[node.image];
+    if (icon.isNull())
+        icon = penPicture(node.image, job);
+    item.setText(0, text);
+    item.setIcon(0, icon);
+    item.setToolTip(0, text + QStringLiteral(": ") + picture);
+    item.setData(0, Qt::AccessibleTextRole, text + QStringLiteral(", ") + picture);
+    item.setData(0, Qt::UserRole, QString::fromStdString(node.key));
     QFont font = this->font();
     font.setBold(node.bold);
-    item->setFont(0, font);
-    return item;
+    item.setFont(0, font);
 }
 
 } // namespace torvik

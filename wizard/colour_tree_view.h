@@ -3,12 +3,16 @@
 // never jumps.
 #pragma once
 
+#include "job/colour_tree.h"
+
+#include <QIcon>
 #include <QTreeWidget>
+
+#include <map>
 
 namespace torvik {
 
 struct Job;
-struct ColourNode;
 
 class ColourTreeView : public QTreeWidget {
     Q_OBJECT
@@ -20,7 +24,11 @@ public:
     void showTree(const Job& job);
 
 private:
-    QTreeWidgetItem* itemFor(const ColourNode& node, const Job& job) const;
+    void buildNodes(const std::vector<ColourNode>& tree);
+    void decorate(QTreeWidgetItem& item, const ColourNode& node, const Job& job);
+
+    std::vector<ColourNode> m_shown; // only what differs from it is done anew
+    std::map<std::int16_t, QIcon> m_pictures;
 };
 
 } // namespace torvik

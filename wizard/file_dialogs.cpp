@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 
 namespace torvik {
 namespace {
@@ -23,10 +22,7 @@ struct SaveTarget {
 
 SaveTarget saveTarget(std::int16_t target) {
     const Dialect& dialect = dialectFor(target == targetMaskor ? targetMaskor : targetKestra);
-    const auto text = [](std::string_view view) {
-        return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-    };
-    return {text(dialect.name), text(dialect.extension),
+    return {QString::fromUtf8(dialect.name), QString::fromUtf8(dialect.extension),
             target == targetMaskor ? maskorFolderSetting : kestraFolderSetting};
 }
 
@@ -41,9 +37,16 @@ QString startFolder(const Registry& registry, const char* setting) {
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
-// The filter takes every letter case.
+// The filter takes every letter case, also where the system's own dialog tells them apart. What the
+// user reads of it is "KIND files (*.EXTENSION)".
 QString filterText(const QString& kind, const QString& extension) {
-    return QStringLiteral("%1 files (*.%2 *.%3)").arg(kind, extension, extension.toUpper());
+    QString anyCase;
+    for (const QChar letter : extension)
+        anyCase += QStringLiteral("[%1%2]").arg(letter.toLower(), letter.toUpper());
+#ifdef Q_OS_WIN
+    anyCase = extension;
+#endif
+    return QStringLiteral("%1 files (*.%2) (*.%3)").arg(kind, extension, anyCase);
 }
 
 void rememberFolder(Registry& registry, const char* setting, const QString& folder) {
@@ -62,20 +65,22 @@ std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
                        filterText(QStringLiteral("HPGL"), QStringLiteral("plt")));
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     const bool chosen = dialog.exec() == QDialog::Accepted;
     rememberFolder(registry, plotFolderSetting, dialog.directory().absolutePath());
     return chosen ? pathFromUtf8(chosenFile(dialog).toStdString()) : std::filesystem::path();
 }
 
-std::filesystem::path strGetOutputFile(Registry& registry, const std::string& proposedName,
-                                       std::int16_t target, const std::filesystem::path& drawing,
-                                       QWidget* parent) {
+std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messages,
+                                       const std::string& proposedName, std::int16_t target,
+                                       const std::filesystem::path& drawing, QWidget* parent) {
     const SaveTarget kind = saveTarget(target);
     QFileDialog dialog(parent, QStringLiteral("Select the destination %1 file").arg(kind.name),
                        startFolder(registry, kind.folderSetting),
                        filterText(kind.name, kind.extension));
     dialog.setObjectName(QStringLiteral("dlgSave"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setDefaultSuffix(kind.extension);
     dialog.selectFile(QString::fromStdString(proposedName));
     while (dialog.exec() == QDialog::Accepted) {
@@ -83,9 +88,9 @@ std::filesystem::path strGetOutputFile(Registry& registry, const std::string& pr
         const auto path = pathFromUtf8(name.toStdString());
         std::error_code error;
         if (std::filesystem::equivalent(path, drawing, error)) {
-            QMessageBox::warning(parent, QString::fromUtf8(usualTitle),
-                                 QStringLiteral("This is the drawing itself. Please choose another "
-                                                "name for the program."));
+            messages.intStdMsgBox(
+                "This is the drawing itself.\nPlease choose another name for the program.",
+                styleExclamation, usualTitle);
             continue;
         }
         rememberFolder(registry, kind.folderSetting,

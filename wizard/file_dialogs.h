@@ -12,6 +12,7 @@ class QWidget;
 namespace torvik {
 
 class Registry;
+class StdMessageBox;
 
 // Folder settings of the registry.
 inline constexpr const char* plotFolderSetting = "PLT File Path";
@@ -23,8 +24,8 @@ std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent);
 
 // The Save dialog of the target, which adds the extension before it asks about overwriting and
 // refuses the drawing itself. An empty path when the user cancels.
-std::filesystem::path strGetOutputFile(Registry& registry, const std::string& proposedName,
-                                       std::int16_t target, const std::filesystem::path& drawing,
-                                       QWidget* parent);
+std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messages,
+                                       const std::string& proposedName, std::int16_t target,
+                                       const std::filesystem::path& drawing, QWidget* parent);
 
 } // namespace torvik

@@ -22,6 +22,7 @@ QLabel* makePageTitle(const QString& text) {
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,
                    const QString& unit, int helpContext) {
     auto* const label = new QLabel(caption);
+    label->setObjectName(QStringLiteral("lbl") + box->objectName().mid(3)); // lblHead0, txtHead0
     label->setBuddy(box);
     QString plain = caption;
     plain.remove(u'&');

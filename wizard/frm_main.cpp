@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The window itself: layout, menu, keys and closing. The steps are in frm_main_steps.cpp, opening
-// and importing in frm_main_open.cpp.
+// The window itself and what its pages ask of it. Menu, keys and closing are in frm_main_menu.cpp,
+// the steps in frm_main_steps.cpp, opening and importing in frm_main_open.cpp.
 #include "wizard/frm_main.h"
 
-#include "base/files.h"
 #include "preview/preview_widget.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/globals_page.h"
@@ -11,21 +10,17 @@
 #include "wizard/order_page.h"
 #include "wizard/output_page.h"
 #include "wizard/pen_page.h"
-#include "wizard/recent_drawings.h"
 #include "wizard/step_list.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QStatusBar>
 
 namespace torvik {
 namespace {
@@ -37,14 +32,21 @@ QPushButton* button(const QString& name, const QString& text, const QString& hel
     return result;
 }
 
-// A page that scrolls where the window is lower than its form.
+// A page that scrolls where the window is lower than its form. The control with the focus is never
+// out of sight.
 QScrollArea* scrolling(QWidget* page) {
     auto* const area = new QScrollArea;
     area->setWidget(page);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setMinimumWidth(page->minimumSizeHint().width());
+    area->setMinimumWidth(page->minimumSizeHint().width() +
+                          area->verticalScrollBar()->sizeHint().width());
+    QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
+        if (now != nullptr && area->widget()->isAncestorOf(now))
+            area->ensureWidgetVisible(now);
+    });
     return area;
 }
 
@@ -67,10 +69,9 @@ FrmMain::FrmMain(Workshop& workshop, FrameServices services)
     m_toolSelect.setSingleShot(true);
     connect(&m_toolSelect, &QTimer::timeout, this, &FrmMain::selectTool);
 
-    // The form previews the keys, whichever control has the focus.
     qApp->installEventFilter(this);
     showStep(1);
-    resize(1180, 760);
+    resize(QSize(1180, 760).boundedTo(screen()->availableSize()));
 }
 
 void FrmMain::buildWindow() {
@@ -80,6 +81,7 @@ void FrmMain::buildWindow() {
     m_header = new HeaderPage(m_workshop);
     m_output = new OutputPage(m_workshop);
     m_pages = new QStackedWidget;
+    m_pages->setObjectName(QStringLiteral("picPages"));
     m_pages->addWidget(buildStartPage());
     for (QWidget* const page :
          std::initializer_list<QWidget*>{m_globals, m_pens, m_order, m_header, m_output})
@@ -103,7 +105,6 @@ void FrmMain::buildWindow() {
     layout->addWidget(buildButtons());
     setCentralWidget(content);
     setMinimumSize(minimumSizeHint().expandedTo({960, 620}));
-    statusBar()->setSizeGripEnabled(true);
 }
 
 QWidget* FrmMain::buildSide() {
@@ -163,120 +164,6 @@ QWidget* FrmMain::buildButtons() {
     layout->addWidget(m_next);
     layout->addWidget(m_start);
     return row;
-}
-
-void FrmMain::buildMenu() {
-    QMenu* const file = menuBar()->addMenu(tr("&File"));
-    file->setObjectName(QStringLiteral("mnuFile"));
-    auto* const open = file->addAction(tr("&Open…"), QKeySequence::Open, this,
-                                       [this] { later([this] { ReadFile(); }); });
-    open->setObjectName(QStringLiteral("mnuFileOpen"));
-    m_recent = file->addMenu(tr("&Recent drawings"));
-    m_recent->setObjectName(QStringLiteral("mnuFileRecent"));
-    m_recent->setToolTipsVisible(true);
-    connect(file, &QMenu::aboutToShow, this, &FrmMain::fillRecentMenu);
-    file->addSeparator();
-    auto* const exit = file->addAction(tr("E&xit"), QKeySequence(tr("Ctrl+Q")), this,
-                                       [this] { later([this] { close(); }); });
-    exit->setObjectName(QStringLiteral("mnuFileExit"));
-
-    QMenu* const view = menuBar()->addMenu(tr("&View"));
-    view->setObjectName(QStringLiteral("mnuView"));
-    QAction* const tree = view->addAction(tr("&Pens of the drawing"), m_tree, &QWidget::setVisible);
-    tree->setObjectName(QStringLiteral("mnuViewTree"));
-    tree->setCheckable(true);
-    tree->setChecked(true);
-    QAction* const whole =
-        view->addAction(tr("&Full screen"), QKeySequence(Qt::Key_F11), this,
-                        [this](bool on) { on ? showFullScreen() : showNormal(); });
-    whole->setObjectName(QStringLiteral("mnuViewFullScreen"));
-    whole->setCheckable(true);
-
-    QMenu* const help = menuBar()->addMenu(tr("&Help"));
-    help->setObjectName(QStringLiteral("mnuHelp"));
-    auto* const contents = help->addAction(tr("&Contents"), QKeySequence(Qt::Key_F1), this,
-                                           [this] { showHelpFor(QApplication::focusWidget()); });
-    contents->setObjectName(QStringLiteral("mnuHelpContents"));
-    auto* const about = help->addAction(tr("&About Torvik"), this,
-                                        [this] { later([this] { m_services.showAbout(); }); });
-    about->setObjectName(QStringLiteral("mnuHelpAbout"));
-}
-
-void FrmMain::fillRecentMenu() {
-    m_recent->clear();
-    const QStringList names = recentDrawings();
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        QAction* const action = m_recent->addAction(
-            tr("&%1  %2").arg(i + 1).arg(QFileInfo(names[i]).fileName()), this,
-            [this, name = names[i]] {
-                later([this, name] { ReadFile(pathFromUtf8(name.toStdString())); });
-            });
-        action->setToolTip(names[i]);
-    }
-    m_recent->setEnabled(!names.isEmpty());
-}
-
-void FrmMain::showHelpFor(const QWidget* control) {
-    for (; control != nullptr; control = control->parentWidget()) {
-        const int context = control->property("helpContext").toInt();
-        if (context > 0) {
-            m_services.showHelp(context);
-            return;
-        }
-    }
-    m_services.showHelp(m_workshop.job.gintWizardStep);
-}
-
-bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || !isActiveWindow() ||
-        QApplication::activeModalWidget() != nullptr ||
-        QApplication::activePopupWidget() != nullptr || watched != QApplication::focusWidget())
-        return QMainWindow::eventFilter(watched, event);
-    constexpr int keyCodeUp = 38;
-    constexpr int keyCodeDown = 40;
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Up:
-        return m_order->KeyCheck(keyCodeUp);
-    case Qt::Key_Down:
-        return m_order->KeyCheck(keyCodeDown);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (auto* const focused = qobject_cast<QPushButton*>(watched)) {
-            focused->click();
-            return true;
-        }
-        pressForward();
-        return true;
-    default:
-        break;
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void FrmMain::pressForward() {
-    QPushButton* const forward = m_start->isVisible() ? m_start : m_next;
-    if (forward->isVisible() && forward->isEnabled())
-        forward->click();
-}
-
-void FrmMain::closeEvent(QCloseEvent* event) {
-    if (m_closing || CheckClose())
-        event->accept();
-    else
-        event->ignore();
-}
-
-bool FrmMain::CheckClose() {
-    if (m_workshop.job.gblnUnsaved &&
-        m_workshop.messages.intStdMsgBox("Are you sure you want to close without saving\n"
-                                         "the current file as G-codes?",
-                                         styleQuestion, "Exit from Torvik") != buttonYes)
-        return false;
-    m_closing = true;
-    m_flash.stop();
-    m_toolSelect.stop();
-    m_services.Shutdown();
-    return true;
 }
 
 void FrmMain::bringToFront() {

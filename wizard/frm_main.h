@@ -8,11 +8,13 @@
 #include "wizard/wizard_host.h"
 #include "wizard/workshop.h"
 
+#include <QApplication>
 #include <QMainWindow>
 #include <QTimer>
 
 #include <filesystem>
 
+class QKeyEvent;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -28,6 +30,7 @@ class OutputPage;
 class PenPage;
 class PreviewWidget;
 class StepList;
+class ToolsOfGroups;
 
 class FrmMain : public QMainWindow, public WizardHost {
     Q_OBJECT
@@ -46,6 +49,8 @@ public:
     bool CheckClose();
     // Restores and raises the window for a second start of the program.
     void bringToFront();
+    // Opens the topic of the control or of what it stands in; else that of the step.
+    void showHelpFor(const QWidget* control);
 
     void setNextEnabled(bool enabled) override;
     void updateTree() override;
@@ -62,6 +67,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    // The form previews the keys, whichever control has the focus.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -86,13 +92,18 @@ private:
     void writeOutput();
     // tmrToolSelect has run out: the tool selection, then PenPage::ToolSelection.
     void selectTool();
+    void warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen);
     void showStep(std::int16_t step);
+    bool previewKey(QKeyEvent& event, QWidget& focused);
     void pressForward();
-    void showHelpFor(const QWidget* control);
-    // Runs the work when the running event has ended: a dialog never opens inside one.
+    // Runs the work when the running event has ended: a dialog never opens inside one. What is
+    // asked for while a dialog waits already (a second click, a drop) is passed over.
     template <typename Work>
     void later(Work work) {
-        QTimer::singleShot(0, this, std::move(work));
+        QTimer::singleShot(0, this, [work = std::move(work)] {
+            if (QApplication::activeModalWidget() == nullptr)
+                work();
+        });
     }
 
     Workshop& m_workshop;

@@ -55,8 +55,10 @@ bool FrmMain::agreesToOpen() {
 
 void FrmMain::importFrom(const std::filesystem::path& drawing) {
     Job& job = m_workshop.job;
+    const auto fullPath = std::filesystem::absolute(drawing).make_preferred();
     m_flash.stop();
-    const auto fullPath = std::filesystem::absolute(drawing);
+    setWindowTitle(tr("Torvik - importing from HPGL file %1")
+                       .arg(QString::fromStdString(utf8FromPath(fullPath))));
     const ImportResult result =
         importDrawing(job, fullPath, m_workshop.tools, savedSettingsFolder(), m_workshop.logger);
     if (!result.imported) {
@@ -70,16 +72,13 @@ void FrmMain::importFrom(const std::filesystem::path& drawing) {
 }
 
 void FrmMain::layOutImported() {
-    const Job& job = m_workshop.job;
-    setWindowTitle(
-        tr("Torvik - importing from HPGL file %1").arg(QString::fromStdString(job.gstrPlotFile)));
     showStep(2);
     updateTree();
     m_preview->GetScale();
     PlotLines();
     m_globals->RestoreGlobals();
     m_globals->enter();
-    if (job.gintPathCount == 0)
+    if (m_workshop.job.gintPathCount == 0)
         warnOfEmptyDrawing();
 }
 
@@ -107,6 +106,8 @@ void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
 
 void FrmMain::dropEvent(QDropEvent* event) {
     const QString name = draggedDrawing(*event->mimeData());
+    if (name.isEmpty())
+        return;
     event->acceptProposedAction();
     later([this, name] { ReadFile(pathFromUtf8(name.toStdString())); });
 }

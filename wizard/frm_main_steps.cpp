@@ -169,18 +169,24 @@ void FrmMain::selectTool() {
         dialog.setToolTitle(m_pens->strToolTitle());
         dialog.placeBeside(*m_pens);
         dialog.exec();
-        if (dialog.hasDeleted()) {
-            std::string text;
-            for (const std::string& group : before.changedSince(m_workshop.job, m_workshop.tools))
-                text += "\n" + group;
-            if (!text.empty())
-                m_workshop.messages.intStdMsgBox("After the deletion these have another tool, or "
-                                                 "none. Please check them:" +
-                                                     text,
-                                                 styleExclamation, usualTitle);
-        }
-        m_pens->ToolSelection(dialog.chosenPosition());
+        const std::int16_t chosen = dialog.chosenPosition();
+        if (dialog.hasDeleted())
+            warnOfToolChanges(before, chosen);
+        m_pens->ToolSelection(chosen);
     });
+}
+
+void FrmMain::warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen) {
+    // The group on show gets the tool that was just chosen.
+    const std::int16_t passedOver = chosen > 0 ? m_workshop.job.gintCurrentSettings : 0;
+    std::string text;
+    for (const std::string& group :
+         before.changedSince(m_workshop.job, m_workshop.tools, passedOver))
+        text += "\n" + group;
+    if (!text.empty())
+        m_workshop.messages.intStdMsgBox(
+            "After the deletion these have another tool, or none. Please check them:" + text,
+            styleExclamation, usualTitle);
 }
 
 void FrmMain::showStep(std::int16_t step) {
@@ -194,9 +200,11 @@ void FrmMain::showStep(std::int16_t step) {
     m_next->setToolTip(step == 6 ? tr("Write the program (Enter)")
                                  : tr("To the next page (Enter)"));
     m_importedLabel->setVisible(step > 1);
-    // Steps 2 and 3 set cmdNext by their own rules.
-    setNextEnabled(true);
-    if (step == 6)
+    // Steps 2 and 3 enable cmdNext by their own rules.
+    setNextEnabled(step != 2 && step != 3);
+    if (step == 1)
+        m_start->setFocus();
+    else if (step == 6)
         m_output->enter();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/frm_menu.h"
 
+#include "tools/dialog_places.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -42,11 +44,15 @@ FrmMenu::FrmMenu(const QString& writtenFile, QWidget* parent) : QDialog(parent) 
         auto* const button = new QPushButton(QString::fromUtf8(choice.text));
         button->setObjectName(QString::fromUtf8(choice.name));
         connect(button, &QPushButton::clicked, this, [this, choice] {
-            m_result = QString::fromUtf8(choice.word);
+            setProperty(tagProperty, QString::fromUtf8(choice.word));
             accept();
         });
         layout->addWidget(button);
     }
+}
+
+std::string FrmMenu::tag() const {
+    return property(tagProperty).toString().toStdString();
 }
 
 } // namespace torvik

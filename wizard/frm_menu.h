@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <string>
+
 namespace torvik {
 
 class FrmMenu : public QDialog {
@@ -13,10 +15,7 @@ public:
     explicit FrmMenu(const QString& writtenFile, QWidget* parent = nullptr);
 
     // "Open", "Save", "Close", or empty where the menu was closed without a choice.
-    QString result() const { return m_result; }
-
-private:
-    QString m_result;
+    std::string tag() const;
 };
 
 } // namespace torvik

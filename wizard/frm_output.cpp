@@ -2,43 +2,30 @@
 #include "wizard/frm_output.h"
 
 #include "gcode/dialects.h"
+#include "tools/dialog_places.h"
+#include "tools/filtered_box.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace torvik {
-namespace {
 
-QString text(std::string_view view) {
-    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
-} // namespace
-
-FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent) : QDialog(parent) {
+FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent)
+    : QDialog(parent), m_number(new FilteredBox(toolNumberHint)) {
     setObjectName(QStringLiteral("frmOutput"));
-    setWindowTitle(QStringLiteral("%1 Program Number").arg(text(dialect.name)));
+    setWindowTitle(QStringLiteral("%1 Program Number").arg(QString::fromUtf8(dialect.name)));
     auto* const prompt =
         new QLabel(QStringLiteral("Please enter the number that will identify this piece to %1")
-                       .arg(text(dialect.name)));
+                       .arg(QString::fromUtf8(dialect.name)));
     prompt->setObjectName(QStringLiteral("lblPrompt"));
-    auto* const prefix = new QLabel(text(dialect.diskettePrefix));
+    auto* const prefix = new QLabel(QString::fromUtf8(dialect.diskettePrefix));
     prefix->setObjectName(QStringLiteral("lblPrefix"));
-    m_number = new QLineEdit;
     m_number->setObjectName(QStringLiteral("txtNumber"));
     m_number->setAccessibleName(prompt->text());
     m_number->setToolTip(tr("A whole number from 1 to 32767"));
-    m_number->installEventFilter(this);
     prompt->setBuddy(m_number);
 
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -49,7 +36,7 @@ FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent) : QDialog(parent) 
     connect(m_number, &QLineEdit::textChanged, this,
             [this](const QString& number) { m_ok->setEnabled(!number.isEmpty()); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-        m_result = m_number->text();
+        setProperty(tagProperty, m_number->text());
         accept();
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -66,18 +53,8 @@ FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent) : QDialog(parent) 
     m_number->setFocus();
 }
 
-bool FrmOutput::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != m_number || event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    const auto* const key = static_cast<QKeyEvent*>(event);
-    if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))
-        return false;
-    const QString typed = key->text();
-    if (typed.isEmpty() || typed[0] < u' ' || typed[0] == QChar(0x7F) || isDigit(typed[0]))
-        return false;
-    QToolTip::showText(m_number->mapToGlobal(QPoint(0, m_number->height())), tr("Digits only"),
-                       m_number);
-    return true;
+std::string FrmOutput::tag() const {
+    return property(tagProperty).toString().toStdString();
 }
 
 } // namespace torvik

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
-// frmOutput: asks for the number of a program that goes to the diskette.
+// frmOutput: asks for the number of a program that goes to the diskette. The box takes digits only.
 #pragma once
 
 #include <QDialog>
 
-class QLineEdit;
+#include <string>
+
 class QPushButton;
 
 namespace torvik {
 
 struct Dialect;
+class FilteredBox;
 
 class FrmOutput : public QDialog {
     Q_OBJECT
@@ -18,15 +20,11 @@ public:
     explicit FrmOutput(const Dialect& dialect, QWidget* parent = nullptr);
 
     // The text as typed; empty when the dialog was cancelled or closed.
-    QString result() const { return m_result; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    std::string tag() const;
 
 private:
-    QLineEdit* m_number;
+    FilteredBox* m_number;
     QPushButton* m_ok;
-    QString m_result;
 };
 
 } // namespace torvik

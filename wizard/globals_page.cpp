@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "base/picture.h"
 #include "wizard/form_fields.h"
+#include "wizard/pen_controls.h"
 #include "wizard/pen_number_box.h"
 #include "wizard/wizard_host.h"
 #include "wizard/workshop.h"
@@ -37,7 +38,7 @@ constexpr std::array<Height, 3> heights{{
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool is changed, well above the work and its clamps"),
      &Job::gsngToolChangeHeight},
-    {"Safe Height for Rapids", QT_TRANSLATE_NOOP("GlobalsPage", "Safe &Height for Rapids"),
+    {"Safe Height for Rapids", QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool travels quickly across the work without touching anything"),
      &Job::gsngSafeHeight},
@@ -74,6 +75,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     }
 
     auto* const units = new QGroupBox(tr("Feed rates are typed in"));
+    units->setObjectName(QStringLiteral("fraUnits"));
     auto* const unitsLayout = new QVBoxLayout(units);
     auto* const group = new QButtonGroup(this);
     const std::array<QString, 2> unitTexts{tr("mm per &minute"), tr("mm per secon&d")};
@@ -81,7 +83,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
         auto* const option = new QRadioButton(unitTexts[static_cast<std::size_t>(i)]);
         option->setObjectName(QStringLiteral("optUnits%1").arg(i));
         option->setToolTip(tr("The unit of every feed rate on the pages that follow"));
-        option->setProperty("helpContext", helpHeights);
+        option->setProperty(helpContextProperty, helpHeights);
         group->addButton(option, i);
         unitsLayout->addWidget(option);
         connect(option, &QRadioButton::toggled, this, changed);

@@ -3,6 +3,7 @@
 
 #include "base/error_trap.h"
 #include "base/text.h"
+#include "tools/dialog_places.h"
 #include "wizard/form_fields.h"
 #include "wizard/saved_names.h"
 #include "wizard/workshop.h"
@@ -67,7 +68,7 @@ HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
         const Field& field = fields[static_cast<std::size_t>(i)];
         auto* const box = new QLineEdit;
         box->setObjectName(QStringLiteral("txtHead%1").arg(i));
-        box->setProperty("Tag", QString::fromUtf8(field.tag));
+        box->setProperty(tagProperty, QString::fromUtf8(field.tag));
         const bool needed = *field.tag != '\0';
         box->setToolTip(needed ? tr("Must be filled; it stands at the top of the program")
                                : tr("Optional; it stands at the top of the program"));
@@ -117,9 +118,10 @@ bool HeaderPage::blnHeaderDone() {
     bool done = false;
     withErrorTrap(m_workshop.logger, {"blnHeaderDone", "modHpgl"}, [&] {
         for (std::size_t i = 0; i < m_boxes.size(); ++i) {
-            if (*fields[i].tag == '\0' || !trimmed(*m_boxes[i]).isEmpty())
+            const QString tag = m_boxes[i]->property(tagProperty).toString();
+            if (tag.isEmpty() || !trimmed(*m_boxes[i]).isEmpty())
                 continue;
-            m_workshop.messages.intStdMsgBox(std::string("Please enter the ") + fields[i].tag,
+            m_workshop.messages.intStdMsgBox("Please enter the " + tag.toStdString(),
                                              styleExclamation, "Required information");
             m_boxes[i]->setFocus();
             return;

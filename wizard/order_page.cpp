@@ -4,7 +4,9 @@
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "job/pens.h"
+#include "tools/dialog_places.h"
 #include "wizard/form_fields.h"
+#include "wizard/pen_controls.h"
 #include "wizard/pen_pictures.h"
 #include "wizard/workshop.h"
 
@@ -21,7 +23,6 @@ namespace {
 
 constexpr int helpOrder = 4;
 constexpr int pictureSide = 24;
-constexpr const char* tagProperty = "Tag";
 
 std::int16_t penOf(const QLabel& label) {
     return toInt16(leadingNumber(label.property(tagProperty).toString().toStdString()));
@@ -31,7 +32,7 @@ std::int16_t penOf(const QLabel& label) {
 
 OrderPage::OrderPage(Workshop& workshop, QWidget* parent) : QWidget(parent), m_workshop(workshop) {
     setObjectName(QStringLiteral("picOrder"));
-    setProperty("helpContext", helpOrder);
+    setProperty(helpContextProperty, helpOrder);
     auto* const explanation =
         new QLabel(tr("The pens are machined from top to bottom. Move a colour with the buttons, "
                       "with the arrow keys, or by dragging it. Holes and inner shapes usually come "
@@ -139,8 +140,14 @@ void OrderPage::ListItemClicked(std::int16_t row, std::int16_t pen) {
         const auto count = static_cast<std::int16_t>(m_rows.size());
         // The first row is tested first, so a single row leaves cmdDown enabled: it has nowhere to
         // go.
-        m_up->setEnabled(row != 1);
-        m_down->setEnabled(row == 1 || row != count);
+        const bool up = row != 1;
+        const bool down = row == 1 || row != count;
+        // The focus of a button that closes would go to its neighbour, and the next press undo the
+        // last one.
+        if ((m_up->hasFocus() && !up) || (m_down->hasFocus() && !down))
+            m_rows[static_cast<std::size_t>(row - 1)].picOrd->setFocus();
+        m_up->setEnabled(up);
+        m_down->setEnabled(down);
         for (std::int16_t i = 1; i <= count; ++i)
             highlight(i, i == row);
         m_selectedRow = row;
@@ -165,26 +172,24 @@ void OrderPage::ColourReOrder(std::int16_t step) {
             return;
         const Row& from = m_rows[static_cast<std::size_t>(oldRow - 1)];
         const Row& to = m_rows[static_cast<std::size_t>(newRow - 1)];
+        const std::int16_t pen = m_selectedPen;
         showPen(from, penOf(*to.lblOrd));
-        showPen(to, m_selectedPen);
-        ListItemClicked(newRow, m_selectedPen);
+        showPen(to, pen);
+        ListItemClicked(newRow, pen);
+        if (from.picOrd->hasFocus())
+            to.picOrd->setFocus();
     });
 }
 
-bool OrderPage::KeyCheck(int keyCode) {
+void OrderPage::KeyCheck(int keyCode) {
     constexpr int keyCodeUp = 38;
     constexpr int keyCodeDown = 40;
     if (m_workshop.job.gintWizardStep != 4)
-        return false;
-    if (keyCode == keyCodeDown && m_down->isEnabled()) {
+        return;
+    if (keyCode == keyCodeDown && m_down->isEnabled())
         m_down->click();
-        return true;
-    }
-    if (keyCode == keyCodeUp && m_up->isEnabled()) {
+    else if (keyCode == keyCodeUp && m_up->isEnabled())
         m_up->click();
-        return true;
-    }
-    return false;
 }
 
 void OrderPage::readOrder() {
@@ -207,7 +212,7 @@ std::int16_t OrderPage::rowOf(const QObject* widget) const {
 
 std::int16_t OrderPage::rowAt(int y) const {
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        if (y < m_rows[i].frame->geometry().bottom())
+        if (y <= m_rows[i].frame->geometry().bottom())
             return static_cast<std::int16_t>(i + 1);
     return static_cast<std::int16_t>(m_rows.size());
 }
@@ -231,8 +236,10 @@ bool OrderPage::eventFilter(QObject* watched, QEvent* event) {
     auto* const widget = static_cast<QWidget*>(watched);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             select(row);
+            m_rows[static_cast<std::size_t>(row - 1)].picOrd->setFocus();
+        }
         return true;
     case QEvent::MouseMove: {
         const auto* const mouse = static_cast<QMouseEvent*>(event);
@@ -240,9 +247,14 @@ bool OrderPage::eventFilter(QObject* watched, QEvent* event) {
             dragTo(widget->mapTo(m_list, mouse->position().toPoint()).y());
         return true;
     }
-    case QEvent::FocusIn:
-        select(row);
+    case QEvent::FocusIn: {
+        // A window that comes back gives its focus back: that is no choice.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+            reason != Qt::MenuBarFocusReason)
+            select(row);
         break;
+    }
     default:
         break;
     }

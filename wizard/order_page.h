@@ -30,8 +30,7 @@ public:
     // Moves the selected row one place, -1 up or 1 down; nothing where there is no such place.
     void ColourReOrder(std::int16_t step);
     // Arrow up (38) and down (40) press cmdUp and cmdDown where they are enabled; only on step 4.
-    // Whether the key was used.
-    bool KeyCheck(int keyCode);
+    void KeyCheck(int keyCode);
 
     // The rows as they stand, into gintOrder; gblnOrderSet is then set.
     void readOrder();

@@ -6,6 +6,7 @@
 #include "wizard/drive_a.h"
 #include "wizard/form_fields.h"
 #include "wizard/own_settings.h"
+#include "wizard/pen_controls.h"
 #include "wizard/workshop.h"
 
 #include <QButtonGroup>
@@ -23,16 +24,13 @@ namespace {
 constexpr int helpOutput = 6;
 const QString targetKey = QStringLiteral("OutputTarget");
 
-QString text(std::string_view view) {
-    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
-
 // What the target's program becomes: a numbered file on the diskette, or a file anywhere.
 QString whereItGoes(const Dialect& dialect) {
     if (dialect.needsNumber())
         return OutputPage::tr("a numbered program on the diskette, a:\\%1…")
-            .arg(text(dialect.diskettePrefix));
-    return OutputPage::tr("a file (.%1) where you choose").arg(text(dialect.extension));
+            .arg(QString::fromUtf8(dialect.diskettePrefix));
+    return OutputPage::tr("a file (.%1) where you choose")
+        .arg(QString::fromUtf8(dialect.extension));
 }
 
 } // namespace
@@ -40,8 +38,9 @@ QString whereItGoes(const Dialect& dialect) {
 OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
     : QWidget(parent), m_workshop(workshop) {
     setObjectName(QStringLiteral("picOutput"));
-    setProperty("helpContext", helpOutput);
+    setProperty(helpContextProperty, helpOutput);
     auto* const box = new QGroupBox(tr("Write the program for"));
+    box->setObjectName(QStringLiteral("fraOutput"));
     auto* const options = new QGridLayout(box);
     options->setColumnStretch(1, 1);
     options->setHorizontalSpacing(16);
@@ -49,11 +48,12 @@ OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
     const int remembered = ownSettings()->value(targetKey, targetKestra).toInt();
     for (const Dialect& dialect : dialects()) {
         // The access key is the code: two names begin alike.
-        auto* const option =
-            new QRadioButton(QStringLiteral("&%1  %2").arg(dialect.code).arg(text(dialect.name)));
+        auto* const option = new QRadioButton(
+            QStringLiteral("&%1  %2").arg(dialect.code).arg(QString::fromUtf8(dialect.name)));
         option->setObjectName(QStringLiteral("optOutput%1").arg(dialect.code));
-        option->setAccessibleName(text(dialect.name));
-        option->setToolTip(text(dialect.name) + QStringLiteral(": ") + whereItGoes(dialect));
+        option->setAccessibleName(QString::fromUtf8(dialect.name));
+        option->setToolTip(QString::fromUtf8(dialect.name) + QStringLiteral(": ") +
+                           whereItGoes(dialect));
         m_targets->addButton(option, dialect.code);
         option->setChecked(dialect.code == remembered || m_targets->checkedButton() == nullptr);
         options->addWidget(option, dialect.code - 1, 0);
@@ -72,6 +72,7 @@ OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
 
 QWidget* OutputPage::buildDrive() {
     auto* const box = new QGroupBox(tr("Diskette drive"));
+    box->setObjectName(QStringLiteral("fraDriveA"));
     m_drive = new QLabel;
     m_drive->setObjectName(QStringLiteral("lblDriveA"));
     m_drive->setTextFormat(Qt::PlainText);
@@ -92,13 +93,23 @@ QWidget* OutputPage::buildDrive() {
 }
 
 void OutputPage::changeDrive() {
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Choose the folder that stands for drive A:"),
-        QString::fromStdString(utf8FromPath(driveA(m_workshop.registry))));
-    if (folder.isEmpty())
+    QFileDialog dialog(this, tr("Choose the folder that stands for drive A:"),
+                       QString::fromStdString(utf8FromPath(driveA(m_workshop.registry))));
+    dialog.setObjectName(QStringLiteral("dlgDriveA"));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    m_workshop.registry.RegistryValuePut(driveASetting,
-                                         QDir::toNativeSeparators(folder).toStdString());
+    const std::string folder =
+        QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
+    if (folder.size() > Registry::maxValueBytes) {
+        m_workshop.messages.intStdMsgBox("The folder's name is too long to be remembered, please "
+                                         "choose another:\n" +
+                                             folder,
+                                         styleExclamation, usualTitle);
+        return;
+    }
+    m_workshop.registry.RegistryValuePut(driveASetting, folder);
     showDrive();
 }
 

@@ -64,12 +64,14 @@ std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
         FrmOutput dialog(dialect, &m_window);
         dialog.exec();
         try {
-            const double number = leadingNumber(dialog.result().toStdString());
-            return toInt16(number);
+            const std::int16_t number = toInt16(leadingNumber(dialog.tag()));
+            if (number >= 0)
+                return number;
         } catch (const Overflow&) {
-            m_workshop.messages.intStdMsgBox("The program number may not be greater than 32767",
-                                             styleExclamation, usualTitle);
+            // Told below, as a number that is less than nothing.
         }
+        m_workshop.messages.intStdMsgBox("The program number may be 1 to 32767 only",
+                                         styleExclamation, usualTitle);
     }
 }
 
@@ -105,7 +107,7 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
         const auto file =
             dialect.needsNumber()
                 ? driveA(m_workshop.registry) / pathFromUtf8(proposed)
-                : strGetOutputFile(m_workshop.registry, proposed, target,
+                : strGetOutputFile(m_workshop.registry, m_workshop.messages, proposed, target,
                                    pathFromUtf8(m_workshop.job.gstrPlotFile), &m_window);
         if (file.empty() || !write(target, number, file))
             return;
@@ -136,12 +138,12 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
 AfterOutput OutputStep::showMenu(const std::string& writtenFile) {
     FrmMenu menu(QString::fromStdString(writtenFile), &m_window);
     menu.exec();
-    const QString word = menu.result();
-    if (word == QLatin1String("Open"))
+    const std::string word = menu.tag();
+    if (word == "Open")
         return AfterOutput::openOther;
-    if (word == QLatin1String("Save"))
+    if (word == "Save")
         return AfterOutput::saveOther;
-    return word == QLatin1String("Close") ? AfterOutput::close : AfterOutput::nothing;
+    return word == "Close" ? AfterOutput::close : AfterOutput::nothing;
 }
 
 } // namespace torvik

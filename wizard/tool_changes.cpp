@@ -24,22 +24,20 @@ std::vector<int> numbersOf(const Job& job, const ToolList& tools) {
 ToolsOfGroups::ToolsOfGroups(const Job& job, const ToolList& tools)
     : m_numbers(numbersOf(job, tools)) {}
 
-std::vector<std::string> ToolsOfGroups::changedSince(const Job& job, const ToolList& tools) const {
+std::vector<std::string> ToolsOfGroups::changedSince(const Job& job, const ToolList& tools,
+                                                     std::int16_t passedOver) const {
     const std::vector<int> now = numbersOf(job, tools);
     const auto changed = [&](int settings) {
         const auto i = static_cast<std::size_t>(settings - 1);
-        return i < m_numbers.size() && i < now.size() && m_numbers[i] != now[i];
+        return settings != passedOver && i < m_numbers.size() && i < now.size() &&
+               m_numbers[i] != now[i];
     };
     std::vector<std::string> texts;
-    for (const Pen& pen : job.gudtPens) {
-        if (!pen.blnUsed)
-            continue;
-        if (!pen.blnDrill && changed(pen.intSettings))
-            texts.push_back(groupText(pen, 0));
-        for (std::int16_t k = 1; pen.blnDrill && k <= pen.intRadiusCount; ++k)
+    // Also what is not in force now: it is there again when the user chooses anew.
+    for (const Pen& pen : job.gudtPens)
+        for (std::int16_t k = 0; pen.blnUsed && k <= pen.intRadiusCount; ++k)
             if (changed(pen.intSettings + k))
                 texts.push_back(groupText(pen, k));
-    }
     return texts;
 }
 

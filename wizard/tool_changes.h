@@ -16,8 +16,10 @@ class ToolsOfGroups {
 public:
     ToolsOfGroups(const Job& job, const ToolList& tools);
 
-    // The colours and hole sizes whose tool is now another one or missing, as the user reads them.
-    std::vector<std::string> changedSince(const Job& job, const ToolList& tools) const;
+    // The colours and hole sizes whose tool is now another one or missing, as the user reads them;
+    // without the settings group `passedOver` (0: none is passed over).
+    std::vector<std::string> changedSince(const Job& job, const ToolList& tools,
+                                          std::int16_t passedOver) const;
 
 private:
     std::vector<int> m_numbers; // per settings group, the tool's own number; 0 for none
