@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/tool_dialogs_fixture.h"
+#include "tools/tool_edits.h"
+
+namespace torvik {
+namespace {
+
+std::string numbers(const ToolList& tools) {
+    std::string all;
+    for (const Tool& tool : tools.gudtTools)
+        all += std::to_string(tool.intNumber) + " ";
+    return all + "/" + std::to_string(tools.gintToolCount);
+}
+
+TEST(ToolEdits, LaterToolsMoveDownAndTheArrayKeepsItsSize) {
+    ToolList tools = drills(4);
+    deleteTool(tools, 2);
+    deleteTool(tools, 3);
+    EXPECT_EQ(numbers(tools), "1 3 4 4 /2");
+    EXPECT_THROW(deleteTool(tools, 3), SubscriptOutOfRange);
+    addTool(tools, {9, "Reamer", 9});
+    EXPECT_EQ(numbers(tools), "1 3 9 /3");
+}
+
+TEST(ToolEdits, ACountThatIsNoCountOfTheToolsLosesNone) {
+    ToolList tools = drills(2);
+    tools.gintToolCount = 5; // the loading broke off
+    EXPECT_THROW(addTool(tools, {}), InvalidCall);
+    EXPECT_THROW(deleteTool(tools, 1), InvalidCall);
+    EXPECT_EQ(numbers(tools), "1 2 /5");
+    tools = drills(32767);
+    EXPECT_THROW(addTool(tools, {}), Overflow);
+    EXPECT_EQ(tools.gintToolCount, 32767);
+    tools = {};
+    tools.gintToolCount = -3;
+    addTool(tools, {8, "Drill", 8});
+    EXPECT_EQ(numbers(tools), "8 /1");
+}
+
+TEST(ToolEdits, DeletingTypesShortensTheList) {
+    ToolList tools;
+    for (const char* type : {"A", "B", "C"})
+        addUserType(tools, type);
+    deleteUserType(tools, 2);
+    EXPECT_EQ(tools.gstrUserToolTypes, (OneBasedArray<std::string>{"A", "C", "C"}));
+    deleteUserType(tools, 3); // an item of a list that was not renumbered
+    addUserType(tools, "D");
+    EXPECT_EQ(tools.gstrUserToolTypes, (OneBasedArray<std::string>{"A", "D"}));
+    EXPECT_THROW(deleteUserType(tools, 0), SubscriptOutOfRange);
+}
+
+} // namespace
+} // namespace torvik
