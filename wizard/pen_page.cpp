@@ -45,13 +45,13 @@ void PenPage::connectControls() {
 
 void PenPage::ShowPen(std::int16_t direction) {
     withErrorTrap(m_workshop.logger, {"ShowPen", "modHpgl"}, [&] {
+        m_shown.reset();
         Job& job = m_workshop.job;
         const PenMove move = movePosition(job, direction);
         if (move != PenMove::onPage) {
             leavePens(move == PenMove::behindLast);
             return;
         }
-        m_shown.reset();
         markCurrentNode(job);
         m_host.updateTree();
         m_host.PlotLines();
@@ -64,7 +64,6 @@ void PenPage::ShowPen(std::int16_t direction) {
 }
 
 void PenPage::leavePens(bool forward) {
-    m_shown.reset();
     m_host.stopFlashing();
     markNoNode(m_workshop.job);
     m_host.updateTree();

@@ -99,7 +99,6 @@ void PenPage::setCut(std::int16_t Index) {
     }
     updateCurrentNode(job, cutAnswered);
     m_host.updateTree();
-    m_blinkPaths = blinkPaths(job);
     quietly(m_flashLinesFailed, "FlashLines", [&] { plotBlinkFrame(); });
     ShowDetails();
     offerTool();

@@ -27,23 +27,25 @@ TEST_F(PenPageTest, ChoosingToMachineLeadsToTheTool) {
 TEST_F(PenPageTest, ALeftOutPenKeepsItsSettings) {
     open();
     job.gudtSettings[1] = cut();
+    host.nextChanges = 0;
     page.ShowPen(0);
     EXPECT_EQ(rows(), "12000 600 150 3.00 1.00 0.20 300");
     EXPECT_EQ(state(), "machine 7 tool next");
+    EXPECT_EQ(host.nextChanges, 1); // its own writes are not followed one by one
     EXPECT_EQ(QColor(192, 255, 255),
               page.findChild<QLabel*>("lblToolType")->palette().color(QPalette::Window));
     type(3, "4");
     type(5, "0");
-    page.FlashLines();
     choose(1);
     EXPECT_EQ(rows(), "(12000) (600) (150) (4.00) (1.00) (0) (~)");
     EXPECT_EQ(state(), "leave  next");
     EXPECT_EQ(QColor(192, 192, 192),
               page.findChild<QLabel*>("lblToolType")->palette().color(QPalette::Window));
     EXPECT_FALSE(host.shown); // at once, and at every beat
-    page.FlashLines();
-    page.FlashLines();
-    EXPECT_FALSE(host.shown);
+    for (int beat = 0; beat < 2; ++beat) {
+        page.FlashLines();
+        EXPECT_FALSE(host.shown);
+    }
     EXPECT_EQ(node(0).image, imageOmitted + 1);
     EXPECT_TRUE(page.SaveDetails() && page.blnInputValid());
     EXPECT_EQ(job.gudtSettings[1].sngDepth, 4);
@@ -54,6 +56,8 @@ TEST_F(PenPageTest, ALeftOutPenKeepsItsSettings) {
 }
 
 TEST_F(PenPageTest, TheLastMachinedPenCannotBeLeftOut) {
+    open("SP5;PU0,0;PD400,0;");
+    EXPECT_FALSE(option(1).isEnabled());
     open();
     choose(1);
     page.ShowPen(1);
@@ -67,8 +71,6 @@ TEST_F(PenPageTest, TheLastMachinedPenCannotBeLeftOut) {
     page.ToolSelection(0);
     EXPECT_EQ(state(), "machine  tool");
     EXPECT_FALSE(job.gudtPens[4].blnOmit);
-    open("SP5;PU0,0;PD400,0;");
-    EXPECT_FALSE(option(1).isEnabled());
 }
 
 TEST_F(PenPageTest, CirclesAreDrilledSizeBySize) {
@@ -218,14 +220,17 @@ TEST_F(PenPageTest, ADeletedToolIsNoTool) {
 
 TEST_F(PenPageTest, EveryControlIsReachedByTab) {
     open();
-    page.SetTool(1);
-    option(0).setFocus();
+    job.gudtPens[2].blnDrill = true;
+    job.gudtSettings[3] = drill(2);
+    page.ShowPen(1);
+    page.ShowPen(1);
+    tool().setFocus();
     std::string order;
     for (int i = 0; i < 7; ++i) {
         order += QApplication::focusWidget()->objectName().toStdString() + " ";
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order, "optCut0 cmdTool txtDet0 txtDet1 txtDet2 txtDet3 txtDet4 ");
+    EXPECT_EQ(order, "cmdTool txtDet0 txtDet1 txtDet2 txtDet3 chkPeck txtDet4 ");
     for (const auto* control : page.findChildren<QAbstractButton*>()) {
         EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
         EXPECT_FALSE(control->toolTip().isEmpty()) << control->objectName().toStdString();

@@ -22,7 +22,10 @@ namespace torvik {
 
 class NotingHost : public WizardHost {
 public:
-    void setNextEnabled(bool enabled) override { next = enabled; }
+    void setNextEnabled(bool enabled) override {
+        next = enabled;
+        ++nextChanges;
+    }
     void updateTree() override { calls += "tree "; }
     void PlotLines() override { calls += "lines "; }
     void clearPreview() override { calls += "clear "; }
@@ -41,6 +44,7 @@ public:
     std::string takeCalls() { return std::exchange(calls, {}); }
 
     bool next = false;
+    int nextChanges = 0;
     std::string calls;
     std::vector<std::int16_t> blinking;
     bool shown = true;

@@ -85,6 +85,8 @@ TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
         EXPECT_EQ(host.next, next) << says;
     }
     EXPECT_EQ(box(5).selectedText(), "0.15"); // typing goes on over it
+    paste(1, "1e39");                         // has no quarter
+    EXPECT_EQ(rows(), "~ 1e39 200 3 1 0.15 0");
     useSeconds(true);
     type(1, "10.00");
     EXPECT_EQ(box(2).text(), "2.50");
@@ -166,8 +168,11 @@ TEST_F(PenPageTest, PeckingOpensAndEmptiesItsRow) {
     page.ShowPen(1);
     page.ShowPen(1);
     EXPECT_EQ(rows(), "~ ~ ~ ~ ~"); // no tool yet: open, though pecking is off
+    type(3, "0");
     page.SetTool(2);
-    EXPECT_EQ(rows(), "~ ~ ~ ~ (~)");
+    EXPECT_EQ(rows(), "~ ~ ~ 0 (~)"); // what was typed stays ...
+    page.ShowPen(0);
+    EXPECT_EQ(rows(), "~ ~ ~ ~ (~)"); // ... but an unset zero is not shown
     fill({"2000", "100", "8", "0"});
     EXPECT_TRUE(host.next);
     QTest::keyClick(&peck(), Qt::Key_Space);
