@@ -10,7 +10,6 @@
 #include "prepare/placing/join.h"
 #include "prepare/placing/order.h"
 #include "prepare/writing/check.h"
-#include "prepare/writing/readable.h"
 #include "prepare/writing/writer.h"
 
 #include <utility>
@@ -18,11 +17,15 @@
 namespace torvik {
 namespace {
 
+// The rest of the tolerance is for what rounding, the chords of curves and single precision add.
+constexpr double fittingShare = 0.97;
+
 class Preparation {
 public:
     Preparation(SourceDrawing source, const PrepareOptions& options)
         : m_options(options),
-          m_strokes(std::move(source.strokes)), m_fit{options.tolerance * plotterUnitsPerMm,
+          m_strokes(std::move(source.strokes)), m_fit{options.tolerance * plotterUnitsPerMm *
+                                                          fittingShare,
                                                       options.roundTurn, options.arcs} {
         m_result.report.source = std::move(source.report);
     }
@@ -33,10 +36,8 @@ public:
         m_result.report.elementsBefore = segmentCount(m_strokes);
         if (m_options.keepBefore)
             m_result.before = m_strokes;
-        simplify();
-        if (m_options.optimize)
-            orderStrokes(m_strokes);
-        fitUntilReadable();
+        bringInOrder();
+        fitStrokes(m_strokes, m_fit, m_result.report.fit);
         write();
         measure(m_result.report.cutAfter, m_result.report.airAfter);
         describe();
@@ -63,30 +64,19 @@ private:
                                    : "the drawing holds nothing to draw");
     }
 
-    void simplify() {
-        sortByPen(m_strokes);
+    // A new order can bring strokes together that touch.
+    void bringInOrder() {
+        PrepareReport& report = m_result.report;
         for (Stroke& stroke : m_strokes)
             settle(stroke);
+        sortByPen(m_strokes);
         if (m_options.dropDuplicates)
-            m_result.report.duplicates = dropDuplicates(m_strokes);
-        m_result.report.joined = joinTouching(m_strokes);
-        fitStrokes(m_strokes, m_fit, m_result.report.fit);
-    }
-
-    // A new order can bring strokes together, and lines that lead the reader to an arc can go
-    // together with others: both are then fitted once more, as they would be the next time.
-    void fitUntilReadable() {
-        constexpr int mostRounds = 4;
-        for (int i = 0; i < mostRounds; ++i) {
-            const auto before = m_strokes;
-            m_result.report.joined += joinTouching(m_strokes);
-            makeReadable(m_strokes, m_fit.tolerance);
-            if (m_strokes == before)
-                return;
-            FitReport again;
-            fitStrokes(m_strokes, m_fit, again);
+            report.duplicates = dropDuplicates(m_strokes);
+        report.joined = joinTouching(m_strokes);
+        if (m_options.optimize) {
+            orderStrokes(m_strokes);
+            report.joined += joinTouching(m_strokes);
         }
-        makeReadable(m_strokes, m_fit.tolerance);
     }
 
     void write() {

@@ -8,8 +8,14 @@
 namespace torvik {
 namespace {
 
-bool isOnGrid(const Segment& arc) {
-    return arc.first == toGrid(arc.first) && arc.sweep == toGrid(arc.sweep);
+// An arc whose numbers can be written as they are, unless it was meant to begin elsewhere.
+Segment gridArcOf(Point start, const Segment& arc) {
+    constexpr double sameEnd = 0.01; // plotter units
+    const Segment same = arcSegment(start, arc.first, arc.sweep);
+    const bool isOnGrid = arc.first == toGrid(arc.first) && arc.sweep == toGrid(arc.sweep);
+    return isOnGrid && distance(same.end, arc.end) <= sameEnd
+               ? same
+               : gridArc(start, arc.end, arc.sweep);
 }
 
 } // namespace
@@ -36,8 +42,7 @@ Segment gridArc(Point start, Point target, double sweep) {
 Segment gridSegment(Point start, const Segment& segment) {
     switch (segment.kind) {
     case SegmentKind::arc:
-        return isOnGrid(segment) ? arcSegment(start, segment.first, segment.sweep)
-                                 : gridArc(start, segment.end, segment.sweep);
+        return gridArcOf(start, segment);
     case SegmentKind::curve:
         return curveSegment(segment.first, segment.second, toGrid(segment.end));
     case SegmentKind::line:

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/fitting/stroke_fitter.h"
 
+#include "base/errors.h"
 #include "prepare/arcs.h"
 #include "prepare/fitting/chord_fit.h"
 #include "prepare/fitting/circle_fit.h"
-#include "prepare/fitting/curve_fit.h"
+#include "prepare/fitting/flatten.h"
 #include "prepare/fitting/grid.h"
+#include "prepare/fitting/readable_arc.h"
 
 #include <algorithm>
 #include <array>
@@ -16,6 +18,9 @@ namespace {
 
 // What the rounding of coordinates may add to a distance.
 constexpr double rounding = 0.0003;
+
+// How far a curve's chords may be from it, in parts of the tolerance.
+constexpr double flattening = 0.02;
 
 constexpr double nearlyFullTurn = 359.9;
 
@@ -46,11 +51,14 @@ Stroke StrokeFitter::fitted() {
     expand();
     m_pieces = m_own;
     settlePieces(m_pieces);
-    constexpr int mostPasses = 8;
-    for (int i = 0; i < mostPasses; ++i) {
-        if (m_options.arcs && becomesCircle())
+    // What a repair brings back is fitted once more, as it would be the next time.
+    constexpr int mostRounds = 16;
+    std::vector<Piece> repaired;
+    for (int i = 0; i < mostRounds && (i == 0 || repaired != m_pieces); ++i) {
+        repaired = m_pieces;
+        if (becomesCircleInPasses())
             return std::move(m_stroke);
-        if (m_keepsOwn || !pass())
+        if (!repair())
             break;
     }
     if (m_nearCircleTolerance > 0) {
@@ -58,7 +66,6 @@ Stroke StrokeFitter::fitted() {
         m_report.nearCircleTolerance =
             std::max(m_report.nearCircleTolerance, m_nearCircleTolerance);
     }
-    repair();
     m_stroke.segments.clear();
     for (const Piece& piece : m_pieces) {
         m_stroke.segments.push_back(piece.segment);
@@ -69,24 +76,51 @@ Stroke StrokeFitter::fitted() {
     return std::move(m_stroke);
 }
 
+// Fits until nothing changes any more; true where it all becomes a circle.
+bool StrokeFitter::becomesCircleInPasses() {
+    constexpr int mostPasses = 8;
+    for (int i = 0; i < mostPasses; ++i) {
+        if (m_options.arcs && becomesCircle())
+            return true;
+        if (m_keepsOwn || !pass())
+            break;
+    }
+    return false;
+}
+
 void StrokeFitter::expand() {
     m_points.push_back(m_stroke.start);
     Point place = m_stroke.start;
     for (const Segment& segment : m_stroke.segments) {
-        if (segment.kind == SegmentKind::curve) {
-            ++m_report.curves;
-            for (const CurvePiece& piece : fitCurve(place, segment, m_options)) {
-                m_points.insert(m_points.end(), piece.samples.begin(), piece.samples.end());
-                m_own.push_back({piece.segment, m_points.size() - 1, 0});
-            }
-        } else {
-            if (isArc(segment))
-                for (const double part : {0.25, 0.5, 0.75})
-                    m_points.push_back(pointOnArc(place, segment, part));
-            m_points.push_back(segment.end);
-            m_own.push_back({segment, m_points.size() - 1, 0});
-        }
-        place = segment.end;
+        if (segment.kind == SegmentKind::curve)
+            takeCurveApart(place, segment);
+        else
+            takeOwn(place, segment);
+        place = m_own.empty() ? place : m_own.back().segment.end;
+    }
+}
+
+void StrokeFitter::takeCurveApart(Point start, const Segment& curve) {
+    constexpr std::size_t mostPoints = 10000000;
+    ++m_report.curves;
+    for (const Point& end : flattenCurve(start, curve, m_options.tolerance * flattening)) {
+        m_points.push_back(toGrid(end));
+        m_own.push_back({lineSegment(m_points.back()), m_points.size() - 1, 0});
+    }
+    if (m_points.size() > mostPoints)
+        throw RunTimeError("a curve of the drawing is too large to be drawn with this tolerance");
+}
+
+void StrokeFitter::takeOwn(Point start, const Segment& segment) {
+    const bool asLines = isArc(segment) && isTooLarge(start, segment);
+    const auto lines = asLines ? linesForArc(start, segment, m_options.tolerance / 2)
+                               : std::vector<Segment>{segment};
+    if (isArc(segment) && !asLines)
+        for (const double part : {0.25, 0.5, 0.75})
+            m_points.push_back(pointOnArc(start, segment, part));
+    for (const Segment& line : lines) {
+        m_points.push_back(line.end);
+        m_own.push_back({line, m_points.size() - 1, 0});
     }
 }
 
@@ -122,6 +156,7 @@ bool StrokeFitter::pass() {
     if (m_options.arcs)
         joinArcs(result);
     settlePieces(result);
+    makeReadable(result);
     const bool same =
         std::equal(m_pieces.begin(), m_pieces.end(), result.begin(), result.end(),
                    [](const Piece& a, const Piece& b) { return a.segment == b.segment; });
@@ -158,6 +193,26 @@ void StrokeFitter::joinArcs(std::vector<Piece>& pieces) const {
             }
         }
         result.push_back(piece);
+    }
+    pieces = std::move(result);
+}
+
+void StrokeFitter::makeReadable(std::vector<Piece>& pieces) const {
+    std::vector<Piece> result;
+    result.reserve(pieces.size());
+    Point place = m_stroke.start;
+    std::size_t reached = 0;
+    for (const Piece& piece : pieces) {
+        if (!isArc(piece.segment) || !isMisread(place, piece.segment)) {
+            result.push_back(piece);
+        } else {
+            // A line that leads in stands for none of the stroke's own points.
+            for (const Segment& segment : withLeadIn(place, piece.segment))
+                result.push_back({segment, reached, isArc(segment) ? piece.bulge : 0});
+            result.back().last = piece.last;
+        }
+        reached = piece.last;
+        place = result.back().segment.end;
     }
     pieces = std::move(result);
 }
@@ -245,10 +300,14 @@ double StrokeFitter::deviation(Point from, const Segment& segment, std::size_t f
 }
 
 // A piece that left a point of the stroke behind gives way to what the stroke itself has there.
-void StrokeFitter::repair() {
+// True where there was one.
+bool StrokeFitter::repair() {
+    bool isRepaired = false;
+    m_deviation = 0;
     std::vector<Piece> result;
-    std::size_t first = 0;
+    std::size_t first = 1;
     std::size_t own = 0;
+    std::size_t leadIns = 0; // at the end of the result
     Point from = m_stroke.start;
     for (const Piece& piece : m_pieces) {
         const double off = deviation(from, piece.segment, first, piece.last);
@@ -257,8 +316,11 @@ void StrokeFitter::repair() {
             ++ownEnd;
         if (off <= m_options.tolerance + rounding) {
             result.push_back(piece);
+            leadIns = piece.last < first ? leadIns + 1 : 0;
             m_deviation = std::max(m_deviation, off);
         } else {
+            isRepaired = true;
+            result.resize(result.size() - std::exchange(leadIns, 0));
             result.insert(result.end(), m_own.begin() + static_cast<std::ptrdiff_t>(own),
                           m_own.begin() + static_cast<std::ptrdiff_t>(ownEnd));
         }
@@ -268,6 +330,8 @@ void StrokeFitter::repair() {
     }
     m_pieces = std::move(result);
     settlePieces(m_pieces);
+    makeReadable(m_pieces);
+    return isRepaired;
 }
 
 } // namespace torvik

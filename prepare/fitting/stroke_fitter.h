@@ -23,18 +23,24 @@ private:
         Segment segment;
         std::size_t last = 0; // the own point that it reaches
         double bulge = 0;
+
+        bool operator==(const Piece&) const = default;
     };
 
     void expand();
+    void takeCurveApart(Point start, const Segment& curve);
+    void takeOwn(Point start, const Segment& segment);
     bool pass();
     void fitRun(std::size_t first, std::size_t last, std::vector<Piece>& result) const;
     void joinArcs(std::vector<Piece>& pieces) const;
+    void makeReadable(std::vector<Piece>& pieces) const;
     void settlePieces(std::vector<Piece>& pieces) const;
+    bool becomesCircleInPasses();
     bool becomesCircle();
     bool becomesCircleOfLines();
     bool becomesCircleOfArcs();
     bool isCircleThroughOwnPoints(Point centre, double radius);
-    void repair();
+    bool repair();
     double deviation(Point from, const Segment& segment, std::size_t first, std::size_t last) const;
     bool isClosed() const;
 
