@@ -9,6 +9,7 @@
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
+#include "gcode/output_file.h"
 #include "gcode/tool_check.h"
 #include "job/job.h"
 #include "tools/settings_file_reader.h"
@@ -57,7 +58,7 @@ private:
                 show(m_options.drawings[i]);
             else
                 convert(i);
-            sayWarnings();
+            sayWarnings(utf8FromPath(m_options.drawings[i]) + ": ");
             return ExitCode::done;
         } catch (const Failure& failure) {
             say(failure.message);
@@ -71,9 +72,9 @@ private:
     void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
 
     // What was reported on the way although the work went on.
-    void sayWarnings() {
+    void sayWarnings(const std::string& about) {
         for (const std::string& cause : std::exchange(m_reported, {}))
-            say("warning: " + cause);
+            say("warning: " + about + cause);
     }
 
     std::string takeLastReport() {
@@ -100,7 +101,9 @@ private:
         requireTools(job, drawing);
 
         const auto output = m_options.outputPath(i);
-        refuseOverwritingInput(output, drawing);
+        refuseOverwritingInput(output);
+        if (m_options.dialect->needsNumber())
+            refuseOverwritingInput(sideTextPath(output));
         if (m_options.outputFolder)
             std::filesystem::create_directories(*m_options.outputFolder, m_ignoredError);
         const bool overwrite = m_options.force || m_options.output.has_value();
@@ -127,7 +130,7 @@ private:
                                                     value("LogInfo"), value("LogExclude")));
         ToolDataLoad(m_tools, *registry, m_logger);
         m_toolsLoaded = true;
-        sayWarnings();
+        sayWarnings("the tool library: ");
     }
 
     void import(Job& job, const std::filesystem::path& drawing) {
@@ -164,12 +167,19 @@ private:
                                              " have no tool of the tool library"};
     }
 
-    static void refuseOverwritingInput(const std::filesystem::path& output,
-                                       const std::filesystem::path& drawing) {
-        std::error_code error;
-        if (std::filesystem::equivalent(output, drawing, error))
-            throw Failure{ExitCode::file,
-                          utf8FromPath(output) + ": the program would replace its own drawing"};
+    // A program, and the text beside it, may take the place of nothing that this run reads.
+    void refuseOverwritingInput(const std::filesystem::path& output) const {
+        auto inputs = m_options.drawings;
+        for (const auto& file : {m_options.answers, m_options.tools})
+            if (file)
+                inputs.push_back(*file);
+        for (const auto& input : inputs) {
+            std::error_code error;
+            if (std::filesystem::equivalent(output, input, error))
+                throw Failure{ExitCode::file, utf8FromPath(output) +
+                                                  ": the program would replace " +
+                                                  utf8FromPath(input) + ", which it is made from"};
+        }
     }
 
     const ConvertOptions& m_options;

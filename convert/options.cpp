@@ -145,13 +145,15 @@ void setNumber(ConvertOptions& options, const std::string& text) {
 }
 
 void checkOutputs(const ConvertOptions& options) {
+    if (options.output && options.output->empty())
+        throw UsageError("--output needs the name of a file");
     if (options.output && options.outputFolder)
         throw UsageError("--output and --output-dir exclude each other");
     if (options.drawings.size() > 1 && (options.output || options.answers))
         throw UsageError("--output and --answers take one drawing only");
     std::set<std::filesystem::path> names;
     for (std::size_t i = 0; i < options.drawings.size(); ++i) {
-        const auto path = options.outputPath(i).lexically_normal();
+        const auto path = std::filesystem::absolute(options.outputPath(i)).lexically_normal();
         if (!names.insert(path).second)
             throw UsageError("two drawings give the same output " + utf8FromPath(path));
     }

@@ -33,11 +33,7 @@ class PendingFile {
 public:
     explicit PendingFile(const fs::path& target) : m_target(target), m_pending(target) {
         m_pending += ".torvik-" + std::to_string(processId());
-        try {
-            m_sink.emplace(m_pending);
-        } catch (const FileError& error) {
-            raise(error);
-        }
+        m_sink.emplace(m_pending, utf8FromPath(m_target)); // the user knows it by its own name
     }
     PendingFile(const PendingFile&) = delete;
     PendingFile& operator=(const PendingFile&) = delete;
@@ -53,7 +49,7 @@ public:
     // Raises what an error trap caught on the way, and closes the file.
     void close() {
         if (m_sink->failure())
-            raise(*m_sink->failure());
+            throw FileError(*m_sink->failure());
         m_sink->close();
     }
 
@@ -73,11 +69,6 @@ public:
     }
 
 private:
-    // The user knows the file by its own name.
-    [[noreturn]] void raise(const FileError& error) const {
-        throw FileError(utf8FromPath(m_target), error.cause());
-    }
-
     fs::path m_target;
     fs::path m_pending;
     std::optional<FileSink> m_sink;

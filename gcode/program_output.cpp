@@ -10,6 +10,7 @@
 #include <bit>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 namespace torvik {
 namespace {
@@ -25,7 +26,9 @@ char* put(char* out, std::string_view text) {
 
 } // namespace
 
-FileSink::FileSink(const std::filesystem::path& file) : m_path(file) {
+FileSink::FileSink(const std::filesystem::path& file) : FileSink(file, utf8FromPath(file)) {}
+
+FileSink::FileSink(const std::filesystem::path& file, std::string name) : m_name(std::move(name)) {
     // The lines are gathered in large pieces already.
     m_file.rdbuf()->pubsetbuf(nullptr, 0);
     errno = 0;
@@ -48,7 +51,7 @@ void FileSink::close() {
 }
 
 void FileSink::fail(const char* what) {
-    const FileError error(utf8FromPath(m_path), what + systemErrorText());
+    const FileError error(m_name, what + systemErrorText());
     if (!m_failure)
         m_failure = error;
     throw error;

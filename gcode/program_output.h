@@ -45,6 +45,8 @@ private:
 class FileSink final : public ByteSink {
 public:
     explicit FileSink(const std::filesystem::path& file);
+    // The same for a file that messages call by another name.
+    FileSink(const std::filesystem::path& file, std::string name);
 
     void write(std::string_view bytes) override;
     // Closes the file; what the system could not keep shows at the latest here.
@@ -55,7 +57,7 @@ public:
 private:
     [[noreturn]] void fail(const char* what);
 
-    std::filesystem::path m_path;
+    std::string m_name;
     std::ofstream m_file;
     std::optional<FileError> m_failure;
 };
