@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/help_window.h"
 
+#include "app/resources.h"
+
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -8,7 +11,11 @@
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QToolBar>
 #include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace torvik {
 namespace {
@@ -17,9 +24,8 @@ const QString helpFolder = QStringLiteral(":/help");
 constexpr int fileRole = Qt::UserRole;
 constexpr int wordsRole = Qt::UserRole + 1;
 
-// A topic's file is named after its number ("topic-090.html"), so that the contents follow it.
-QString fileName(int helpContext) {
-    return helpFolder + QStringLiteral("/topic-%1.html").arg(helpContext, 3, 10, QChar(u'0'));
+QUrl urlOf(const QString& file) {
+    return QUrl(QStringLiteral("qrc") + file);
 }
 
 QString contentsOf(const QString& file) {
@@ -31,7 +37,9 @@ QString contentsOf(const QString& file) {
 
 HelpWindow::HelpWindow(QWidget* parent)
     : QMainWindow(parent), m_search(new QLineEdit), m_contents(new QListWidget),
-      m_page(new QTextBrowser) {
+      m_page(new QTextBrowser), m_back(new QAction(tr("←  &Back"), this)),
+      m_forward(new QAction(tr("&Forward  →"), this)) {
+    loadResources();
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(tr("Torvik Help"));
     m_search->setObjectName(QStringLiteral("txtHelpSearch"));
@@ -42,8 +50,17 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_contents->setAccessibleName(tr("Topics"));
     m_page->setObjectName(QStringLiteral("txtHelp"));
     m_page->setAccessibleName(tr("Topic"));
-    m_page->setSearchPaths({helpFolder});
     m_page->document()->setDocumentMargin(16);
+    layOut();
+    connectControls();
+    fillContents();
+}
+
+void HelpWindow::layOut() {
+    auto* const bar = addToolBar(tr("Pages"));
+    bar->setMovable(false);
+    bar->addActions({m_back, m_forward});
+    setContextMenuPolicy(Qt::NoContextMenu); // nothing could bring a hidden tool bar back
 
     auto* const side = new QWidget;
     auto* const sideLayout = new QVBoxLayout(side);
@@ -54,18 +71,30 @@ HelpWindow::HelpWindow(QWidget* parent)
     split->addWidget(side);
     split->addWidget(m_page);
     split->setStretchFactor(1, 1);
-    split->setSizes({220, 460});
+    split->setSizes({270, 560});
     split->setChildrenCollapsible(false);
     setCentralWidget(split);
-    resize(700, 520);
+    resize(860, 620);
+}
 
-    fillContents();
-    connect(
-        m_contents, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
-            if (item != nullptr)
-                m_page->setSource(QUrl(QStringLiteral("qrc") + item->data(fileRole).toString()));
-        });
+void HelpWindow::connectControls() {
+    connect(m_contents, &QListWidget::currentItemChanged, this,
+            [this](const QListWidgetItem* item) {
+                if (item != nullptr && m_page->source() != urlOf(item->data(fileRole).toString()))
+                    m_page->setSource(urlOf(item->data(fileRole).toString()));
+            });
+    connect(m_page, &QTextBrowser::sourceChanged, this, &HelpWindow::markTopic);
     connect(m_search, &QLineEdit::textChanged, this, &HelpWindow::filterContents);
+
+    m_back->setShortcut(QKeySequence::Back);
+    m_forward->setShortcut(QKeySequence::Forward);
+    m_back->setEnabled(false);
+    m_forward->setEnabled(false);
+    connect(m_back, &QAction::triggered, m_page, &QTextBrowser::backward);
+    connect(m_forward, &QAction::triggered, m_page, &QTextBrowser::forward);
+    connect(m_page, &QTextBrowser::backwardAvailable, m_back, &QAction::setEnabled);
+    connect(m_page, &QTextBrowser::forwardAvailable, m_forward, &QAction::setEnabled);
+
     auto* const closeKey = new QAction(this);
     closeKey->setShortcut(Qt::Key_Escape);
     connect(closeKey, &QAction::triggered, this, &QWidget::close);
@@ -86,34 +115,52 @@ void HelpWindow::fillContents() {
     }
 }
 
+// Shows the topics that hold every word.
 void HelpWindow::filterContents(const QString& words) {
-    const QString wanted = words.trimmed().toCaseFolded();
+    const QStringList wanted = words.toCaseFolded().split(u' ', Qt::SkipEmptyParts);
     for (int i = 0; i < m_contents->count(); ++i) {
         QListWidgetItem* const item = m_contents->item(i);
-        item->setHidden(!item->data(wordsRole).toString().contains(wanted));
+        const QString text = item->data(wordsRole).toString();
+        item->setHidden(!std::all_of(wanted.begin(), wanted.end(),
+                                     [&](const QString& word) { return text.contains(word); }));
     }
 }
 
 QString HelpWindow::topicFile(int helpContext) {
-    return fileName(helpContext);
+    return helpFolder + QStringLiteral("/topic-%1.html").arg(helpContext, 3, 10, QChar(u'0'));
 }
 
 void HelpWindow::showTopic(int helpContext) {
     m_search->clear();
     openFile(topicFile(helpContext));
-    showNormal();
-    raise();
-    activateWindow();
+    comeToFront();
 }
 
 void HelpWindow::openFile(const QString& file) {
-    for (int i = 0; i < m_contents->count(); ++i) {
-        if (m_contents->item(i)->data(fileRole).toString() == file) {
+    const bool exists = QFile::exists(file) || m_contents->count() == 0;
+    m_page->setSource(urlOf(exists ? file : m_contents->item(0)->data(fileRole).toString()));
+}
+
+void HelpWindow::markTopic(const QUrl& source) {
+    for (int i = 0; i < m_contents->count(); ++i)
+        if (urlOf(m_contents->item(i)->data(fileRole).toString()) == source)
             m_contents->setCurrentRow(i);
-            return;
-        }
+}
+
+void HelpWindow::comeToFront() {
+    const QWidget* const dialog = QApplication::activeModalWidget();
+    winId(); // makes the window
+    QWindow* const above = dialog != nullptr ? dialog->window()->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != above) {
+        // A window that belongs to the waiting dialog is not blocked by it. That is looked up when
+        // the window is shown.
+        hide();
+        windowHandle()->setTransientParent(above);
     }
-    m_contents->setCurrentRow(0);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 } // namespace torvik

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The help window: one topic for each help context number and one for each step, written as HTML
-// files in help/ and built into the program.
+// files in help/ and built into the program. It stays open beside the program, and can be read
+// while a dialog waits.
 #pragma once
 
 #include <QMainWindow>
@@ -17,21 +18,28 @@ class HelpWindow : public QMainWindow {
 public:
     explicit HelpWindow(QWidget* parent = nullptr);
 
-    // Opens the window at the topic of the help context number, or at the contents where there is
-    // none.
+    // Opens the window at the topic of the help context number, or at the first one where there
+    // is none.
     void showTopic(int helpContext);
 
     // Where the topic's file is.
     static QString topicFile(int helpContext);
 
 private:
+    void layOut();
+    void connectControls();
     void fillContents();
     void filterContents(const QString& words);
     void openFile(const QString& file);
+    // The contents mark the topic on show, whichever way it came.
+    void markTopic(const QUrl& source);
+    void comeToFront();
 
     QLineEdit* m_search;
     QListWidget* m_contents;
     QTextBrowser* m_page;
+    QAction* m_back;
+    QAction* m_forward;
 };
 
 } // namespace torvik

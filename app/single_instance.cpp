@@ -2,15 +2,21 @@
 #include "app/single_instance.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
 #include <QSysInfo>
+#include <QThread>
 
 namespace torvik {
 namespace {
 
-constexpr int answerTime = 2000; // milliseconds that the running copy has to answer
+// Milliseconds that the running copy has to answer, that a lock has to be written, and between two
+// tries to reach a copy that does not listen yet.
+constexpr int answerTime = 2000;
+constexpr int settleTime = 200;
+constexpr unsigned long retryTime = 50;
 const QByteArray activateRequest = "activate\n";
 
 } // namespace
@@ -24,7 +30,7 @@ SingleInstance::SingleInstance(const QString& name, QObject* parent)
 }
 
 bool SingleInstance::claim() {
-    if (!m_lock->tryLock(0) && !(isForeign() && m_lock->tryLock(0)))
+    if (!lock())
         return false;
     // Whoever listened under this name is gone: the lock was free.
     QLocalServer::removeServer(m_name);
@@ -33,20 +39,47 @@ bool SingleInstance::claim() {
     return true;
 }
 
-bool SingleInstance::isForeign() {
+bool SingleInstance::lock() {
+    if (m_lock->tryLock(0))
+        return true;
+    if (m_lock->error() == QLockFile::LockFailedError && wasLockedHere())
+        return false;
+    // The lock says nothing: it is torn, or of another machine or an earlier name of this one, or
+    // no file can be made there. A copy that is just starting gets time to write its lock. Whether
+    // one runs is then told by whether it answers.
+    if (m_lock->tryLock(settleTime))
+        return true;
+    if (wasLockedHere() || isAnswered())
+        return false;
+    QFile::remove(m_lock->fileName());
+    // Where no lock can be made at all, the program starts all the same.
+    return m_lock->tryLock(0) || m_lock->error() != QLockFile::LockFailedError;
+}
+
+bool SingleInstance::wasLockedHere() const {
     qint64 process = 0;
     QString host;
     QString program;
-    if (m_lock->getLockInfo(&process, &host, &program) && host == QSysInfo::machineHostName())
-        return false;
-    return QFile::remove(m_lock->fileName());
+    return m_lock->getLockInfo(&process, &host, &program) && host == QSysInfo::machineHostName();
+}
+
+bool SingleInstance::isAnswered() const {
+    QLocalSocket socket;
+    socket.connectToServer(m_name);
+    return socket.waitForConnected(answerTime);
 }
 
 bool SingleInstance::activateOther() {
     QLocalSocket socket;
-    socket.connectToServer(m_name);
-    if (!socket.waitForConnected(answerTime))
-        return false;
+    const QDeadlineTimer deadline(answerTime);
+    for (;;) {
+        socket.connectToServer(m_name);
+        if (socket.waitForConnected(answerTime))
+            break;
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(retryTime);
+    }
     socket.write(activateRequest);
     if (!socket.waitForBytesWritten(answerTime))
         return false;

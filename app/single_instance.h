@@ -30,9 +30,11 @@ signals:
     void otherStarted();
 
 private:
-    // Removes a lock file that no copy on this machine can have written: a torn one, or one from
-    // when the machine had another name.
-    bool isForeign();
+    bool lock();
+    // Whether the lock file is whole and of this machine, so that its owner can be looked up.
+    bool wasLockedHere() const;
+    // Whether a copy listens.
+    bool isAnswered() const;
     void answer();
 
     QString m_name;

@@ -2,8 +2,10 @@
 #include "app/start_up.h"
 
 #include "app/about_box.h"
+#include "app/help_key.h"
 #include "app/help_window.h"
 #include "app/message_window.h"
+#include "app/resources.h"
 #include "app/single_instance.h"
 #include "base/logger.h"
 #include "tools/open_registry.h"
@@ -12,6 +14,8 @@
 #include "wizard/program_folder.h"
 
 #include <QApplication>
+
+#include <memory>
 
 namespace torvik {
 namespace {
@@ -37,6 +41,7 @@ bool guardInstance(SingleInstance& instance, StdMessageBox& messages) {
 } // namespace
 
 int runDesktop(QApplication& application) {
+    QApplication::setWindowIcon(programIcon());
     MessageWindow messages;
     SingleInstance instance(instanceName());
     if (!guardInstance(instance, messages))
@@ -50,17 +55,23 @@ int runDesktop(QApplication& application) {
     });
     Workshop workshop{*registry, logger, messages};
 
-    HelpWindow help;
+    std::unique_ptr<HelpWindow> help;
+    const auto showHelp = [&help](int context) {
+        if (!help)
+            help = std::make_unique<HelpWindow>();
+        help->showTopic(context);
+    };
     FrmMain* window = nullptr;
-    FrmMain frmMain(workshop, {.showHelp = [&](int context) { help.showTopic(context); },
-                               .showAbout = [&] { showAboutBox(window); },
-                               .Shutdown =
-                                   [&] {
-                                       help.close();
-                                       window->close();
-                                       QApplication::quit();
-                                   }});
+    const auto shutdown = [&] {
+        help.reset();
+        window->close();
+        QApplication::quit();
+    };
+    FrmMain frmMain(
+        workshop,
+        {.showHelp = showHelp, .showAbout = [&] { showAboutBox(window); }, .Shutdown = shutdown});
     window = &frmMain;
+    const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
     QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain, &FrmMain::bringToFront);
     ToolDataLoad(workshop.tools, *registry, logger);
     frmMain.show();

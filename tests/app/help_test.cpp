@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "app/help_key.h"
+#include "app/help_window.h"
+#include "app/resources.h"
+#include "base/files.h"
+#include "tests/app/app_fixture.h"
+#include "wizard/frm_main.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTimer>
+
+namespace torvik {
+namespace {
+
+// Every number that a control or a step may ask for.
+constexpr int helpNumbers[] = {1,  2,  3,   4,   5,   6,   10,  50,  52,  60, 80,
+                               90, 95, 100, 105, 110, 115, 120, 125, 242, 244};
+
+QString shownTopic(const HelpWindow& help) {
+    return help.findChild<QTextBrowser*>("txtHelp")->source().fileName();
+}
+
+QString topic(int number) {
+    return QFileInfo(HelpWindow::topicFile(number)).fileName();
+}
+
+TEST(HelpTopics, ThereIsOneForEveryNumber) {
+    loadResources();
+    for (const int number : helpNumbers)
+        EXPECT_TRUE(QFile::exists(HelpWindow::topicFile(number))) << number;
+    EXPECT_EQ(QDir(":/help").entryList(), QDir(TORVIK_HELP).entryList(QDir::Files))
+        << "every file is built in";
+}
+
+TEST(HelpTopics, AreTitledPagesOfAReadableLengthWhoseLinksLeadSomewhere) {
+    loadResources();
+    const QDir folder(":/help");
+    const QRegularExpression link("<a href=\"([^\"]*)\">");
+    for (const QString& name : folder.entryList()) {
+        SCOPED_TRACE(name.toStdString());
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(file.readAll());
+        QTextDocument page;
+        page.setHtml(html);
+        const QString title = page.metaInformation(QTextDocument::DocumentTitle);
+        EXPECT_FALSE(title.isEmpty());
+        EXPECT_EQ(page.firstBlock().text(), title);
+        const auto words = page.toPlainText().split(QRegularExpression("\\s+")).size();
+        EXPECT_GE(words, 100);
+        EXPECT_LE(words, 260);
+        for (const auto& found : link.globalMatch(html))
+            EXPECT_TRUE(folder.exists(found.captured(1))) << found.captured(1).toStdString();
+    }
+}
+
+TEST(HelpWindow, ShowsTheTopicMarksItInTheContentsAndFollowsLinks) {
+    HelpWindow help;
+    auto& contents = *help.findChild<QListWidget*>("lstHelp");
+    auto& page = *help.findChild<QTextBrowser*>("txtHelp");
+    help.showTopic(242);
+    EXPECT_TRUE(help.isVisible());
+    EXPECT_EQ(shownTopic(help), topic(242));
+    EXPECT_EQ(contents.currentItem()->text(), "Final pass depth of cut");
+
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+    QTest::keyClick(&page, Qt::Key_Tab); // to the first link
+    QTest::keyClick(&page, Qt::Key_Return);
+    EXPECT_EQ(shownTopic(help), topic(244));
+    EXPECT_EQ(contents.currentItem()->text(), "Final pass horizontal feed rate");
+    page.backward();
+    EXPECT_EQ(contents.currentItem()->text(), "Final pass depth of cut");
+
+    contents.setCurrentRow(0);
+    EXPECT_EQ(shownTopic(help), topic(1));
+    help.showTopic(7777);
+    EXPECT_EQ(shownTopic(help), topic(1)) << "a number without a topic opens the contents";
+    QTest::keyClick(&help, Qt::Key_Escape);
+    EXPECT_FALSE(help.isVisible());
+}
+
+TEST(HelpWindow, SearchesForAllWordsInAnyCase) {
+    HelpWindow help;
+    auto& contents = *help.findChild<QListWidget*>("lstHelp");
+    const auto found = [&](const char* words) {
+        help.findChild<QLineEdit*>("txtHelpSearch")->setText(words);
+        QStringList titles;
+        for (int i = 0; i < contents.count(); ++i)
+            if (!contents.item(i)->isHidden())
+                titles += contents.item(i)->text();
+        return titles;
+    };
+    EXPECT_EQ(found("CORN bird"), QStringList{"Pecks and peck distance"});
+    EXPECT_TRUE(found("no such word").isEmpty());
+    EXPECT_EQ(found(" ").size(), contents.count());
+}
+
+class HelpKeyTest : public AppTest {
+protected:
+    // The wizard with the sample on its pen pages.
+    void openPens() {
+        workshop.tools.gudtTools = {{1, "Slot drill", 6}};
+        workshop.tools.gintToolCount = 1;
+        window.show();
+        QApplication::setActiveWindow(&window);
+        window.ReadFile(pathFromUtf8(TORVIK_SAMPLES "/nameplate.plt"));
+        workshop.job.gsngSafeHeight = 5;
+        press("txtGlob1", Qt::Key_5);
+        window.Wizard(1);
+        ASSERT_EQ(workshop.job.gintWizardStep, 3);
+    }
+    void press(const QString& control, Qt::Key pressed) {
+        auto* const widget = window.findChild<QWidget*>(control);
+        ASSERT_NE(widget, nullptr) << control.toStdString();
+        widget->setFocus();
+        QTest::keyClick(widget, pressed);
+    }
+
+    class NoRegistry : public Registry {
+        std::string strRegistryValueGet(std::string_view, std::string_view usual) const override {
+            return std::string(usual);
+        }
+        void RegistryValuePut(std::string_view, std::string_view) override {}
+    } registry;
+    class NoMessages : public StdMessageBox {
+        int intStdMsgBox(const std::string& text, int, const std::string&) override {
+            ADD_FAILURE() << text;
+            return buttonOk;
+        }
+    } messages;
+    Logger logger;
+    Workshop workshop{registry, logger, messages};
+    HelpWindow help;
+    FrmMain window{workshop,
+                   {.showHelp = [this](int context) { help.showTopic(context); },
+                    .showAbout = [] {},
+                    .Shutdown = [] {}}};
+    HelpKey key{[this](const QWidget* control) { window.showHelpFor(control); }};
+};
+
+TEST_F(HelpKeyTest, OpensTheTopicOfTheControlOrOfTheStep) {
+    openPens();
+    const std::pair<const char*, int> controls[] = {
+        {"optCut0", 50}, {"txtDet0", 80}, {"txtDet3", 110}, {"txtDet4", 120}, {"cmdBack", 3}};
+    for (const auto& [control, number] : controls) {
+        press(control, Qt::Key_F1);
+        EXPECT_EQ(shownTopic(help), topic(number)) << control;
+        QApplication::setActiveWindow(&window);
+    }
+    for (const QWidget* const control : window.findChildren<QWidget*>()) {
+        const int number = control->property("helpContext").toInt();
+        EXPECT_TRUE(number == 0 || QFile::exists(HelpWindow::topicFile(number)))
+            << control->objectName().toStdString() << " asks for " << number;
+    }
+}
+
+TEST_F(HelpKeyTest, HelpsInADialogThatWaitsAndCanBeUsedBesideIt) {
+    openPens();
+    QDialog dialog(&window);
+    dialog.setProperty("helpContext", 60);
+    auto* const box = new QLineEdit(&dialog);
+    QTimer::singleShot(0, &dialog, [&] {
+        QApplication::setActiveWindow(&dialog);
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_F1);
+        EXPECT_EQ(shownTopic(help), topic(60));
+        auto& contents = *help.findChild<QListWidget*>("lstHelp");
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+        const QPoint first = contents.visualItemRect(contents.item(0)).center();
+        QTest::mouseClick(help.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          contents.viewport()->mapTo(&help, first));
+        EXPECT_EQ(shownTopic(help), topic(1)) << "the dialog does not block the help window";
+        dialog.reject();
+    });
+    dialog.exec();
+    EXPECT_TRUE(help.isVisible());
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "app/message_window.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+// Asks, and does the work on the message box that then waits.
+int ask(int style, const std::function<void(QMessageBox&)>& work) {
+    QTimer::singleShot(0, qApp, [&work] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        work(*box);
+    });
+    MessageWindow messages;
+    return messages.intStdMsgBox("First line\n<b>second</b> line", style, "Some title");
+}
+
+QString describe(const QMessageBox& box) {
+    QStringList names;
+    for (QAbstractButton* const button : box.buttons()) {
+        const bool isDefault = static_cast<QPushButton*>(button)->isDefault();
+        names += button->text().remove('&') + (isDefault ? "*" : "");
+    }
+    names.sort();
+    return names.join(' ');
+}
+
+struct Style {
+    const char* name;
+    int style;
+    QMessageBox::Icon icon;
+    const char* buttons; // the default with a star
+    int byEnter;
+    int byEscape;
+};
+
+const Style styles[] = {
+    {"a note", styleExclamation, QMessageBox::Warning, "OK*", buttonOk, buttonOk},
+    {"a question", styleQuestion, QMessageBox::Question, "No Yes*", buttonYes, buttonNo},
+    {"a question with No as default", styleQuestionDefaultNo, QMessageBox::Question, "No* Yes",
+     buttonNo, buttonNo},
+    {"something to try again", styleRetryExclamation, QMessageBox::Warning, "Cancel Retry*",
+     buttonRetry, buttonCancel},
+};
+
+TEST(MessageWindow, HasTheButtonsIconDefaultAndEscapeOfItsStyle) {
+    for (const Style& row : styles) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(ask(row.style,
+                      [&](QMessageBox& box) {
+                          EXPECT_EQ(describe(box), row.buttons);
+                          EXPECT_EQ(box.icon(), row.icon);
+                          EXPECT_EQ(box.windowTitle(), "Some title");
+                          QTest::keyClick(&box, Qt::Key_Escape);
+                      }),
+                  row.byEscape);
+        EXPECT_EQ(ask(row.style,
+                      [](QMessageBox& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); }),
+                  row.byEnter);
+        EXPECT_EQ(ask(row.style, [](QMessageBox& box) { box.close(); }), row.byEscape)
+            << "closed by its close box";
+    }
+}
+
+TEST(MessageWindow, ShowsATextAsItIsEvenWhereItLooksLikeMarkup) {
+    ask(styleExclamation, [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "First line\n<b>second</b> line");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        box.accept();
+    });
+}
+
+} // namespace
+} // namespace torvik

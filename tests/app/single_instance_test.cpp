@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "app/single_instance.h"
+#include "tests/base/temporary_folder.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QSysInfo>
+#include <QThread>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace torvik {
+namespace {
+
+const QString name = "torvik-test";
+
+// A process that has just ended.
+pid_t deadProcess() {
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(0);
+    waitpid(child, nullptr, 0);
+    return child;
+}
+
+class SingleInstanceTest : public testing::Test {
+protected:
+    void SetUp() override { qputenv("TMPDIR", folder.path().c_str()); }
+    void TearDown() override { qunsetenv("TMPDIR"); }
+
+    // What a lock file says: the process, its program, its machine.
+    static std::string lockOf(pid_t process, const std::string& program, const std::string& host) {
+        return std::to_string(process) + "\n" + program + "\n" + host + "\n";
+    }
+    void leaveLock(const std::string& text) const { folder.file("torvik-test.lock", text); }
+
+    TemporaryFolder folder;
+    const std::string here = QSysInfo::machineHostName().toStdString();
+};
+
+TEST_F(SingleInstanceTest, OnlyOneOfTwoCopiesClaims) {
+    SingleInstance first(name);
+    EXPECT_TRUE(first.claim());
+    SingleInstance second(name);
+    EXPECT_FALSE(second.claim());
+    SingleInstance ofAnotherUser("torvik-other");
+    EXPECT_TRUE(ofAnotherUser.claim());
+}
+
+TEST_F(SingleInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded) {
+    {
+        SingleInstance first(name);
+        ASSERT_TRUE(first.claim());
+    }
+    SingleInstance next(name);
+    EXPECT_TRUE(next.claim());
+    SingleInstance second(name);
+    EXPECT_FALSE(second.claim());
+}
+
+TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirst) {
+    SingleInstance first(name);
+    ASSERT_TRUE(first.claim());
+    const QSignalSpy asked(&first, &SingleInstance::otherStarted);
+    bool answered = false;
+    const std::unique_ptr<QThread> other(
+        QThread::create([&] { answered = SingleInstance(name).activateOther(); }));
+    other->start();
+    while (!other->wait(1))
+        QCoreApplication::processEvents();
+    EXPECT_TRUE(answered);
+    EXPECT_EQ(asked.count(), 1);
+}
+
+TEST_F(SingleInstanceTest, WithoutAnAnswerTheSecondCopyGivesUpAfterAShortTime) {
+    QElapsedTimer time;
+    time.start();
+    EXPECT_FALSE(SingleInstance(name).activateOther());
+    EXPECT_LT(time.elapsed(), 5000);
+}
+
+TEST_F(SingleInstanceTest, ALeftOverLockDoesNotKeepTheProgramFromStarting) {
+    const std::pair<const char*, std::string> locks[] = {
+        {"of a process that has ended", lockOf(deadProcess(), "app_test", here)},
+        {"of a process whose number another program has now", lockOf(getpid(), "torvik", here)},
+        {"torn before anything was written", ""},
+        {"torn within the number", "12"},
+        {"not a lock at all", std::string("\0\xff\n\n\n", 5)},
+        {"of another machine", lockOf(1, "app_test", "another-machine")},
+    };
+    for (const auto& [what, text] : locks) {
+        leaveLock(text);
+        SingleInstance copy(name);
+        EXPECT_TRUE(copy.claim()) << what;
+        EXPECT_FALSE(SingleInstance(name).claim()) << what;
+    }
+}
+
+TEST_F(SingleInstanceTest, ALockOfAProcessThatRunsHereIsRespected) {
+    leaveLock(lockOf(getpid(), "app_test", here));
+    EXPECT_FALSE(SingleInstance(name).claim());
+}
+
+TEST_F(SingleInstanceTest, ACopyThatAnswersCountsEvenWhenItsLockIsSpoilt) {
+    SingleInstance first(name);
+    ASSERT_TRUE(first.claim());
+    for (const std::string& lock :
+         {std::string(), lockOf(getpid(), "app_test", "the-name-before")}) {
+        leaveLock(lock);
+        EXPECT_FALSE(SingleInstance(name).claim()) << lock;
+    }
+}
+
+TEST_F(SingleInstanceTest, WithoutAFolderForLocksTheProgramStartsAllTheSame) {
+    qputenv("TMPDIR", (folder.path() / "none").c_str());
+    EXPECT_TRUE(SingleInstance(name).claim());
+}
+
+TEST_F(SingleInstanceTest, UsersHaveNamesOfTheirOwn) {
+    const QByteArray home = qgetenv("HOME");
+    const QString mine = instanceName();
+    qputenv("HOME", "/home/somebody else");
+    EXPECT_NE(instanceName(), mine);
+    EXPECT_EQ(instanceName(), instanceName());
+    qputenv("HOME", home);
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "app/single_instance.h"
+#include "app/start_up.h"
+#include "tests/app/app_fixture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace torvik {
+namespace {
+
+QMainWindow* mainWindow() {
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frmMain" && window->isVisible())
+            return qobject_cast<QMainWindow*>(window);
+    return nullptr;
+}
+
+class StartUpTest : public AppTest {
+protected:
+    // Runs the program; does the work when it has started.
+    static int run(const std::function<void()>& work) {
+        QTimer::singleShot(0, qApp, work);
+        return runDesktop(*qApp);
+    }
+};
+
+TEST_F(StartUpTest, ShowsTheMainWindowAtItsFirstStepAndEndsWhenItIsClosed) {
+    EXPECT_EQ(run([] {
+                  QMainWindow* const window = mainWindow();
+                  ASSERT_NE(window, nullptr);
+                  EXPECT_EQ(window->windowTitle(), "Torvik");
+                  EXPECT_TRUE(window->findChild<QPushButton*>("cmdStart")->isVisible());
+                  EXPECT_FALSE(window->findChild<QPushButton*>("cmdBack")->isVisible());
+                  EXPECT_FALSE(window->windowIcon().pixmap(48).isNull());
+                  window->close();
+              }),
+              0);
+    EXPECT_EQ(mainWindow(), nullptr);
+}
+
+TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
+    EXPECT_EQ(run([] {
+                  QTest::keyClick(mainWindow(), Qt::Key_F1);
+                  mainWindow()->findChild<QAction*>("mnuFileExit")->trigger();
+              }),
+              0);
+    for (const QWidget* const window : QApplication::topLevelWidgets())
+        EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+}
+
+TEST_F(StartUpTest, SaysWhatItIsAbout) {
+    run([] {
+        mainWindow()->findChild<QAction*>("mnuHelpAbout")->trigger();
+        QTimer::singleShot(0, qApp, [] {
+            auto* const about = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(about, nullptr);
+            EXPECT_TRUE(about->text().contains("Torvik"));
+            EXPECT_FALSE(about->iconPixmap().isNull());
+            about->accept();
+            mainWindow()->close();
+        });
+    });
+}
+
+// The program's own process may not wait for itself, so a second one holds the lock here and
+// either answers or not.
+TEST_F(StartUpTest, ASecondStartThatGetsNoAnswerSaysSoAndEnds) {
+    QLockFile held(QString::fromStdString(home.path().string()) + "/" + instanceName() + ".lock");
+    ASSERT_TRUE(held.lock());
+    QString said;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            said = box->text();
+            box->accept();
+        }
+    });
+    answer.start(10);
+    EXPECT_EQ(runDesktop(*qApp), 0);
+    EXPECT_EQ(said, "Torvik cannot start as a previous instance is still running");
+    EXPECT_EQ(mainWindow(), nullptr);
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,136 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# The real program, driven through keyboard and mouse alone: a drawing goes through all six steps to
+# a written Kestra file; the same drawing comes back with its answers; a second start brings the
+# first to the front; closing asks before unsaved work is lost.
+# usage: end_to_end_test.sh PROGRAM CONVERTER SAMPLES
+
+readonly program=$1 converter=$2 samples=$3
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/screen.sh"
+
+readonly opening='^Torvik$'
+readonly imported='^Torvik - importing from HPGL file .*nameplate\.plt$'
+
+step() { printf '%s\n' "$*"; }
+
+sameBytes() { cmp "$1" "$2" >&2 || { diff "$1" "$2" >&2 || true; fail "$3"; }; }
+
+# Alt+S, then the drawing's name in the file dialog.
+openDrawing() {
+  waitFor "$opening"
+  keys alt+s
+  waitFor '^Select the HPGL file to process$'
+  text "$TORVIK_HOME/Sample files/nameplate.plt"
+  keys Return
+  waitFor "$imported"
+}
+
+# chooseTool COLOUR ROW: the tool dialog comes by the button that has the focus.
+chooseTool() {
+  keys space
+  waitFor "^Select the Tool for the $1 lines\$"
+  chooseRow "$2"
+  waitFor "$imported"
+}
+
+chooseRow() {
+  keys --repeat "$1" Down
+  keys Return
+}
+
+# write NAME: on the output page, to the menu that follows.
+write() {
+  keys Return
+  waitFor '^Select the destination Kestra file$'
+  text "$home/out/$1"
+  keys Return
+  waitFor "$opening" # the menu, whose title is the program's name
+}
+
+firstConversion() {
+  openDrawing
+  step 'heights'
+  text 5 # in the first empty box, the Safe Height
+  access m # feed rates in mm per minute
+  keys Return
+  step 'first pen'
+  access c
+  chooseTool Black 4
+  fill 4000 300 75 0.4 0.4
+  keys Return
+  step 'second pen'
+  access c
+  chooseTool Red 2
+  fill 3500 240 60 3 1 0.2 120
+  keys Return
+  step 'order'
+  keys Down Up Return
+  step 'header'
+  keys shift+Tab
+  fill '14 March 2025' 'Sam Carter' 'Ms Green' 'Year 9 Blue' 'Workshop name plate' \
+    'Acrylic (two-colour)' 140 60 3
+  keys Return
+  step 'output'
+  access 4
+  write nameplate
+  sameBytes "$home/out/nameplate.iso" "$here/nameplate.iso" \
+    'the written program is not the one worked out by hand'
+  "$converter" "$TORVIK_HOME/Sample files/nameplate.plt" --target kestra --quiet \
+    --answers "$TORVIK_HOME/PlotSave/nameplate.plx" --tools "$samples/Maskor.ini" \
+    --output "$home/out/converted.iso"
+  sameBytes "$home/out/nameplate.iso" "$home/out/converted.iso" \
+    'the converter makes another program of the same answers'
+}
+
+# By Next alone: with the keyboard up to the pens, with the mouse from there.
+sameDrawingAgain() {
+  step 'the same drawing again'
+  openDrawing
+  keys Return Return
+  clickNext
+  clickNext
+  clickNext
+  write again.iso
+  sameBytes "$home/out/again.iso" "$here/nameplate.iso" \
+    'the saved answers do not give the same program'
+}
+
+clickNext() { clickAt -50 -45; }
+
+secondStart() {
+  step 'a second start'
+  waitFor "$opening"
+  xdotool windowminimize --sync "$window"
+  local second
+  "$program" 2>>"$home/errors" &
+  second=$!
+  waitForEnd "$second"
+  waitFor "$opening"
+  kill -0 "$running" || fail 'the first copy has ended'
+}
+
+closing() {
+  step 'closing'
+  openDrawing
+  keys alt+F4
+  waitFor '^Exit from Torvik$'
+  keys Escape
+  waitFor "$imported"
+  keys ctrl+q
+  waitFor '^Exit from Torvik$'
+  keys alt+y
+  waitForEnd "$running"
+  running=
+}
+
+openScreen 1280x900
+startProgram
+firstConversion
+access p # process another file
+sameDrawingAgain
+access p
+secondStart
+closing
+[[ ! -s $home/errors ]] || fail 'something was written to standard error'
+step 'passed'
