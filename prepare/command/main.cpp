@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/command/preparer.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("torvik-prepare"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));
+    // What the renderer passes over is counted and said in the report.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
+    return torvik::runPreparer(QCoreApplication::arguments(), std::cout, std::cerr);
+}

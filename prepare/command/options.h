@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// The command line of torvik-prepare.
+#pragma once
+
+#include "prepare/prepare.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace torvik {
+
+struct PrepareCommand {
+    enum class Action { prepare, help, version };
+
+    Action action = Action::prepare;
+    std::vector<std::filesystem::path> drawings;
+    std::optional<std::filesystem::path> output;
+    std::optional<std::filesystem::path> outputFolder;
+    PrepareOptions options;
+    std::map<std::string, int> colours; // "#rrggbb" to pen
+    bool report = false;
+    bool force = false;
+    bool quiet = false;
+
+    // Where drawing i (from 0) goes when it is prepared.
+    std::filesystem::path outputPath(std::size_t i) const;
+};
+
+// Reads the arguments, the program's name first. Where they are wrong, `usageError` says in one
+// line why, and the result is empty.
+std::optional<PrepareCommand> parsePrepareCommand(const QStringList& arguments,
+                                                  QString& usageError);
+
+// The text of --help.
+QString prepareHelpText();
+
+} // namespace torvik

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/command/preparer.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "convert/exit_codes.h"
+#include "job/hpgl_reader.h"
+#include "prepare/command/options.h"
+#include "prepare/report.h"
+#include "prepare/svg/svg_source.h"
+
+#include <QCoreApplication>
+#include <QSaveFile>
+
+#include <ostream>
+
+namespace torvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view programName = "torvik-prepare";
+
+// Why one drawing was not prepared.
+struct Failure {
+    ExitCode code;
+    std::string message;
+};
+
+class Preparer {
+public:
+    Preparer(const PrepareCommand& command, std::ostream& out, std::ostream& err)
+        : m_command(command), m_out(out), m_err(err) {}
+
+    int run() {
+        ExitCode code = ExitCode::done;
+        for (std::size_t i = 0; i < m_command.drawings.size(); ++i) {
+            const ExitCode result = attempt(i);
+            if (code == ExitCode::done)
+                code = result;
+        }
+        return static_cast<int>(code);
+    }
+
+private:
+    ExitCode attempt(std::size_t i) {
+        try {
+            prepare(i);
+            return ExitCode::done;
+        } catch (const Failure& failure) {
+            say(failure.message);
+            return failure.code;
+        } catch (const FileError& error) {
+            say(error.what());
+            return ExitCode::file;
+        }
+    }
+
+    void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
+
+    void prepare(std::size_t i) {
+        const fs::path& drawing = m_command.drawings[i];
+        const std::string name = utf8FromPath(drawing);
+        requireReadable(drawing);
+        const fs::path output = m_command.outputPath(i);
+        requireWritable(output, drawing);
+        const std::string bytes = readWholeFile(drawing, maxDrawingBytes);
+        const PreparedDrawing prepared = prepareBytes(bytes, name);
+        write(output, prepared.text);
+
+        if (!m_command.quiet)
+            m_out << name << " -> " << utf8FromPath(output) << '\n';
+        if (m_command.report)
+            m_out << reportText(name, prepared.report);
+        m_out.flush();
+        if (const std::string lost = lossLine(prepared.report); !lost.empty())
+            say("warning: " + name + ": not carried over: " + lost);
+    }
+
+    PreparedDrawing prepareBytes(const std::string& bytes, const std::string& name) const {
+        try {
+            return prepareDrawing(read(bytes, name), m_command.options);
+        } catch (const FileError& error) {
+            throw Failure{ExitCode::job, error.what()};
+        } catch (const RunTimeError& error) {
+            throw Failure{ExitCode::job, name + ": " + error.what()};
+        }
+    }
+
+    SourceDrawing read(const std::string& bytes, const std::string& name) const {
+        if (QString::fromStdString(name).endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive))
+            return readSvg(bytes, name, {m_command.colours});
+        HpglSourceOptions options;
+        options.roundTurn = m_command.options.roundTurn;
+        return readHpgl(bytes, name, options);
+    }
+
+    // Refuses what must not or cannot be replaced before any work is done.
+    void requireWritable(const fs::path& output, const fs::path& drawing) const {
+        std::error_code error;
+        const auto status = fs::status(output, error);
+        if (!fs::exists(status))
+            return;
+        const std::string name = utf8FromPath(output);
+        if (fs::equivalent(output, drawing, error))
+            throw FileError(name, "the prepared drawing would replace its own source");
+        if (fs::is_directory(status))
+            throw FileError(name, "there is a folder of this name");
+        if (!fs::is_regular_file(status))
+            throw FileError(name, "this is no ordinary file");
+        if (!m_command.force && !m_command.output)
+            throw FileError(name, "the file exists already; --force overwrites it");
+    }
+
+    void write(const fs::path& output, const std::string& text) const {
+        std::error_code ignored;
+        if (m_command.outputFolder)
+            fs::create_directories(*m_command.outputFolder, ignored);
+        QSaveFile file(QString::fromStdString(utf8FromPath(output)));
+        const auto size = static_cast<qint64>(text.size());
+        if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), size) != size ||
+            !file.commit())
+            throw FileError(utf8FromPath(output),
+                            "the file cannot be written: " + file.errorString().toStdString());
+    }
+
+    const PrepareCommand& m_command;
+    std::ostream& m_out;
+    std::ostream& m_err;
+};
+
+} // namespace
+
+int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+    QString usageError;
+    const auto command = parsePrepareCommand(arguments, usageError);
+    if (!command) {
+        err << programName << ": " << usageError.toStdString() << " (see --help)\n";
+        return static_cast<int>(ExitCode::usage);
+    }
+    if (command->action == PrepareCommand::Action::help) {
+        out << prepareHelpText().toStdString();
+        return static_cast<int>(ExitCode::done);
+    }
+    if (command->action == PrepareCommand::Action::version) {
+        out << programName << ' ' << QCoreApplication::applicationVersion().toStdString() << '\n';
+        return static_cast<int>(ExitCode::done);
+    }
+    return Preparer(*command, out, err).run();
+}
+
+} // namespace torvik
