@@ -11,11 +11,10 @@ namespace {
 
 void checkWholeList(const ToolList& tools) {
     if (loadedToolCount(tools) < tools.gintToolCount)
-        throw InvalidCall("the tools could not be read beyond tool " +
-                          formatInteger(loadedToolCount(tools)) + " of " +
+        throw InvalidCall("only " + formatInteger(loadedToolCount(tools)) + " of " +
                           formatInteger(tools.gintToolCount) +
-                          "; edit the last tool shown, choose it with OK and start the program "
-                          "again before tools are added or deleted");
+                          " tools could be read; edit the one that lacks its details, press OK "
+                          "and start the program again before tools are added or deleted");
 }
 
 } // namespace
