@@ -49,6 +49,9 @@ void FrmMain::Wizard(std::int16_t intDirection) {
         default:
             break;
         }
+        // Where the control with the focus has gone with its page, Enter must not lead back.
+        if (intDirection > 0 && m_back->hasFocus())
+            m_next->setFocus();
     });
 }
 

@@ -72,7 +72,6 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         controls.optCut[i] = option;
         column->addWidget(option);
     }
-    column->addStretch();
 
     controls.diagram = new PenDiagram(&page);
     controls.diagram->setObjectName("picCut");
@@ -80,6 +79,7 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addLayout(column, 1);
+    row->setAlignment(column, Qt::AlignTop);
     row->addWidget(controls.diagram, 0, Qt::AlignTop);
     layout.addLayout(row);
 }

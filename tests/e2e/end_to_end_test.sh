@@ -26,17 +26,15 @@ openDrawing() {
   waitFor "$imported"
 }
 
-# chooseTool COLOUR ROW: the tool dialog comes by the button that has the focus.
-chooseTool() {
+# cut COLOUR ROW: from the first empty box to the choice above it; the tool button, which then has
+# the focus, opens the tool list.
+cut() {
+  keys shift+Tab Up space
   keys space
   waitFor "^Select the Tool for the $1 lines\$"
-  chooseRow "$2"
-  waitFor "$imported"
-}
-
-chooseRow() {
-  keys --repeat "$1" Down
+  keys --repeat "$2" Down
   keys Return
+  waitFor "$imported"
 }
 
 # write NAME: on the output page, to the menu that follows.
@@ -51,17 +49,14 @@ write() {
 firstConversion() {
   openDrawing
   step 'heights'
-  text 5 # in the first empty box, the Safe Height
-  access m # feed rates in mm per minute
-  keys Return
+  text 5                    # in the first empty box, the Safe Height
+  keys Tab Tab space Return # feed rates in mm per minute
   step 'first pen'
-  access c
-  chooseTool Black 4
+  cut Black 4
   fill 4000 300 75 0.4 0.4
   keys Return
   step 'second pen'
-  access c
-  chooseTool Red 2
+  cut Red 2
   fill 3500 240 60 3 1 0.2 120
   keys Return
   step 'order'
@@ -72,7 +67,7 @@ firstConversion() {
     'Acrylic (two-colour)' 140 60 3
   keys Return
   step 'output'
-  access 4
+  keys Up Down
   write nameplate
   sameBytes "$home/out/nameplate.iso" "$here/nameplate.iso" \
     'the written program is not the one worked out by hand'
@@ -81,6 +76,12 @@ firstConversion() {
     --output "$home/out/converted.iso"
   sameBytes "$home/out/nameplate.iso" "$home/out/converted.iso" \
     'the converter makes another program of the same answers'
+}
+
+# The first button of the menu has the focus.
+processAnotherFile() {
+  keys space
+  until_ 'the menu does not close' isGone "$window"
 }
 
 # By Next alone: with the keyboard up to the pens, with the mouse from there.
@@ -96,7 +97,7 @@ sameDrawingAgain() {
     'the saved answers do not give the same program'
 }
 
-clickNext() { clickAt -50 -45; }
+clickNext() { clickAt -50 -22; }
 
 secondStart() {
   step 'a second start'
@@ -127,9 +128,9 @@ closing() {
 openScreen 1280x900
 startProgram
 firstConversion
-access p # process another file
+processAnotherFile
 sameDrawingAgain
-access p
+processAnotherFile
 secondStart
 closing
 [[ ! -s $home/errors ]] || fail 'something was written to standard error'

@@ -4,6 +4,7 @@
 
 set -euo pipefail
 
+readonly folderOfScreen=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 readonly patience=${TORVIK_PATIENCE:-30} # seconds that a window may take to come
 
 fail() {
@@ -28,6 +29,7 @@ openScreen() {
   export HOME=$home/user XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data \
     XDG_CACHE_HOME=$home/cache XDG_RUNTIME_DIR=$home/run TMPDIR=$home/tmp TORVIK_HOME=$home/torvik
   export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+  export LSAN_OPTIONS=suppressions=$folderOfScreen/leaks_of_others.txt:print_suppressions=0
   unset WAYLAND_DISPLAY
   mkdir -p "$HOME" "$XDG_CONFIG_HOME/Baltrum" "$TMPDIR" "$TORVIK_HOME/Sample files" "$home/out"
   mkdir -m 700 "$XDG_RUNTIME_DIR"
@@ -86,14 +88,10 @@ waitFor() {
   window=$(windowOf "$1")
 }
 
+isGone() { ! xdotool search --onlyvisible --name '.' 2>/dev/null | grep -qx "$1"; }
+
 keys() { xdotool key --delay 12 "$@"; }
 text() { xdotool type --delay 12 "$1"; }
-
-# access LETTER: a button pressed by its access key stays down for a tenth of a second.
-access() {
-  keys "alt+$1"
-  sleep 0.2
-}
 
 # fill TEXT...: types into one box after the other.
 fill() {
