@@ -59,6 +59,13 @@ struct Segment {
     bool operator==(const Segment&) const = default;
 };
 
+inline bool isLine(const Segment& segment) {
+    return segment.kind == SegmentKind::line;
+}
+inline bool isArc(const Segment& segment) {
+    return segment.kind == SegmentKind::arc;
+}
+
 struct Stroke {
     int pen = 1;
     Point start;

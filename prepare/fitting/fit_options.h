@@ -13,6 +13,9 @@ struct FitOptions {
 // Rounded coordinates turn a chord by a trifle.
 inline constexpr double turnSlack = 0.01;
 
+// What the rounding of coordinates may add to a distance.
+inline constexpr double roundingSlack = 0.0003;
+
 // Larger circles are as good as straight on any machine, and their sweeps cannot be written finely
 // enough.
 inline constexpr double largestFittedRadius = 40000;

@@ -13,9 +13,8 @@ Segment gridArcOf(Point start, const Segment& arc) {
     constexpr double sameEnd = 0.01; // plotter units
     const Segment same = arcSegment(start, arc.first, arc.sweep);
     const bool isOnGrid = arc.first == toGrid(arc.first) && arc.sweep == toGrid(arc.sweep);
-    return isOnGrid && distance(same.end, arc.end) <= sameEnd
-               ? same
-               : gridArc(start, arc.end, arc.sweep);
+    return isOnGrid && distance(same.end, arc.end) <= sameEnd ? same
+                                                              : gridArc(start, arc.end, arc.sweep);
 }
 
 } // namespace

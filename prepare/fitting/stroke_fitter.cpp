@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+// Passes and measuring; arcs of one circle stand in stroke_fitter_circles.cpp.
 #include "prepare/fitting/stroke_fitter.h"
 
 #include "base/errors.h"
 #include "prepare/arcs.h"
 #include "prepare/fitting/chord_fit.h"
-#include "prepare/fitting/circle_fit.h"
 #include "prepare/fitting/flatten.h"
 #include "prepare/fitting/grid.h"
 #include "prepare/fitting/readable_arc.h"
@@ -16,31 +16,8 @@
 namespace torvik {
 namespace {
 
-// What the rounding of coordinates may add to a distance.
-constexpr double rounding = 0.0003;
-
 // How far a curve's chords may be from it, in parts of the tolerance.
 constexpr double flattening = 0.02;
-
-constexpr double nearlyFullTurn = 359.9;
-
-bool isArc(const Segment& segment) {
-    return segment.kind == SegmentKind::arc;
-}
-
-bool isLine(const Segment& segment) {
-    return segment.kind == SegmentKind::line;
-}
-
-double radiusOf(const Segment& arc) {
-    return distance(arc.first, arc.end);
-}
-
-// Whether two arcs may belong to one circle: it would nowhere be farther off than `limit`.
-bool areOnOneCircle(const Segment& a, const Segment& b, double limit) {
-    return isArc(a) && isArc(b) && (a.sweep < 0) == (b.sweep < 0) &&
-           distance(a.first, b.first) + std::fabs(radiusOf(a) - radiusOf(b)) <= limit;
-}
 
 } // namespace
 
@@ -175,28 +152,6 @@ void StrokeFitter::fitRun(std::size_t first, std::size_t last, std::vector<Piece
         result.push_back({piece.segment, m_pieces[first + piece.last - 1].last, piece.bulge});
 }
 
-void StrokeFitter::joinArcs(std::vector<Piece>& pieces) const {
-    constexpr double mostSweep = 355;
-    std::vector<Piece> result;
-    for (const Piece& piece : pieces) {
-        if (!result.empty() &&
-            areOnOneCircle(result.back().segment, piece.segment, m_options.tolerance / 2)) {
-            Piece& before = result.back();
-            const double sweep = before.segment.sweep + piece.segment.sweep;
-            const Point start =
-                result.size() == 1 ? m_stroke.start : result[result.size() - 2].segment.end;
-            const Segment joint = gridArc(start, piece.segment.end, sweep);
-            if (std::fabs(sweep) <= mostSweep &&
-                areOnOneCircle(joint, piece.segment, m_options.tolerance)) {
-                before = {joint, piece.last, std::max(before.bulge, piece.bulge)};
-                continue;
-            }
-        }
-        result.push_back(piece);
-    }
-    pieces = std::move(result);
-}
-
 void StrokeFitter::makeReadable(std::vector<Piece>& pieces) const {
     std::vector<Piece> result;
     result.reserve(pieces.size());
@@ -216,78 +171,6 @@ void StrokeFitter::makeReadable(std::vector<Piece>& pieces) const {
     }
     pieces = std::move(result);
 }
-
-// --- circles
-
-bool StrokeFitter::isClosed() const {
-    return distance(m_stroke.start, m_pieces.back().segment.end) <= m_options.tolerance;
-}
-
-bool StrokeFitter::becomesCircle() {
-    if (m_pieces.empty() || !isClosed())
-        return false;
-    const auto ofKind = [&](auto is) {
-        return std::all_of(m_pieces.begin(), m_pieces.end(),
-                           [&](const Piece& piece) { return is(piece.segment); });
-    };
-    return ofKind(isLine) ? becomesCircleOfLines() : ofKind(isArc) && becomesCircleOfArcs();
-}
-
-bool StrokeFitter::becomesCircleOfLines() {
-    std::vector<Point> corners{m_stroke.start};
-    corners.reserve(m_pieces.size());
-    for (const Piece& piece : std::span(m_pieces).first(m_pieces.size() - 1))
-        corners.push_back(piece.segment.end);
-    const CircleFit fit = fitCircle(corners, m_options.tolerance, m_options.roundTurn);
-    constexpr double nearTolerances = 4;
-    if (fit.deviation > m_options.tolerance) {
-        if (fit.deviation <= nearTolerances * m_options.tolerance)
-            m_nearCircleTolerance = fit.deviation;
-        return false;
-    }
-    if (!isCircleThroughOwnPoints(fit.centre, fit.radius)) {
-        // Only the corners that are left lie on a circle: what stood between them must stay.
-        m_pieces = m_own;
-        settlePieces(m_pieces);
-        m_keepsOwn = true;
-        return false;
-    }
-    m_report.largestBulge =
-        std::max(m_report.largestBulge, fit.radius * (1 - std::cos(radians(fit.largestTurn) / 2)));
-    return true;
-}
-
-bool StrokeFitter::becomesCircleOfArcs() {
-    double sweep = 0;
-    Point centre;
-    double radius = 0;
-    for (const Piece& piece : m_pieces) {
-        const Segment& arc = piece.segment;
-        if (!areOnOneCircle(m_pieces[0].segment, arc, m_options.tolerance))
-            return false;
-        sweep += arc.sweep;
-        centre = centre + arc.first * arc.sweep;
-        radius += radiusOf(arc) * arc.sweep;
-    }
-    if (std::fabs(sweep) < nearlyFullTurn || std::fabs(sweep) > 2 * fullTurn - nearlyFullTurn)
-        return false;
-    return isCircleThroughOwnPoints(centre * (1 / sweep), radius / sweep);
-}
-
-bool StrokeFitter::isCircleThroughOwnPoints(Point centre, double radius) {
-    double deviation = 0;
-    for (const Point& point : m_points)
-        deviation = std::max(deviation, std::fabs(distance(centre, point) - radius));
-    if (deviation > m_options.tolerance + rounding)
-        return false;
-    ++m_report.circles;
-    m_report.largestDeviation = std::max(m_report.largestDeviation, deviation);
-    m_stroke = circleStroke(m_stroke.pen, centre, radius);
-    settle(m_stroke);
-    return true;
-}
-
-// --- measuring
 
 double StrokeFitter::deviation(Point from, const Segment& segment, std::size_t first,
                                std::size_t last) const {
@@ -314,7 +197,7 @@ bool StrokeFitter::repair() {
         std::size_t ownEnd = own;
         while (ownEnd < m_own.size() && m_own[ownEnd].last <= piece.last)
             ++ownEnd;
-        if (off <= m_options.tolerance + rounding) {
+        if (off <= m_options.tolerance + roundingSlack) {
             result.push_back(piece);
             leadIns = piece.last < first ? leadIns + 1 : 0;
             m_deviation = std::max(m_deviation, off);

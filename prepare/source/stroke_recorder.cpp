@@ -39,6 +39,11 @@ void StrokeRecorder::breakStroke() {
     m_landed = false;
 }
 
+void StrokeRecorder::endPage() {
+    breakStroke();
+    m_pageEnded = !m_strokes.empty();
+}
+
 void StrokeRecorder::draw(Point from, const Segment& segment) {
     m_landed = false;
     if (!hasPen())

@@ -31,7 +31,7 @@ public:
     // Draws a figure of its own: the stroke that is in progress goes on afterwards.
     void addFigure(Stroke figure);
 
-    void endPage() { m_pageEnded = !m_strokes.empty(); }
+    void endPage();
 
 private:
     bool hasPen();

@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: MIT
+// What each instruction of the pen language draws.
+#include "base/errors.h"
+#include "prepare/source/hpgl_source.h"
+#include "prepare/source/instruction_table.h"
+#include "stroke_text.h"
+
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+
+namespace torvik {
+namespace {
+
+struct Case {
+    const char* name;
+    std::string drawing;
+    std::string strokes;
+};
+
+// The characters of one encoded number, base 64 or 32.
+std::string encoded(long value, int base = 64) {
+    unsigned long bits = value < 0 ? static_cast<unsigned long>(-value) * 2 + 1
+                                   : static_cast<unsigned long>(value) * 2;
+    const auto b = static_cast<unsigned long>(base);
+    std::string text;
+    for (; bits >= b; bits /= b)
+        text += static_cast<char>(63 + bits % b);
+    return text + static_cast<char>((base == 64 ? 191 : 95) + bits);
+}
+
+std::string pair(long x, long y, int base = 64) {
+    return encoded(x, base) + encoded(y, base);
+}
+
+const std::vector<Case>& cases() {
+    static const std::vector<Case> table{
+        // Pens and modes
+        {"IN lifts the pen and goes back to the origin and to plotter units",
+         "SP2;SC0,1,0,1;PR;PD5,5;IN;PD10,0;", "2: 0,0 L50000,36000; 2: 0,0 L10,0"},
+        {"DF goes back to absolute plotter units and stays where it is", "PU10,10;PR;DF;PD20,20",
+         "1: 10,10 L20,20"},
+        {"SP takes a pen", "SP3;PD10,0;", "3: 0,0 L10,0"},
+        {"SP without a number puts the pen away, and nothing is drawn",
+         "SP3;PD10,0;SP;PD20,0;SP0PD30,0;SP1;PD40,0", "3: 0,0 L10,0; 1: 30,0 L40,0"},
+        {"SP with the pen down goes on with another stroke", "SP1;PD10,0;SP2;PD10,10;PU",
+         "1: 0,0 L10,0; 2: 10,0 L10,10"},
+        {"PU moves through its pairs without drawing", "PU1,2,30,40;PD50,60", "1: 30,40 L50,60"},
+        {"PD draws through all its pairs", "PD10,0,10,10;", "1: 0,0 L10,0 L10,10"},
+        {"PD without numbers lets PA draw", "PU;PA5,5;PD;PA10,5,10,10;PU;PA0,0",
+         "1: 5,5 L10,5 L10,10"},
+        {"a pair without its second number is passed over", "PD10,0,99", "1: 0,0 L10,0"},
+        {"PR makes PD and PU relative until PA", "PU10,10;PD;PR5,0,0,5;PU1,1;PD2,2;PA;PD0,0",
+         "1: 10,10 L15,10 L15,15; 1: 16,16 L18,18 L0,0"},
+        {"small letters count as capitals", "sp2;pu10,10;pd20,20;Pr1,1", "2: 10,10 L20,20 L21,21"},
+        {"blanks, signs and points part numbers", "PU 1 2;PD-3-4+5,+6.5.5 7", // 5 6.5 .5 7
+         "1: 1,2 L-3,-4 L5,6.5 L0.5,7"},
+        {"semicolons may be missing", "SP2PU1,1PD2,2PA3,3PU", "2: 1,1 L2,2 L3,3"},
+        {"an exponent belongs to its number and a mnemonic does not", "PD1E1,2e1EA30,30",
+         "1: 0,0 L10,20; 1: 10,20 L30,20 L30,30 L10,30 L10,20"},
+        {"line breaks may stand anywhere between numbers", "PD\r\n10,\n0\r,\t10 10",
+         "1: 0,0 L10,0 L10,10"},
+        {"a line of no length draws nothing", "PU5,5;PD;PA9,9,9,9;PU", "1: 5,5 L9,9"},
+        {"pen down and up without a move is a dot", "PU7,8;PD;PU;PD7,8;PU;PA9,9", "1: 7,8; 1: 7,8"},
+        {"a figure drawn with the pen down leaves no dot", "PU7,8;PD;CI5;PU", "1: O7,8 r5"},
+
+        // Encoded polylines
+        {"PE is relative and draws", "PU100,100;PE" + pair(10, -5) + pair(0, 20) + ";PD0,0",
+         "1: 100,100 L110,95 L110,115 L0,0"},
+        {"PE moves with the pen up after <",
+         "PE<" + pair(50, 60) + pair(5, 0) + "<" + pair(1, 1) + pair(2, 2) + ";",
+         "1: 50,60 L55,60; 1: 56,61 L58,63"},
+        {"PE takes one pair as absolute after =", "PU100,100;PE=" + pair(10, 20) + pair(5, 5) + ";",
+         "1: 100,100 L10,20 L15,25"},
+        {"PE selects a pen after :", "SP1;PE:" + encoded(4) + pair(10, 0) + ";", "4: 0,0 L10,0"},
+        {"PE takes fraction bits after >", "PE>" + encoded(2) + pair(10, -6) + ";",
+         "1: 0,0 L2.5,-1.5"},
+        {"PE counts in base 32 after 7", "PE7" + pair(1000, -1000, 32) + ";", "1: 0,0 L1000,-1000"},
+        {"PE in many digits", "PE" + pair(100000, 70000) + ";", "1: 0,0 L100000,70000"},
+        {"PE passes over blanks and line breaks", "PE" + encoded(3) + "\n " + encoded(4) + ";",
+         "1: 0,0 L3,4"},
+        {"PE ends the pen up after a lone <", "PD1,0;PE<;PA5,5;PD6,5", "1: 0,0 L1,0; 1: 5,5 L6,5"},
+
+        // Arcs and curves
+        {"AA draws about a centre", "PU100,0;PD;AA0,0,90;PD0,0", "1: 100,0 A0,0 90>0,100 L0,0"},
+        {"AA with the pen up only moves", "PU100,0;AA0,0,-90,5;PD0,0", "1: 0,-100 L0,0"},
+        {"AA of a full turn is two halves", "PU10,0;PD;AA0,0,360;PU",
+         "1: 10,0 A0,0 180>-10,0 A0,0 180>10,0"},
+        {"AR takes its centre from the pen's place", "PU100,50;PD;AR0,-50,180",
+         "1: 100,50 A100,0 180>100,-50"},
+        {"AT goes through its first point", "PU10,0;PD;AT0,10,-10,0", "1: 10,0 A0,0 180>-10,0"},
+        {"AT goes the other way round where its point says so", "PU10,0;PD;AT0,-10,0,10",
+         "1: 10,0 A0,0 -270>0,10"},
+        {"AT with three points on a line draws the line", "PD;AT5,5,10,10", "1: 0,0 L10,10"},
+        {"AT back to its start is a circle across to its point", "PD;AT20,0,0,0",
+         "1: 0,0 A10,0 180>20,0 A10,0 180>0,0"},
+        {"RT takes both points from the pen's place", "PU110,100;PD;RT-10,10,-20,0",
+         "1: 110,100 A100,100 180>90,100"},
+        {"BZ draws curves one after the other", "PD;BZ0,10,10,10,10,0,10,-5,20,-5,20,0",
+         "1: 0,0 B0,10 10,10>10,0 B10,-5 20,-5>20,0"},
+        {"BR counts all points of a curve from its start", "PU10,10;PD;BR0,5,5,5,5,0,1,1,2,2,3,3",
+         "1: 10,10 B10,15 15,15>15,10 B16,11 17,12>18,13"},
+
+        // Figures
+        {"CI stays at its centre", "PU50,50;CI20;PD60,50", "1: O50,50 r20; 1: 50,50 L60,50"},
+        {"CI within a stroke does not part it", "PD10,0;CI-3,5;PD20,0",
+         "1: 0,0 L10,0 L20,0; 1: O10,0 r3"},
+        {"EA leaves pen and place as they were", "PU10,10;EA30,20;PD0,0",
+         "1: 10,10 L30,10 L30,20 L10,20 L10,10; 1: 10,10 L0,0"},
+        {"ER counts from the pen's place", "PU10,10;ER20,-5", "1: 10,10 L30,10 L30,5 L10,5 L10,10"},
+        {"RA draws its outline", "PU1,1;RA3,2", "1: 1,1 L3,1 L3,2 L1,2 L1,1"},
+        {"RR draws its outline", "PU1,1;RR2,1", "1: 1,1 L3,1 L3,2 L1,2 L1,1"},
+        {"EW is two edges and an arc", "PU10,10;EW5,90,90",
+         "1: 10,10 L10,15 A10,10 90>5,10 L10,10"},
+        {"EW with a negative radius begins on the other side", "EW-5,0,-90",
+         "1: 0,0 L-5,0 A0,0 -90>0,5 L0,0"},
+        {"EW of a full turn is a circle", "EW5,0,360", "1: O0,0 r5"},
+        {"WG draws its outline", "WG5,0,90,5", "1: 0,0 L5,0 A0,0 90>0,5 L0,0"},
+        {"XT marks upwards and downwards by half a hundredth of the corners' distance",
+         "IP0,0,2000,1000;PU100,100;XT", "1: 100,95 L100,105"},
+        {"YT marks to both sides", "IP0,0,2000,1000;PU100,100;YT", "1: 90,100 L110,100"},
+        {"TL sets both lengths of marks, or one and none", "IP0,0,1000,1000;TL2,1;XT;TL3;YT;TL;XT",
+         "1: 0,-10 L0,20; 1: 0,0 L30,0; 1: 0,-5 L0,5"},
+        {"a tick within a stroke does not part it", "IP0,0,1000,1000;TL1;PD5,0;XT;PD9,0",
+         "1: 0,0 L5,0 L9,0; 1: 5,0 L5,10"},
+
+        // Polygons
+        {"PM keeps a polygon, closes it, and EP draws it", "PU10,10;PM0;PD20,10,20,20;PM2;EP;PD0,0",
+         "1: 10,10 L20,10 L20,20 L10,10; 1: 10,10 L0,0"},
+        {"EP leaves out edges drawn with the pen up", "PM;PD10,0;PU10,10;PD0,10;PM2;EP",
+         "1: 0,0 L10,0; 1: 10,10 L0,10 L0,0"},
+        {"PM1 begins another part of the polygon at the next place",
+         "PM0;PD9,0,9,9;PM1;PD3,3,5,3,5,5;PM2;EP", "1: 0,0 L9,0 L9,9 L0,0; 1: 3,3 L5,3 L5,5 L3,3"},
+        {"a circle in a polygon is a part of its own", "PU5,5;PM0;CI2;PM2;EP", "1: O5,5 r2"},
+        {"FP draws the outline of edges with the pen up, too", "PM0;PU9,0,9,9;PM2;FP",
+         "1: 0,0 L9,0 L9,9 L0,0"},
+        {"EP after FP does not draw the outline again", "PM0;PD9,0,9,9;PM2;FP;EP",
+         "1: 0,0 L9,0 L9,9 L0,0"},
+        {"EP by another pen after FP does", "SP1;PM0;PD9,0,9,9;PM2;FP;SP2;EP",
+         "1: 0,0 L9,0 L9,9 L0,0; 2: 0,0 L9,0 L9,9 L0,0"},
+        {"EP without a polygon draws nothing", "EP;FP;PM2;EP", ""},
+
+        // Units
+        {"SC stretches between P1 and P2", "IP100,200,1100,2200;SC0,10,0,10;PU1,1;PD10,10",
+         "1: 200,400 L1100,2200"},
+        {"SC keeps shapes with 1, in the middle", "IP0,0,2000,1000;SC0,10,0,10,1;PU0,0;PD10,10",
+         "1: 500,0 L1500,1000"},
+        {"SC keeps shapes with 1, with free space where it is told",
+         "IP0,0,2000,1000;SC0,10,0,10,1,0,0;PD10,10;CI1", "1: 0,0 L1000,1000; 1: O1000,1000 r100"},
+        {"SC takes plotter units of a unit with 2", "IP100,100,900,900;SC5,40,7,20,2;PU5,7;PD6,8",
+         "1: 100,100 L140,120"},
+        {"SC without numbers switches scaling off", "SC0,1,0,1;SC;PD10,10", "1: 0,0 L10,10"},
+        {"a scale that swaps left and right turns arcs round",
+         "IP0,0,100,100;SC100,0,0,100;PU10,0;PD;AA0,0,90", "1: 90,0 A100,0 -90>100,10"},
+        {"IP alone moves both corners", "IP0,0,100,100;SC0,10,0,10;IP50,50;PU0,0;PD10,10",
+         "1: 50,50 L150,150"},
+        {"IP without numbers brings the page's corners back",
+         "IP0,0,100,100;IP;SC0,10,0,10;PU0,0;PD10,10", "1: 603,521 L10603,7721"},
+        {"IR counts in hundredths of the page", "PS4000,2000;IR25,50,75,100;SC0,1,0,1;PU0,0;PD1,1",
+         "1: 1000,1000 L3000,2000"},
+        {"PS makes the page the corners of the scale", "PS4000,2000;SC0,4,0,4;PU0,0;PD4,4",
+         "1: 0,0 L4000,2000"},
+        {"RO turns the page about its corner", "PS4000,2000;RO90;PU0,0;PD100,0",
+         "1: 4000,0 L4000,100"},
+        {"RO turns relative moves and arcs", "PS4000,2000;RO180;PU100,0;PD;PR0,10;AA0,0,90",
+         "1: 3900,2000 L3900,1990 A4000,2000 90>4010,1900"},
+        {"RO without a number turns back", "RO90;RO;PD10,0", "1: 0,0 L10,0"},
+
+        // Texts and the like
+        {"LB takes all up to its end", "PD1,0;LBPD9,9;PU5,5\x03PD2,0", "1: 0,0 L1,0 L2,0"},
+        {"DT gives labels another end", "DT#;LBPD9,9;\x03;#PD2,0;DT;LBPD7,7\x03PD3,0",
+         "1: 0,0 L2,0 L3,0"},
+        {"a label without its end is over with its line", "LBPD9,9;\nPD2,0", "1: 0,0 L2,0"},
+        {"BL keeps its text", "BLPD9,9\x03PD2,0", "1: 0,0 L2,0"},
+        {"WD keeps its text", "WDPD9,9\x03PD2,0", "1: 0,0 L2,0"},
+        {"BP has its title in quotes", "BP1,\"PD9,9;\",5,1;PD2,0", "1: 0,0 L2,0"},
+        {"CO has its comment in quotes or up to the semicolon", "CO\"PD9,9;\"PD2,0;CO PD8,8;PD3,0",
+         "1: 0,0 L2,0 L3,0"},
+        {"MG has its message in quotes", "MG\"PD9,9;\";PD2,0", "1: 0,0 L2,0"},
+        {"SM takes one character", "SMP;PD2,0;SM;PD3,0", "1: 0,0 L2,0 L3,0"},
+        {"PB and UC draw nothing", "PB;UC99,5,5,-99,3;PD2,0", "1: 0,0 L2,0"},
+        {"LT, IW and page ends leave lines as they are", "LT2,4;IW0,0,1,1;PD9,0;PG;AF;AH;FR;",
+         "1: 0,0 L9,0"},
+        {"CT counts its number", "CT1;CI5", "1: O0,0 r5"},
+        {"what changes no stroke is passed over",
+         "PT0.3;VS20;FS3;WU1;PW.5,2;UL1,5,5;FT3,10;PC1,255,0,0;SI.2,.3;OE;PD2,0", "1: 0,0 L2,0"},
+        {"an unknown instruction is passed over with its numbers", "XY1,2,3;PD2,0;ZZPD3,0",
+         "1: 0,0 L2,0 L3,0"},
+
+        // What stands around a drawing
+        {"device escapes are passed over", "\x1b.(\x1b.I81;;17:\x1b.N;19:\x1b.@:IN;PD2,0;\x1b.)",
+         "1: 0,0 L2,0"},
+        {"a printer's set-up before and after the drawing is passed over",
+         "\x1b%-12345X@PJL SET PD9,9\r\n@PJL ENTER LANGUAGE=PCL\r\n\x1b"
+         "E\x1b&l1O PD8,8;\x1b*b7WPD7,7;;\x1b%0BIN;PD2,0;\x1b%0APD6,6;\x1b"
+         "E\x1b%-12345X@PJL EOJ NAME=\"PD5,5\"\r\n",
+         "1: 0,0 L2,0"},
+        {"a job line that enters the language begins the drawing",
+         "\x1b%-12345X@PJL COMMENT PD9,9\n@PJL enter language = hpgl2\nPD2,0;\x1b%-12345XPD3,3",
+         "1: 0,0 L2,0"},
+        {"a reset alone does not end a drawing that never began by an escape",
+         "\x1b"
+         "EIN;PD2,0;\x1b"
+         "EPD3,0",
+         "1: 0,0 L2,0 L3,0"},
+    };
+    return table;
+}
+
+TEST(Instructions, DrawWhatTheirRowSays) {
+    for (const Case& one : cases()) {
+        const SourceDrawing drawing = readHpgl(one.drawing, "test.plt");
+        EXPECT_EQ(strokesText(drawing.strokes), one.strokes) << one.name;
+    }
+}
+
+TEST(Instructions, HaveACaseForEveryRowThatDoesSomething) {
+    std::set<std::string> seen;
+    for (const Case& one : cases())
+        for (const auto& [name, count] : readHpgl(one.drawing, "test.plt").report.instructions)
+            seen.insert(name);
+    for (const Instruction& row : instructionTable()) {
+        const bool isIdle = row.perform == &PenPlotter::ignore && row.shape == Shape::numbers;
+        EXPECT_TRUE(isIdle || seen.contains(std::string(row.mnemonic))) << row.mnemonic;
+    }
+}
+
+TEST(Instructions, HaveOneRowEach) {
+    for (const Instruction& row : instructionTable())
+        EXPECT_EQ(findInstruction({row.mnemonic[0], row.mnemonic[1]}), &row) << row.mnemonic;
+    EXPECT_EQ(findInstruction({'Z', 'Z'}), nullptr);
+}
+
+// Where units differ in X and Y an arc is a piece of an ellipse.
+TEST(Instructions, DrawEllipsesWhereUnitsDiffer) {
+    const auto drawing = readHpgl("IP0,0,2000,1000;SC0,10,0,10;PU5,5;CI2;", "test.plt");
+    ASSERT_EQ(drawing.strokes.size(), 1U);
+    ASSERT_EQ(drawing.strokes[0].segments.size(), 8U);
+    for (const Segment& segment : drawing.strokes[0].segments) {
+        const Point onCircle{(segment.end.x - 1000) / 200, (segment.end.y - 500) / 100};
+        EXPECT_NEAR(length(onCircle), 2, 1e-9);
+    }
+}
+
+TEST(SourceReport, CountsWhatIsNotCarriedOver) {
+    const auto report =
+        readHpgl("LBa\x03;LBb\x03;FP;RA1,1;WG1,0,9;LT2;LT;LT3,4;IW;IW0,0,1,1;SM*;SM;UC1;CI9,45;"
+                 "AA5,5,90,30;PD1;AA1;SP0;PD9,9;CI4;?!;QQ;QQ1,2;PG",
+                 "test.plt")
+            .report;
+    EXPECT_EQ(report.lost(Loss::text), 2);
+    EXPECT_EQ(report.lost(Loss::fill), 3);
+    EXPECT_EQ(report.lost(Loss::dashes), 2);
+    EXPECT_EQ(report.lost(Loss::clipping), 1);
+    EXPECT_EQ(report.lost(Loss::symbols), 2);
+    EXPECT_EQ(report.lost(Loss::coarseChords), 2);
+    EXPECT_EQ(report.lost(Loss::malformed), 2);
+    EXPECT_EQ(report.lost(Loss::noPen), 2);
+    EXPECT_EQ(report.lost(Loss::pages), 0);
+    EXPECT_EQ(report.strayCharacters, 2);
+    EXPECT_EQ(report.unknown.at("QQ"), 2);
+    EXPECT_EQ(report.instructions.at("LB"), 2);
+}
+
+TEST(SourceReport, SaysWhatWasTakenForGranted) {
+    EXPECT_FALSE(readHpgl("PD1,1", "").report.selectedPen);
+    EXPECT_TRUE(readHpgl("PD1,1;SP2;PD2,2", "").report.drewBeforePen);
+    EXPECT_FALSE(readHpgl("SP2;PD2,2", "").report.drewBeforePen);
+    EXPECT_TRUE(readHpgl("SC0,1,0,1;", "").report.guessedCorners);
+    EXPECT_FALSE(readHpgl("IP0,0,1,1;SC0,1,0,1;", "").report.guessedCorners);
+    EXPECT_EQ(readHpgl("PD1,1;PG;PD2,2", "").report.lost(Loss::pages), 1);
+}
+
+struct Refusal {
+    const char* name;
+    std::string drawing;
+    std::string message;
+};
+
+TEST(HpglSource, RefusesWithFileLineAndCause) {
+    const std::vector<Refusal> refusals{
+        {"a place too far away", "IN;\nPD1,1;\nPD9e9,0;",
+         "a.plt, line 3: a place lies more than 100 m from the origin"},
+        {"a number that does not fit", "PD1e999,0", "a.plt, line 1: a number is too large"},
+        {"a circle larger than the paper", "CI1e300", "a.plt, line 1: a place lies more than"},
+        {"more segments than wanted", "PD1,1,2,2,3,3,4,4",
+         "a.plt, line 1: the drawing has more than 3 lines, arcs and curves"},
+        {"a polygon drawn again and again", "PM;PD1,1;PM2;EP;EP;EP",
+         "a.plt, line 1: the drawing has more than 3"},
+    };
+    HpglSourceOptions options;
+    options.segmentLimit = 3;
+    for (const Refusal& one : refusals) {
+        try {
+            readHpgl(one.drawing, "a.plt", options);
+            ADD_FAILURE() << one.name;
+        } catch (const FileError& error) {
+            EXPECT_EQ(std::string(error.what()).substr(0, one.message.size()), one.message)
+                << one.name;
+        }
+    }
+}
+
+} // namespace
+} // namespace torvik
