@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// Where strokes lie, which pens draw them, and in which order.
+#include "base/errors.h"
+#include "prepare/arcs.h"
+#include "prepare/placing/join.h"
+#include "prepare/placing/order.h"
+#include "prepare/placing/place.h"
+#include "stroke_text.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace torvik {
+namespace {
+
+Stroke line(int pen, Point from, Point to) {
+    return {pen, from, {lineSegment(to)}};
+}
+
+std::string placed(const Placement& placement) {
+    // An angle with an arc: 10 to 40 in X, 20 to 40 in Y.
+    std::vector<Stroke> strokes{{1, {10, 20}, {lineSegment({30, 20})}}};
+    strokes[0].segments.push_back(arcSegment({30, 20}, {30, 30}, 90));
+    place(strokes, placement);
+    return strokesText(strokes);
+}
+
+TEST(Placement, MovesScalesMirrorsAndTurns) {
+    const auto quarter = Placement{1, Mirror::none, 90, {}};
+    EXPECT_EQ(placed({}), "1: 10,20 L30,20 A30,30 90>40,30");
+    EXPECT_EQ(placed({2, Mirror::none, 0, {}}), "1: 20,40 L60,40 A60,60 90>80,60");
+    EXPECT_EQ(placed({1, Mirror::leftRight, 0, {}}), "1: 40,20 L20,20 A20,30 -90>10,30");
+    EXPECT_EQ(placed({1, Mirror::upDown, 0, {}}), "1: 10,30 L30,30 A30,20 -90>40,20");
+    EXPECT_EQ(placed(quarter), "1: 20,20 L20,40 A10,40 90>10,50");
+    EXPECT_EQ(placed({1, Mirror::none, 180, {}}), "1: 40,30 L20,30 A20,20 90>10,20");
+    EXPECT_EQ(placed({1, Mirror::none, 0, Point{-5, 0}}), "1: -5,0 L15,0 A15,10 90>25,10");
+    EXPECT_EQ(placed({0.5, Mirror::leftRight, 0, Point{0, 0}}), "1: 15,0 L5,0 A5,5 -90>0,5");
+}
+
+TEST(Pens, AreMappedAndAbove8Refused) {
+    std::vector<Stroke> strokes{line(12, {}, {1, 0}), line(3, {}, {1, 0}), line(9, {}, {1, 0})};
+    auto mapped = strokes;
+    mapPens(mapped, {{12, 1}, {9, 3}, {3, 4}});
+    EXPECT_EQ(strokesText(mapped), "1: 0,0 L1,0; 4: 0,0 L1,0; 3: 0,0 L1,0");
+    try {
+        mapPens(strokes, {});
+        ADD_FAILURE();
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "the drawing uses pens above 8 (9, 12); say which pen to take "
+                                   "for each, as in --pen 9=1");
+    }
+}
+
+TEST(Dots, BecomeCirclesOrGo) {
+    const std::vector<Stroke> strokes{{2, {5, 5}, {}}, line(1, {}, {1, 0})};
+    auto circles = strokes;
+    EXPECT_EQ(replaceDots(circles, 8), 1);
+    EXPECT_EQ(strokesText(circles), "2: O5,5 r4; 1: 0,0 L1,0");
+    auto none = strokes;
+    EXPECT_EQ(replaceDots(none, {}), 1);
+    EXPECT_EQ(strokesText(none), "1: 0,0 L1,0");
+}
+
+TEST(Joining, TakesStrokesThatGoOnWhereOneEnded) {
+    std::vector<Stroke> strokes{line(1, {0, 0}, {9, 0}), line(1, {9, 0}, {9, 9}),
+                                line(2, {9, 9}, {0, 0}), line(2, {1, 0}, {2, 0})};
+    EXPECT_EQ(joinTouching(strokes), 1);
+    EXPECT_EQ(strokesText(strokes), "1: 0,0 L9,0 L9,9; 2: 9,9 L0,0; 2: 1,0 L2,0");
+}
+
+TEST(Joining, LeavesClosedStrokesCirclesAndDotsByThemselves) {
+    const Stroke closed{1, {0, 0}, {lineSegment({9, 0}), lineSegment({9, 9}), lineSegment({0, 0})}};
+    std::vector<Stroke> strokes{
+        closed,          line(1, {0, 0}, {5, 5}), closed,
+        {1, {0, 0}, {}}, line(1, {0, 0}, {0, 4}), circleStroke(1, {0, 0}, 4)};
+    EXPECT_EQ(joinTouching(strokes), 0);
+    EXPECT_EQ(strokes.size(), 6U);
+}
+
+TEST(Duplicates, GoWhicheverWayTheyAreDrawn) {
+    std::vector<Stroke> strokes{
+        line(1, {0, 0}, {9, 0}),
+        {1, {9, 9}, {lineSegment({9, 0}), lineSegment({0, 0}), lineSegment({0, 5})}},
+        line(2, {9, 0}, {0, 0}),
+        circleStroke(1, {5, 5}, 2),
+        circleStroke(1, {5, 5}, 2),
+        {1, {1, 0}, {arcSegment({1, 0}, {0, 0}, 90)}},
+        {1, {0, 1}, {arcSegment({0, 1}, {0, 0}, -90)}},
+        {1, {0, 1}, {arcSegment({0, 1}, {0, 0}, 270)}}};
+    EXPECT_EQ(dropDuplicates(strokes), 3);
+    EXPECT_EQ(strokesText(strokes),
+              "1: 0,0 L9,0; 1: 9,9 L9,0; 1: 0,0 L0,5; 2: 9,0 L0,0; 1: O5,5 r2; 1: 1,0 A0,0 90>0,1; "
+              "1: 0,1 A0,0 270>1,0");
+}
+
+TEST(Order, GoesToTheNearestEndAndTurnsStrokesRound) {
+    std::vector<Stroke> strokes{line(2, {90, 0}, {60, 0}), line(1, {100, 0}, {70, 0}),
+                                line(1, {40, 0}, {10, 0}), circleStroke(1, {55, 0}, 5)};
+    orderStrokes(strokes);
+    EXPECT_EQ(strokesText(strokes), "1: 10,0 L40,0; 1: O55,0 r5; 1: 70,0 L100,0; 2: 90,0 L60,0");
+    EXPECT_NEAR(airLength(strokes), 10 + std::hypot(15, 5) * 2 + 10, 1e-9);
+}
+
+TEST(Order, TurnsArcsRoundWithTheirStroke) {
+    std::vector<Stroke> strokes{
+        {1, {500, 0}, {lineSegment({30, 20}), arcSegment({30, 20}, {30, 0}, 90)}}};
+    orderStrokes(strokes);
+    EXPECT_EQ(strokesText(strokes), "1: 10,0 A30,0 -90>30,20 L500,0");
+}
+
+TEST(Order, SavesMostOfTheWayAndKeepsEveryStroke) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> place(0, 10000);
+    std::vector<Stroke> strokes;
+    double drawn = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const Point from{place(random), place(random)};
+        strokes.push_back(line(1, from, from + Point{place(random) / 50, place(random) / 50}));
+        drawn += drawnLength(strokes.back());
+    }
+    const double before = airLength(strokes);
+    orderStrokes(strokes);
+    EXPECT_LT(airLength(strokes), 0.1 * before);
+    EXPECT_EQ(strokes.size(), 1000U);
+    double after = 0;
+    for (const Stroke& stroke : strokes)
+        after += drawnLength(stroke);
+    EXPECT_NEAR(after, drawn, 1e-6);
+    const auto ordered = strokes;
+    orderStrokes(strokes);
+    EXPECT_EQ(strokes, ordered) << "an order that cannot be made much shorter stays";
+}
+
+TEST(Order, TakesManyStrokesFromOnePlace) {
+    std::vector<Stroke> star;
+    for (int i = 0; i < 500; ++i)
+        star.push_back(line(1, {0, 0}, rotated({100, 0}, i * 0.7)));
+    orderStrokes(star);
+    EXPECT_EQ(star.size(), 500U);
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// What is written, how the job's own reader takes it, and what is refused.
+#include "base/errors.h"
+#include "base/logger.h"
+#include "job/hpgl_reader.h"
+#include "job/job.h"
+#include "prepare/arcs.h"
+#include "prepare/fitting/grid.h"
+#include "prepare/source/skipped.h"
+#include "prepare/writing/check.h"
+#include "prepare/writing/writer.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace torvik {
+namespace {
+
+std::string refusal(const std::string& text, const std::vector<Stroke>& strokes) {
+    try {
+        checkWritten(text, strokes, 0.01);
+    } catch (const RunTimeError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+std::vector<Stroke> sample() {
+    Stroke path{2, {10.5, 20}, {lineSegment({30, 20.0625})}};
+    path.segments.push_back(arcSegment(path.end(), {30, 120.0625}, 90));
+    path.segments.push_back(lineSegment({0, -0.0}));
+    Stroke arc{2, {0, 50}, {arcSegment({0, 50}, {0, 0}, -180)}};
+    return {circleStroke(1, {100, 200.1234}, 12.5), path, arc};
+}
+
+TEST(Writer, WritesOneInstructionALine) {
+    EXPECT_EQ(writeDrawing(sample()), "IN;\n"
+                                      "SP1;\n"
+                                      "PU100,200.1234;\n"
+                                      "CI12.5;\n"
+                                      "SP2;\n"
+                                      "PU10.5,20;\n"
+                                      "PD30,20.0625;\n"
+                                      "AA30,120.0625,90;\n"
+                                      "PD0,0;\n"
+                                      "PU0,50;\n"
+                                      "PD;\n"
+                                      "AA0,0,-180;\n"
+                                      "SP0;\n");
+}
+
+TEST(Writer, IsReadBackByTheJobsReaderToTheLastInstruction) {
+    const std::string text = writeDrawing(sample());
+    EXPECT_EQ(refusal(text, sample()), "");
+    EXPECT_EQ(countSkipped(text).harmful, 0);
+    Job job;
+    Logger logger;
+    readInstructions(job, text, "", logger);
+    ASSERT_EQ(job.gintPathCount, 5);
+    EXPECT_FLOAT_EQ(job.gudtPaths[1].sngCentreX, 2.5F);
+    EXPECT_FLOAT_EQ(job.gudtPaths[1].sngStartY, 200.1234F / 40 + 12.5F / 40);
+    // After the circle the reader stands at its top: the next stroke begins at its own place.
+    EXPECT_FLOAT_EQ(job.gudtPaths[2].sngStartX, 10.5F / 40);
+    EXPECT_FLOAT_EQ(job.gudtPaths[4].sngStartX, 130.0F / 40);
+    EXPECT_FLOAT_EQ(job.gudtPaths[5].sngStartY, 50.0F / 40);
+}
+
+// Single precision drifts along many arcs; the reader is led back before it can be seen.
+TEST(Writer, HoldsTheReaderToALongChainOfArcs) {
+    Stroke chain{1, {40000, 30000}, {}};
+    for (int i = 0; i < 4000; ++i)
+        chain.segments.push_back(
+            arcSegment(chain.end(), chain.end() + rotated({37.1234, 0}, i % 90 + 30), 33.3333));
+    settle(chain);
+    std::vector<Stroke> strokes{chain};
+    EXPECT_NO_THROW(checkWritten(writeDrawing(strokes), strokes, 0.001));
+}
+
+TEST(Check, FindsWhatIsNotReadAsItWasMeant) {
+    const auto strokes = sample();
+    const std::string text = writeDrawing(strokes);
+    const auto changed = [&](const std::string& from, const std::string& to) {
+        std::string other = text;
+        return other.replace(other.find(from), from.size(), to);
+    };
+    EXPECT_EQ(refusal(changed("CI12.5", "CI14.5"), strokes),
+              "the prepared drawing was not written, because element 1 is read back 0.050 mm "
+              "beside its place");
+    EXPECT_NE(refusal(changed("PD30,20.0625", "PD31,20.0625"), strokes), "");
+    EXPECT_NE(refusal(changed(",90;", ",91;"), strokes), "");
+    EXPECT_NE(refusal(changed("SP2;", "SP3;"), strokes), "");
+    EXPECT_NE(refusal(changed(",-180;", ",180;"), strokes), "");
+    EXPECT_NE(refusal(changed("SP0;", "PD9,9;"), strokes), "");
+    EXPECT_NE(refusal(changed("PD0,0;\n", ""), strokes), "");
+    EXPECT_NE(refusal(changed("SP2;", "SP0;"), strokes), "");
+}
+
+TEST(Check, RefusesMoreElementsThanAJobTakes) {
+    Stroke stroke{1, {}, std::vector<Segment>(32768, lineSegment({1, 1}))};
+    EXPECT_EQ(refusal("", {stroke}),
+              "the prepared drawing has 32768 lines, arcs and circles, but a job takes 32767 at "
+              "most; a larger tolerance leaves fewer of them");
+}
+
+struct SkipCase {
+    const char* name;
+    std::string drawing;
+    long harmful;
+    long harmless;
+};
+
+TEST(Skipped, CountsWhatTheJobsReaderPassesOver) {
+    const std::vector<SkipCase> cases{
+        {"the reader's own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1},
+        {"bare PU and PD go nowhere", "SP1;PU;PD;PU0,0", 0, 2},
+        {"PA after a bare PD is lost", "PD;PA5,5;PA6,6;PA;", 2, 2},
+        {"further pairs are lost", "PD1,1,2,2;PU1,1,2,2", 2, 0},
+        {"a blank in the way is a comma", "PD 10 20;PU10 20", 1, 0},
+        {"small letters are not understood", "pd1,1;vs5", 1, 1},
+        {"a blank after a semicolon hides what follows", "PU0,0; PD1,1;", 1, 0},
+        {"what follows without a semicolon is lost", "PU0,0PD1,1;", 1, 0},
+        {"units and labels are lost, their resets are not", "SC0,1,0,1;SC;LBtext;RO90;IP;", 3, 2},
+        {"nothing is read after the pen is put away", "SP0;PU0,0;PD1,1;CI5;SP1;", 2, 2},
+        {"lines end in all three ways", "PU0,0\rPE<=;\nEA1,1\r\nVS1", 2, 1},
+        {"unknown ones do no harm that can be told", "QQ1;;,;?", 0, 2},
+        {"an exponent is no instruction", "PD1e3,2E1", 0, 0},
+    };
+    for (const SkipCase& one : cases) {
+        const SkippedInstructions skipped = countSkipped(one.drawing);
+        EXPECT_EQ(skipped.harmful, one.harmful) << one.name;
+        EXPECT_EQ(skipped.harmless, one.harmless) << one.name;
+    }
+}
+
+} // namespace
+} // namespace torvik
