@@ -13,7 +13,6 @@ namespace torvik {
 namespace {
 
 // Pixels.
-constexpr int rowHeight = 24;
 constexpr int discRadius = 8;
 constexpr int discCentre = 16; // from the row's left and upper edge
 constexpr int textLeft = 33;

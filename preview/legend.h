@@ -20,6 +20,8 @@ public:
         QString text;
     };
 
+    static constexpr int rowHeight = 24; // pixels
+
     explicit Legend(QWidget* parent = nullptr);
 
     // `shallowest` and `deepest` are the piece's range of depths.

@@ -3,73 +3,52 @@
 
 #include "job/job.h"
 #include "preview/depths.h"
-#include "preview/outlines.h"
-#include "preview/painting.h"
+#include "preview/groove_painter.h"
 
 #include <cmath>
 
 namespace torvik {
 namespace {
 
-// Longer ones take the painter far more than their share of time.
-constexpr std::size_t longestChain = 64;
-constexpr double samePlace = 0.05; // image pixels
+// A level line that lies between two rows of pixels would be twice as wide and half as dark.
+void sharpen(ScreenPoint& start, ScreenPoint& end, double ScreenPoint::*across) {
+    if (std::fabs(start.*across - end.*across) < 0.01)
+        start.*across = end.*across = std::floor(start.*across) + 0.5;
+}
 
-// Paints lines; those of one colour that follow one another become one, with proper corners.
-class ChainPainter {
+// Paints lines of one pixel. The painter is quick with just these; wider ones are grooves.
+class ThinLinePainter {
 public:
-    ChainPainter(QPainter& painter, double lineWidth) : m_painter(painter) {
-        m_pen.setWidthF(lineWidth);
-        m_pen.setCapStyle(Qt::SquareCap);
-        m_pen.setJoinStyle(Qt::MiterJoin);
+    ThinLinePainter(QImage& image, const PictureView& view) : m_painter(&image), m_view(view) {
+        m_painter.setRenderHint(QPainter::Antialiasing);
     }
 
-    void add(const Points& line, std::int32_t colour) {
-        if (colour != m_colour || !continues(line.front()))
-            flush();
+    void setColour(std::int32_t colour) {
+        if (colour == m_colour)
+            return;
         m_colour = colour;
-        m_chain.insert(m_chain.end(), line.begin() + (m_chain.empty() ? 0 : 1), line.end());
-        if (m_chain.size() >= longestChain) {
-            const ScreenPoint last = m_chain.back();
-            flush();
-            m_chain.push_back(last);
-        }
+        m_painter.setPen(QPen(colourOf(colour), 1, Qt::SolidLine, Qt::SquareCap));
     }
 
-    void flush() {
-        if (m_chain.size() > 1)
-            paint();
-        m_chain.clear();
+    void groove(const Path& path, double) {
+        m_line.clear();
+        appendLine(m_line, path, m_view);
+        if (path.intType == straightLine) {
+            sharpen(m_line.front(), m_line.back(), &ScreenPoint::x);
+            sharpen(m_line.front(), m_line.back(), &ScreenPoint::y);
+        }
+        const QPointF start(m_line.front().x, m_line.front().y);
+        if (polygonOf(m_line, m_polygon).count(start) == m_polygon.size()) // it would not show
+            m_painter.fillRect(QRectF(start - QPointF(0.5, 0.5), QSizeF(1, 1)), colourOf(m_colour));
+        else
+            m_painter.drawPolyline(m_polygon);
     }
 
 private:
-    bool continues(ScreenPoint start) const {
-        return !m_chain.empty() && std::fabs(m_chain.back().x - start.x) < samePlace &&
-               std::fabs(m_chain.back().y - start.y) < samePlace;
-    }
-
-    void paint() {
-        const QPointF start(m_chain.front().x, m_chain.front().y);
-        const QColor colour = colourOf(m_colour);
-        if (polygonOf(m_chain, m_polygon).count(start) == m_polygon.size()) {
-            paintDot(start, colour); // a line of no length would not show
-            return;
-        }
-        m_pen.setColor(colour);
-        m_painter.setPen(m_pen);
-        m_painter.drawPolyline(m_polygon);
-    }
-
-    void paintDot(QPointF centre, const QColor& colour) {
-        QRectF dot(0, 0, m_pen.widthF(), m_pen.widthF());
-        dot.moveCenter(centre);
-        m_painter.fillRect(dot, colour);
-    }
-
-    QPainter& m_painter;
-    QPen m_pen;
-    std::int32_t m_colour = 0;
-    Points m_chain;
+    QPainter m_painter;
+    const PictureView& m_view;
+    std::int32_t m_colour = -1;
+    Points m_line;
     QPolygonF m_polygon;
 };
 
@@ -82,22 +61,26 @@ PictureView alignedToPixels(PictureView view) {
     return view;
 }
 
-void paintLines(QImage& image, const Job& job, const PictureView& view,
+template <typename LinePainter>
+void paintLines(LinePainter&& painter, const Job& job, double width,
                 const std::vector<bool>& shown) {
-    const PictureView aligned = alignedToPixels(view);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    ChainPainter chains(painter, view.lineWidth());
-    Points line;
     for (std::size_t i = 0; i < shown.size(); ++i) {
         if (!shown[i])
             continue;
         const Path& path = job.gudtPaths[static_cast<long>(i) + 1];
-        line.clear();
-        appendLine(line, path, aligned);
-        chains.add(line, lngPenColour(job, path.intPen));
+        painter.setColour(lngPenColour(job, path.intPen));
+        painter.groove(path, width);
     }
-    chains.flush();
+}
+
+void paintLines(QImage& image, const Job& job, const PictureView& view,
+                const std::vector<bool>& shown) {
+    const PictureView aligned = alignedToPixels(view);
+    const double width = view.lineWidth();
+    if (width > 1)
+        paintLines(GroovePainter(image, aligned), job, width, shown);
+    else
+        paintLines(ThinLinePainter(image, aligned), job, width, shown);
 }
 
 std::vector<bool> machinedPaths(const Job& job) {
@@ -132,12 +115,14 @@ void LinePicture::DrawLine(const Job& job, std::int16_t path, std::int16_t mode)
 }
 
 void LinePicture::plotBlink(const Job& job, const std::vector<std::int16_t>& paths, bool visible) {
-    m_machined = machinedPaths(job);
     m_shown = m_machined;
-    if (!visible)
-        for (const std::int16_t path : paths)
-            m_shown[flagOf(job, path)] = false;
-    showFlags(job, m_shown, visible ? 0 : 1);
+    for (const std::int16_t path : paths)
+        m_shown[flagOf(job, path)] = false;
+    showFlags(job, m_shown, 1); // at once, so that no later frame of the blinking takes longer
+    if (visible) {
+        m_shown = m_machined;
+        showFlags(job, m_shown, 0);
+    }
 }
 
 void LinePicture::forget() {

@@ -28,7 +28,8 @@ public:
     // it. Raises SubscriptOutOfRange.
     void DrawLine(const Job& job, std::int16_t path, std::int16_t mode);
 
-    // The picture of PlotLines, without the given paths unless `visible`. Raises
+    // The picture of the last PlotLines, without the given paths unless `visible`. The first frame
+    // for other paths than before paints both pictures, the later ones none. Raises
     // SubscriptOutOfRange.
     void plotBlink(const Job& job, const std::vector<std::int16_t>& paths, bool visible);
 

@@ -101,6 +101,13 @@ void discOutline(Points& outline, ScreenPoint centre, double radius) {
     appendArc(outline, centre, radius, 0, 2 * pi, radius);
 }
 
+void ringOutline(Points& outline, ScreenPoint centre, double radius, double width) {
+    if (radius > width / 2)
+        bentOutline(outline, {centre, radius, 0, 2 * pi, true}, width / 2);
+    else
+        discOutline(outline, centre, radius + width / 2);
+}
+
 void visitGroove(const Path& path, const PictureView& view, double width,
                  const std::function<void(const Points& outline)>& fill) {
     const double toolRadius = width / 2;
@@ -111,12 +118,12 @@ void visitGroove(const Path& path, const PictureView& view, double width,
         return fill(outline);
     }
     const ScreenArc arc = screenArc(path, view);
-    if (arc.radius > toolRadius) {
-        bentOutline(outline, arc, toolRadius);
+    if (arc.full) {
+        ringOutline(outline, arc.centre, arc.radius, width);
         return fill(outline);
     }
-    if (arc.full) {
-        discOutline(outline, arc.centre, arc.radius + toolRadius);
+    if (arc.radius > toolRadius) {
+        bentOutline(outline, arc, toolRadius);
         return fill(outline);
     }
     // The tool covers the arc's centre: only the chords' grooves together have the right shape.

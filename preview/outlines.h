@@ -21,6 +21,9 @@ void appendLine(Points& points, const Path& path, const PictureView& view);
 // A disc about the centre.
 void discOutline(Points& outline, ScreenPoint centre, double radius);
 
+// A ring of that width, its middle at the radius.
+void ringOutline(Points& outline, ScreenPoint centre, double radius, double width);
+
 // Calls fill(outline) for each of the outlines that together make the path's groove.
 void visitGroove(const Path& path, const PictureView& view, double width,
                  const std::function<void(const Points& outline)>& fill);

@@ -2,63 +2,18 @@
 #include "preview/piece_picture.h"
 
 #include "job/job.h"
+#include "preview/groove_painter.h"
 #include "preview/machined_path.h"
-#include "preview/outlines.h"
-#include "preview/painting.h"
 
 #include <vector>
 
 namespace torvik {
 namespace {
 
-class PiecePainter {
-public:
-    PiecePainter(QImage& image, const PictureView& view) : m_painter(&image), m_view(view) {
-        m_painter.setRenderHint(QPainter::Antialiasing);
-        m_painter.setPen(Qt::NoPen);
-    }
-
-    void setColour(std::int32_t colour) {
-        if (colour == m_colour)
-            return;
-        m_colour = colour;
-        m_painter.setBrush(colourOf(colour));
-    }
-
-    void groove(const Path& path, float diameter) {
-        visitGroove(path, m_view, m_view.toolWidth(diameter), [this](const Points& outline) {
-            m_painter.drawPolygon(polygonOf(outline, m_polygon), Qt::WindingFill);
-        });
-    }
-
-    void hole(const Path& path, float diameter) {
-        discOutline(m_outline, centreOf(path), m_view.toolWidth(diameter) / 2);
-        m_painter.drawConvexPolygon(polygonOf(m_outline, m_polygon));
-    }
-
-    // A ring that lies within the hole's edge.
-    void rim(const Path& path, float diameter) {
-        const double width = m_view.lineWidth();
-        discOutline(m_outline, centreOf(path), (m_view.toolWidth(diameter) - width) / 2);
-        m_painter.setPen(QPen(colourOf(m_colour), width, Qt::SolidLine, Qt::FlatCap));
-        m_painter.drawPolyline(polygonOf(m_outline, m_polygon));
-    }
-
-private:
-    ScreenPoint centreOf(const Path& path) const {
-        return m_view.point(path.sngCentreX, path.sngCentreY);
-    }
-
-    QPainter m_painter;
-    const PictureView& m_view;
-    std::int32_t m_colour = -1;
-    Points m_outline;
-    QPolygonF m_polygon;
-};
-
 struct Hole {
-    const Path* path;
-    MachinedPath machined;
+    ScreenPoint centre;
+    double radius; // image pixels
+    float sngDepth;
 };
 
 } // namespace
@@ -66,7 +21,7 @@ struct Hole {
 DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const Job& job,
                      const ToolList& tools, const PieceScale& piece) {
     clearImage(image, size);
-    PiecePainter painter(image, view);
+    GroovePainter painter(image, view);
     DepthList depths;
     std::vector<Hole> coverable;
     const auto setColour = [&](float depth) {
@@ -77,21 +32,25 @@ DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const J
         if (job.gudtPens[path.intPen].blnOmit)
             continue;
         const MachinedPath machined = machinedPath(job, tools, path);
+        const double width = view.toolWidth(machined.sngDiameter);
         SaveDepth(depths, machined.sngDepth);
         setColour(machined.sngDepth);
         if (!machined.blnHole) {
-            painter.groove(path, machined.sngDiameter);
+            painter.groove(path, width);
             continue;
         }
-        painter.hole(path, machined.sngDiameter);
+        const Hole hole{view.point(path.sngCentreX, path.sngCentreY), width / 2, machined.sngDepth};
+        painter.disc(hole.centre, hole.radius);
         // The deepest work is painted last, so nothing lies over its holes.
-        if (machined.sngDepth < piece.sngDeepest)
-            coverable.push_back({&path, machined});
+        if (hole.sngDepth < piece.sngDeepest)
+            coverable.push_back(hole);
     }
-    // Shallow holes that deeper work runs over still show where they are.
+    // Shallow holes that deeper work runs over still show where they are, by a ring within their
+    // edge.
+    const double rim = view.lineWidth();
     for (const Hole& hole : coverable) {
-        setColour(hole.machined.sngDepth);
-        painter.rim(*hole.path, hole.machined.sngDiameter);
+        setColour(hole.sngDepth);
+        painter.ring(hole.centre, hole.radius - rim / 2, rim);
     }
     return depths;
 }

@@ -13,6 +13,7 @@
 #include <QResizeEvent>
 #include <QScrollArea>
 
+#include <algorithm>
 #include <cmath>
 
 namespace torvik {
@@ -21,7 +22,6 @@ namespace {
 constexpr int helpPreview = 10;
 constexpr int stripMargin = 8; // pixels, as all here
 constexpr int rowsBelow = 3;   // of the legend where its strip lies below the drawing
-constexpr int legendRowHeight = 24;
 
 // Ink on paper, whatever the theme.
 QPalette paper() {
@@ -82,6 +82,7 @@ void PreviewWidget::buildLegendStrip() {
     m_strip->setObjectName(QStringLiteral("picLegend"));
     m_legendCaption = new QLabel(QStringLiteral("Depths"), m_strip);
     m_legendCaption->setObjectName(QStringLiteral("lblLegend"));
+    m_legendCaption->setIndent(stripMargin); // in line with the discs below it
     m_legendArea = new QScrollArea(m_strip);
     m_legendArea->setFrameShape(QFrame::NoFrame);
     m_legendArea->setFocusPolicy(Qt::NoFocus);
@@ -94,23 +95,29 @@ void PreviewWidget::buildLegendStrip() {
     m_legendArea->viewport()->installEventFilter(this);
 
     auto* column = new QBoxLayout(QBoxLayout::TopToBottom, m_strip);
-    column->setContentsMargins(stripMargin, stripMargin, stripMargin, stripMargin);
+    column->setContentsMargins(0, stripMargin, stripMargin, stripMargin);
     column->setSpacing(0);
     column->addWidget(m_legendCaption);
     column->addWidget(m_legendArea, 1);
 }
 
-// The strip lies where the frame has more room than most drawings need.
+// The strip lies where it leaves more room for the drawing.
 void PreviewWidget::placeLegendStrip() {
-    const bool beside = width() >= height();
+    const int stripWidth = m_legend->columnWidth() + stripMargin;
+    const int stripHeight =
+        m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight + 2 * stripMargin;
+    const double shape = m_line.extents.empty() || m_line.extents.height() == 0
+                             ? 1
+                             : m_line.extents.width() / m_line.extents.height();
+    const bool beside = std::min<double>(width() - stripWidth, height() * shape) >=
+                        std::min<double>(width(), (height() - stripHeight) * shape);
     m_layout->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_strip->setMinimumSize(0, 0);
     m_strip->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     if (beside)
-        m_strip->setFixedWidth(m_legend->columnWidth() + stripMargin);
+        m_strip->setFixedWidth(stripWidth);
     else
-        m_strip->setFixedHeight(m_legendCaption->sizeHint().height() + rowsBelow * legendRowHeight +
-                                2 * stripMargin);
+        m_strip->setFixedHeight(stripHeight);
     m_layout->activate();
 }
 
@@ -119,7 +126,8 @@ void PreviewWidget::GetScale() {
     m_lines.forget();
     startShowing(Showing::nothing);
     torvik::GetScale(m_job, frameSize(), m_line, m_logger);
-    placePicture();
+    placeLegendStrip();
+    refitToFrame();
 }
 
 void PreviewWidget::PlotLines() {

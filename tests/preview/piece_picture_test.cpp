@@ -36,32 +36,21 @@ constexpr QRgb grey(int level) {
     return qRgb(level, level, level);
 }
 
-double distanceToLine(const Path& path, double x, double y) {
-    const double dx = path.sngEndX - path.sngStartX;
-    const double dy = path.sngEndY - path.sngStartY;
-    const double square = dx * dx + dy * dy;
-    const double along = (x - path.sngStartX) * dx + (y - path.sngStartY) * dy;
-    const double part = square == 0 ? 0 : std::clamp(along / square, 0.0, 1.0);
-    return std::hypot(path.sngStartX + part * dx - x, path.sngStartY + part * dy - y);
-}
-
-double distanceToArc(const Path& path, double x, double y) {
-    const auto turn = [&](double angle) { // counter-clockwise from the arc's first angle
-        return std::fmod(angle - path.sngAngleFrom + 4 * M_PI, 2 * M_PI);
-    };
-    const double dx = x - path.sngCentreX;
-    const double dy = y - path.sngCentreY;
-    const double length = turn(path.sngAngleTo) == 0 ? 7 : turn(path.sngAngleTo);
-    if (turn(std::atan2(dy, dx)) <= length)
-        return std::fabs(std::hypot(dx, dy) - path.sngRadius);
-    return std::min(std::hypot(path.sngStartX - x, path.sngStartY - y),
-                    std::hypot(path.sngEndX - x, path.sngEndY - y));
-}
-
-double distanceTo(const Path& path, bool drilled, double x, double y) {
-    if (drilled)
-        return std::hypot(path.sngCentreX - x, path.sngCentreY - y);
-    return path.intType == straightLine ? distanceToLine(path, x, y) : distanceToArc(path, x, y);
+// From the point to the nearest of many points of the path.
+double distanceTo(const Path& path, double x, double y) {
+    double nearest = 1e9;
+    for (double part = 0; part <= 1; part += 0.002) {
+        double px = path.sngStartX + part * (path.sngEndX - path.sngStartX);
+        double py = path.sngStartY + part * (path.sngEndY - path.sngStartY);
+        if (path.intType != straightLine) {
+            double sweep = path.sngAngleTo - path.sngAngleFrom;
+            sweep += sweep <= 0 ? 2 * M_PI : 0;
+            px = path.sngCentreX + path.sngRadius * std::cos(path.sngAngleFrom + part * sweep);
+            py = path.sngCentreY + path.sngRadius * std::sin(path.sngAngleFrom + part * sweep);
+        }
+        nearest = std::min(nearest, std::hypot(px - x, py - y));
+    }
+    return nearest;
 }
 
 struct ShapeCase {
@@ -74,6 +63,7 @@ struct ShapeCase {
 TEST(DrawPiece, ShowsJustWhatTheToolTouches) {
     const ShapeCase cases[] = {
         {"a line", "SP1;PU600,800;PD1500,1300", false},
+        {"a short line", "SP1;PU600,800;PD800,700", false},
         {"a dot", "SP1;PU600,800;PD600,800", false},
         {"an arc", "SP1;PU1400,1000;AA1000,1000,200", false},
         {"a clockwise arc", "SP1;PU1400,1000;AA1000,1000,-70", false},
@@ -92,11 +82,13 @@ TEST(DrawPiece, ShowsJustWhatTheToolTouches) {
         const Painted painted = paint(job, tools);
         const Path& path = job.gudtPaths[1];
         int wrong = 0;
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x) {
+        for (int y = 0; y < side; y += 3)
+            for (int x = 0; x < side; x += 3) {
                 const double mmX = (x + 0.5) / 4;
                 const double mmY = (side - y - 0.5) / 4;
-                const double distance = distanceTo(path, row.drill, mmX, mmY);
+                const double distance =
+                    row.drill ? std::hypot(path.sngCentreX - mmX, path.sngCentreY - mmY)
+                              : distanceTo(path, mmX, mmY);
                 const QRgb pixel = painted.image.pixel(x, y);
                 wrong += distance < 3.75 && pixel != grey(0xC0); // a pixel's width inside
                 wrong += distance > 4.25 && pixel != white;

@@ -25,13 +25,6 @@ struct FitCase {
     PictureBox picture; // twips
 };
 
-void expectBox(const PictureBox& box, const PictureBox& expected) {
-    EXPECT_NEAR(box.sngLeft, expected.sngLeft, 0.001);
-    EXPECT_NEAR(box.sngTop, expected.sngTop, 0.001);
-    EXPECT_NEAR(box.sngWidth, expected.sngWidth, 0.001);
-    EXPECT_NEAR(box.sngHeight, expected.sngHeight, 0.001);
-}
-
 TEST(GetScale, FitsDrawings) {
     const FitCase cases[] = {
         {"a wide drawing fills the width",
@@ -69,52 +62,31 @@ TEST(GetScale, FitsDrawings) {
         EXPECT_FLOAT_EQ(scale.fit.gsngScale, row.fit.gsngScale);
         EXPECT_FLOAT_EQ(scale.fit.gsngOffsetX, row.fit.gsngOffsetX);
         EXPECT_FLOAT_EQ(scale.fit.gsngOffsetY, row.fit.gsngOffsetY);
-        expectBox(scale.picture, row.picture);
+        EXPECT_NEAR(scale.picture.sngLeft, row.picture.sngLeft, 0.001);
+        EXPECT_NEAR(scale.picture.sngTop, row.picture.sngTop, 0.001);
+        EXPECT_NEAR(scale.picture.sngWidth, row.picture.sngWidth, 0.001);
+        EXPECT_NEAR(scale.picture.sngHeight, row.picture.sngHeight, 0.001);
     }
-}
-
-TEST(GetScale, TheLowestLeftExtremeLiesEightPixelsInsideThePicture) {
-    const LineScale scale = lineScale(readDrawing("SP1;PU400,800;PD1200,800"));
-    const PictureView view{scale.fit, scale.picture.sngHeight, {}, 1};
-    EXPECT_FLOAT_EQ(static_cast<float>(view.screenX(10)), 120);
-    EXPECT_FLOAT_EQ(static_cast<float>(view.screenY(20)), 120);
-}
-
-TEST(GetScale, AnotherFrameGivesTheSameFitAsReadingAgain) {
-    LineScale scale = lineScale(readDrawing("SP1;PU400,400;PD4400,2400"));
-    refit(scale, {300 * 15, 400 * 15});
-    EXPECT_FLOAT_EQ(scale.fit.gsngScale, 42.6F);
-    expectBox(scale.picture, {0, 1815, 4500, 2370});
 }
 
 struct ArcCase {
     const char* name;
-    float from, to;
-    Extents expected; // of an arc of radius 10 about 0, 0
+    const char* drawing; // radius 10 mm about 0, 0
+    Extents expected;
 };
 
 TEST(GetScale, ArcsCountWithTheirBulges) {
-    const double s = 10 * std::sqrt(0.5);
     const ArcCase cases[] = {
-        {"over the top", 0.785398F, 2.356194F, {-s, s, s, 10}},
-        {"over the angle 0", 5.497787F, 0.785398F, {s, -s, 10, s}},
-        {"all but the right side", 0.785398F, 5.497787F, {-10, -10, s, 10}},
-        {"over 0 and round to the bottom", 3.926991F, 2.356194F, {-s, -10, 10, 10}},
-        {"within a quarter", 0.785398F, 1.570796F, {0, s, s, 10}},
+        {"over the top", "SP1;PU240,320;AA0,0,73.7398", {-6, 8, 6, 10}},
+        {"over the angle 0", "SP1;PU240,-320;AA0,0,106.2602", {6, -8, 10, 8}},
+        {"all but the right side", "SP1;PU240,320;AA0,0,253.7398", {-10, -10, 6, 10}},
+        {"the same, clockwise", "SP1;PU240,-320;AA0,0,-253.7398", {-10, -10, 6, 10}},
+        {"over 0 and round to the bottom", "SP1;PU-320,-240;AA0,0,253.7398", {-8, -10, 10, 10}},
+        {"within a quarter", "SP1;PU320,240;AA0,0,16.2602", {6, 6, 8, 8}},
     };
     for (const ArcCase& row : cases) {
         SCOPED_TRACE(row.name);
-        Path arc{arcCounterClockwise, 1};
-        arc.sngRadius = 10;
-        arc.sngAngleFrom = row.from;
-        arc.sngAngleTo = row.to;
-        arc.sngStartX = 10 * std::cos(row.from);
-        arc.sngStartY = 10 * std::sin(row.from);
-        arc.sngEndX = 10 * std::cos(row.to);
-        arc.sngEndY = 10 * std::sin(row.to);
-        Job job;
-        job.gudtPaths.append(arc);
-        const Extents found = lineScale(job).extents;
+        const Extents found = lineScale(readDrawing(row.drawing)).extents;
         EXPECT_NEAR(found.minX, row.expected.minX, 1e-5);
         EXPECT_NEAR(found.minY, row.expected.minY, 1e-5);
         EXPECT_NEAR(found.maxX, row.expected.maxX, 1e-5);
@@ -138,33 +110,23 @@ TEST(Arcs, AWholeTurnWithinAHundredthIsACircle) {
 }
 
 TEST(GetPieceScale, WidensEachPathByItsTool) {
-    // Black lines, Red lines that are left out, Blue holes drilled, each 10 mm from the next.
+    // Black lines, Red ones that are left out, a Blue circle drilled with a tool of 3 mm.
     Job job = machinedDrawing("SP1;PU400,400;PD4400,2400;SP2;PU400,400;PD8000,2400;"
-                              "SP4;PU2000,2000;CI200",
+                              "SP4;PU200,2000;CI400",
                               {{1, 4}, {0, 9}, {0, 0}, {2, 2.5F}});
     job.gudtPens[2].blnOmit = true;
     job.gudtPens[4].blnDrill = true;
     Logger logger;
     PieceScale piece;
     ASSERT_TRUE(GetPieceScale(job, toolsOf({6, 3}), frame, piece, logger));
-    EXPECT_EQ(piece.extents.minX, 7);
+    EXPECT_EQ(piece.extents.minX, 3.5); // the hole
     EXPECT_EQ(piece.extents.minY, 7);
     EXPECT_EQ(piece.extents.maxX, 200); // a left-out line has no width
     EXPECT_EQ(piece.extents.maxY, 63);
-    EXPECT_FLOAT_EQ(piece.fit.gsngScale, 8760.0F / 193);
-    EXPECT_FLOAT_EQ(piece.fit.gsngOffsetX, 8760.0F / 193 * 7 - 120);
+    EXPECT_FLOAT_EQ(piece.fit.gsngScale, 8760 / 196.5F);
+    EXPECT_FLOAT_EQ(piece.fit.gsngOffsetX, 8760 / 196.5F * 3.5F - 120);
     EXPECT_FLOAT_EQ(piece.sngShallowest, 2.5F);
     EXPECT_FLOAT_EQ(piece.sngDeepest, 4);
-}
-
-TEST(GetPieceScale, ADrilledCircleCountsAsItsToolsDisc) {
-    Job job = machinedDrawing("SP1;PU2000,2000;CI200", {{0, 0}, {1, 2}});
-    job.gudtPens[1].blnDrill = true;
-    Logger logger;
-    PieceScale piece;
-    ASSERT_TRUE(GetPieceScale(job, toolsOf({3}), frame, piece, logger));
-    EXPECT_FLOAT_EQ(piece.fit.gsngScale, 1920); // 5760 twips for 3 mm
-    EXPECT_FLOAT_EQ(piece.fit.gsngOffsetY, 1920 * 48.5F - 120);
 }
 
 TEST(GetPieceScale, NamesTheGroupWithoutATool) {
