@@ -46,16 +46,19 @@ public:
     }
 
 private:
+    // Dots become circles between scaling and placing: their diameter is the part's, and the
+    // drawing's corner is theirs as well.
     void placeAll() {
         mapPens(m_strokes, m_options.pens);
-        Placement placement{m_options.scale, m_options.mirror, m_options.rotation, {}};
-        if (m_options.origin)
-            placement.origin = *m_options.origin * plotterUnitsPerMm;
-        place(m_strokes, placement);
+        place(m_strokes, {m_options.scale, Mirror::none, 0, {}});
         std::optional<double> dots;
         if (m_options.dots)
             dots = *m_options.dots * plotterUnitsPerMm;
         m_result.report.dots = replaceDots(m_strokes, dots);
+        Placement placement{1, m_options.mirror, m_options.rotation, {}};
+        if (m_options.origin)
+            placement.origin = *m_options.origin * plotterUnitsPerMm;
+        place(m_strokes, placement);
         m_result.report.dotsDrawn = dots.has_value();
         if (m_strokes.empty())
             throw RunTimeError(m_result.report.dots > 0

@@ -144,6 +144,8 @@ private:
     void checkFiles(const PrepareCommand& command) {
         if (command.drawings.empty())
             mistake(QStringLiteral("no drawing is named"));
+        if (command.output && command.output->empty())
+            mistake(QStringLiteral("--output needs the name of a file"));
         if (command.output && command.outputFolder)
             mistake(QStringLiteral("--output and --output-dir exclude each other"));
         if (command.drawings.size() > 1 && command.output)
