@@ -48,11 +48,14 @@ void Legend::fitHeight(int height) {
     setMinimumWidth(columns * columnWidth());
 }
 
+int Legend::stripWidth() const {
+    return textLeft + fontMetrics().horizontalAdvance(QStringLiteral("88.88 mm")) + columnGap;
+}
+
 int Legend::columnWidth() const {
-    const QFontMetrics metrics(font());
-    int text = metrics.horizontalAdvance(QStringLiteral("88.88 mm"));
+    int text = 0;
     for (const Row& row : m_rows)
-        text = std::max(text, metrics.horizontalAdvance(row.text));
+        text = std::max(text, fontMetrics().horizontalAdvance(row.text));
     return textLeft + text + columnGap;
 }
 

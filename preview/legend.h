@@ -31,13 +31,15 @@ public:
 
     // Lays the rows out for that height, and takes the width that they need.
     void fitHeight(int height);
-    // The width of a column, for depths of up to 99.99 mm at least.
-    int columnWidth() const;
+    // The width of a column for depths of up to 99.99 mm, whatever it shows now.
+    int stripWidth() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int columnWidth() const;
+
     std::vector<Row> m_rows;
     int m_rowsInColumn = 1;
 };

@@ -57,14 +57,6 @@ PreviewWidget::PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QW
     m_picPlot->setAccessibleName(QStringLiteral("Preview of the drawing"));
     m_picPlot->setProperty("helpContext", helpPreview);
 
-    auto* over = new QBoxLayout(QBoxLayout::TopToBottom, m_picBack);
-    m_noDrawing = new QLabel(QStringLiteral("The drawing appears here."), m_picBack);
-    m_noDrawing->setObjectName(QStringLiteral("lblNoDrawing"));
-    m_noDrawing->setAlignment(Qt::AlignCenter);
-    m_noDrawing->setWordWrap(true);
-    m_noDrawing->setPalette(quietPaper());
-    over->addWidget(m_noDrawing);
-
     setFrameShape(QFrame::StyledPanel);
     setPalette(paper());
     setAutoFillBackground(true);
@@ -74,6 +66,11 @@ PreviewWidget::PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QW
     m_layout->addWidget(m_picBack, 1);
     m_layout->addWidget(m_strip);
     placeLegendStrip();
+
+    m_noDrawing = new QLabel(QStringLiteral("The drawing appears here."), this);
+    m_noDrawing->setObjectName(QStringLiteral("lblNoDrawing"));
+    m_noDrawing->setAlignment(Qt::AlignCenter);
+    m_noDrawing->setPalette(quietPaper());
     startShowing(Showing::nothing);
 }
 
@@ -103,7 +100,7 @@ void PreviewWidget::buildLegendStrip() {
 
 // The strip lies where it leaves more room for the drawing.
 void PreviewWidget::placeLegendStrip() {
-    const int stripWidth = m_legend->columnWidth() + stripMargin;
+    const int stripWidth = m_legend->stripWidth() + stripMargin;
     const int stripHeight =
         m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight + 2 * stripMargin;
     const double shape = m_line.extents.empty() || m_line.extents.height() == 0
@@ -119,6 +116,12 @@ void PreviewWidget::placeLegendStrip() {
     else
         m_strip->setFixedHeight(stripHeight);
     m_layout->activate();
+}
+
+// Both show the picture, and painting the lower one leaves out what the upper one covers.
+void PreviewWidget::redraw() {
+    m_picBack->update();
+    m_picPlot->update();
 }
 
 void PreviewWidget::GetScale() {
@@ -142,7 +145,7 @@ void PreviewWidget::DrawLine(std::int16_t path, std::int16_t mode) {
             paintLines();
         }
         m_lines.DrawLine(m_job, path, mode);
-        m_picBack->update();
+        redraw();
     });
 }
 
@@ -154,7 +157,7 @@ void PreviewWidget::plotBlink(const std::vector<std::int16_t>& paths, bool visib
     m_failed = !withQuietErrorTrap(m_logger, {"PlotLines", "modHpgl"}, [&] {
         paintLines();
         m_lines.plotBlink(m_job, paths, visible);
-        m_picBack->update();
+        redraw();
     });
 }
 
@@ -192,7 +195,7 @@ void PreviewWidget::startShowing(Showing what) {
     m_legendArea->setVisible(what == Showing::piece);
     m_noDrawing->setVisible(what == Showing::nothing);
     m_picPlot->setVisible(what != Showing::nothing);
-    m_picBack->update();
+    redraw();
 }
 
 bool PreviewWidget::isStale() const {
@@ -214,7 +217,7 @@ void PreviewWidget::paintPiece() {
 void PreviewWidget::painted() {
     m_resized = false;
     m_paintedRatio = devicePixelRatioF();
-    m_picBack->update();
+    redraw();
 }
 
 void PreviewWidget::paintAgain() {
@@ -274,6 +277,7 @@ QSize PreviewWidget::sizeHint() const {
 
 void PreviewWidget::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
+    m_noDrawing->setGeometry(rect());
     placeLegendStrip();
 }
 

@@ -66,6 +66,7 @@ private:
     FrameSize frameSize() const;
     PictureView view() const;
     QSize imageSize() const;
+    void redraw();
     void startShowing(Showing what);
     bool isStale() const;
     void paintLines();

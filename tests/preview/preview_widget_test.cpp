@@ -47,6 +47,23 @@ protected:
     PreviewWidget preview{job, tools, logger};
 };
 
+// The picture as it is on the screen, without being asked to paint.
+class OnScreen : public QObject {
+public:
+    explicit OnScreen(QWidget& widget) { widget.installEventFilter(this); }
+    int takePaints() {
+        QCoreApplication::processEvents();
+        return std::exchange(m_paints, 0);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        m_paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_paints = 0;
+};
+
 const char* const plate = "SP1;PU400,400;PD4400,2400";
 
 TEST_F(PreviewWidgetTest, ThePictureIsSizedAndCentred) {
@@ -146,6 +163,25 @@ TEST_F(PreviewWidgetTest, ABlinkThatFailsIsLoggedOnceAndNotReported) {
         preview.plotBlink({7}, false);
     std::ifstream lines(log);
     EXPECT_EQ(std::count(std::istreambuf_iterator<char>(lines), {}, '\n'), 1);
+}
+
+TEST_F(PreviewWidgetTest, EveryNewPictureComesToTheScreen) {
+    PreviewWidget shown(job, tools, logger);
+    OnScreen screen(*shown.findChild<QWidget*>("picPlot"));
+    shown.resize(700, 500);
+    shown.show();
+    job = machinedDrawing(plate, {{1, 2}});
+    shown.GetScale();
+    shown.PlotLines();
+    EXPECT_GT(screen.takePaints(), 0);
+    shown.plotBlink({1}, false);
+    EXPECT_GT(screen.takePaints(), 0) << "the lines go";
+    shown.plotBlink({1}, true);
+    EXPECT_GT(screen.takePaints(), 0) << "and come back";
+    shown.DrawLine(1, 1);
+    EXPECT_GT(screen.takePaints(), 0) << "one is erased";
+    shown.DrawPiece();
+    EXPECT_GT(screen.takePaints(), 0) << "the piece";
 }
 
 } // namespace
