@@ -101,9 +101,9 @@ private:
         requireTools(job, drawing);
 
         const auto output = m_options.outputPath(i);
-        refuseOverwritingInput(output);
+        refuseOverwritingInput(output, job);
         if (m_options.dialect->needsNumber())
-            refuseOverwritingInput(sideTextPath(output));
+            refuseOverwritingInput(sideTextPath(output), job);
         if (m_options.outputFolder)
             std::filesystem::create_directories(*m_options.outputFolder, m_ignoredError);
         const bool overwrite = m_options.force || m_options.output.has_value();
@@ -118,10 +118,9 @@ private:
     void loadTools() {
         if (m_toolsLoaded)
             return;
-        if (m_options.tools)
-            requireReadable(*m_options.tools);
         const std::unique_ptr<RegistryReader> registry =
-            m_options.tools ? std::make_unique<SettingsFileReader>(*m_options.tools)
+            m_options.tools ? std::make_unique<SettingsFileReader>(
+                                  *m_options.tools, SettingsFileReader::IfUnreadable::raises)
                             : openRegistryReader();
         const auto value = [&](const char* name) {
             return registry->strRegistryValueGet(name, "");
@@ -130,7 +129,7 @@ private:
                                                     value("LogInfo"), value("LogExclude")));
         ToolDataLoad(m_tools, *registry, m_logger);
         m_toolsLoaded = true;
-        sayWarnings("the tool library: ");
+        sayWarnings((m_options.tools ? utf8FromPath(*m_options.tools) : registryPlace()) + ": ");
     }
 
     void import(Job& job, const std::filesystem::path& drawing) {
@@ -168,11 +167,10 @@ private:
     }
 
     // A program, and the text beside it, may take the place of nothing that this run reads.
-    void refuseOverwritingInput(const std::filesystem::path& output) const {
+    void refuseOverwritingInput(const std::filesystem::path& output, const Job& job) const {
         auto inputs = m_options.drawings;
-        for (const auto& file : {m_options.answers, m_options.tools})
-            if (file)
-                inputs.push_back(*file);
+        inputs.push_back(pathFromUtf8(job.gstrSavedFile));
+        inputs.push_back(m_options.tools.value_or(userSettingsFile()));
         for (const auto& input : inputs) {
             std::error_code error;
             if (std::filesystem::equivalent(output, input, error))
@@ -192,9 +190,7 @@ private:
     std::error_code m_ignoredError;
 };
 
-} // namespace
-
-int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
+int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
     std::string usageError;
     const auto options = parseOptions(std::move(arguments), usageError);
     if (!options) {
@@ -210,6 +206,16 @@ int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ost
         return static_cast<int>(ExitCode::done);
     }
     return Converter(*options, out, err).run();
+}
+
+} // namespace
+
+int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
+    const int code = doAsTold(std::move(arguments), out, err);
+    if (out.flush())
+        return code;
+    err << programName << ": the standard output cannot be written\n";
+    return code == 0 ? static_cast<int>(ExitCode::file) : code;
 }
 
 } // namespace torvik

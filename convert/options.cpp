@@ -75,6 +75,13 @@ public:
     using RunTimeError::RunTimeError;
 };
 
+// An empty name is what an unset variable of a script leaves: nothing that was meant.
+std::filesystem::path namedPath(const char* value, const char* what) {
+    if (*value == '\0')
+        throw UsageError(std::string(what) + " is an empty name");
+    return pathFromUtf8(value);
+}
+
 void take(ConvertOptions& options, std::string& target, std::string& number, int code,
           const char* value) {
     switch (code) {
@@ -85,16 +92,16 @@ void take(ConvertOptions& options, std::string& target, std::string& number, int
         number = value;
         break;
     case optionAnswers:
-        options.answers = pathFromUtf8(value);
+        options.answers = namedPath(value, "the value of --answers");
         break;
     case optionTools:
-        options.tools = pathFromUtf8(value);
+        options.tools = namedPath(value, "the value of --tools");
         break;
     case optionOutput:
-        options.output = pathFromUtf8(value);
+        options.output = namedPath(value, "the value of --output");
         break;
     case optionOutputFolder:
-        options.outputFolder = pathFromUtf8(value);
+        options.outputFolder = namedPath(value, "the value of --output-dir");
         break;
     case optionDate:
         options.date = value;
@@ -145,15 +152,16 @@ void setNumber(ConvertOptions& options, const std::string& text) {
 }
 
 void checkOutputs(const ConvertOptions& options) {
-    if (options.output && options.output->empty())
-        throw UsageError("--output needs the name of a file");
     if (options.output && options.outputFolder)
         throw UsageError("--output and --output-dir exclude each other");
     if (options.drawings.size() > 1 && (options.output || options.answers))
         throw UsageError("--output and --answers take one drawing only");
     std::set<std::filesystem::path> names;
     for (std::size_t i = 0; i < options.drawings.size(); ++i) {
-        const auto path = std::filesystem::absolute(options.outputPath(i)).lexically_normal();
+        auto path = options.outputPath(i);
+        std::error_code ignored; // without a current folder the names alone are compared
+        if (const auto whole = std::filesystem::absolute(path, ignored); !ignored)
+            path = whole.lexically_normal();
         if (!names.insert(path).second)
             throw UsageError("two drawings give the same output " + utf8FromPath(path));
     }
@@ -194,7 +202,7 @@ ConvertOptions parse(std::vector<std::string>& arguments) {
             return options;
     }
     for (auto i = static_cast<std::size_t>(optind); i < arguments.size(); ++i)
-        options.drawings.push_back(pathFromUtf8(words[i]));
+        options.drawings.push_back(namedPath(words[i], "a drawing"));
 
     if (options.drawings.empty())
         throw UsageError("no drawing is named");

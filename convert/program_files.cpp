@@ -31,8 +31,10 @@ long processId() {
 // A file under a temporary name, which takes its own name when it is whole and otherwise goes.
 class PendingFile {
 public:
-    explicit PendingFile(const fs::path& target) : m_target(target), m_pending(target) {
-        m_pending += ".torvik-" + std::to_string(processId());
+    // `part` keeps the temporary names of one run apart.
+    PendingFile(const fs::path& target, const char* part)
+        : m_target(target), m_pending(target.parent_path() /
+                                      (".torvik-" + std::to_string(processId()) + "." + part)) {
         m_sink.emplace(m_pending, utf8FromPath(m_target)); // the user knows it by its own name
     }
     PendingFile(const PendingFile&) = delete;
@@ -88,14 +90,17 @@ fs::path writableTarget(const fs::path& file, bool overwrite) {
         throw FileError(utf8FromPath(file), "this is no ordinary file");
     if (!overwrite)
         throw FileError(utf8FromPath(file), "the file exists already; --force overwrites it");
-    return fs::canonical(file);
+    const fs::path real = fs::canonical(file, error);
+    if (error)
+        throw FileError(utf8FromPath(file), "the file cannot be replaced: " + error.message());
+    return real;
 }
 
 } // namespace
 
 bool writeProgramFiles(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
                        const fs::path& program, bool overwrite, Logger& logger) {
-    PendingFile pendingProgram(writableTarget(program, overwrite));
+    PendingFile pendingProgram(writableTarget(program, overwrite), "program");
     const bool whole = writeProgram(job, tools, dialect, number, pendingProgram.sink(), logger);
     pendingProgram.close();
     if (!whole)
@@ -104,7 +109,7 @@ bool writeProgramFiles(Job& job, const ToolList& tools, const Dialect& dialect, 
         pendingProgram.commit();
         return true;
     }
-    PendingFile pendingText(writableTarget(sideTextPath(program), overwrite));
+    PendingFile pendingText(writableTarget(sideTextPath(program), overwrite), "text");
     writeSideText(job, tools, utf8FromPath(program.filename()), pendingText.sink(), logger);
     pendingText.close();
     pendingText.commit();

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <numeric>
 #include <string_view>
 
@@ -38,7 +39,10 @@ constexpr std::array<std::string_view, 16> ordinals{
     "Ninth", "Tenth",  "Eleventh", "Twelfth", "Thirteenth", "Fourteenth", "Fifteenth", "Sixteenth"};
 
 void appendSettingsGroup(Job& job) {
-    job.gintSettingsCount = toInt16(job.gintSettingsCount + 1.0);
+    if (job.gintSettingsCount == std::numeric_limits<std::int16_t>::max())
+        throw FileError(job.gstrPlotFile,
+                        "the pens and their circle sizes are more than 32767 together");
+    ++job.gintSettingsCount;
     job.gudtSettings.append({});
 }
 

@@ -11,18 +11,20 @@
 namespace torvik {
 namespace {
 
-std::string textOf(const std::filesystem::path& file) {
+std::string textOf(const std::filesystem::path& file, SettingsFileReader::IfUnreadable otherwise) {
     try {
         return readWholeFile(file, maxSettingsBytes);
     } catch (const FileError&) {
+        if (otherwise == SettingsFileReader::IfUnreadable::raises)
+            throw;
         return {};
     }
 }
 
 } // namespace
 
-SettingsFileReader::SettingsFileReader(const std::filesystem::path& file)
-    : m_text(textOf(file), settingsSection) {}
+SettingsFileReader::SettingsFileReader(const std::filesystem::path& file, IfUnreadable otherwise)
+    : m_text(textOf(file, otherwise), settingsSection) {}
 
 std::string SettingsFileReader::strRegistryValueGet(std::string_view name,
                                                     std::string_view defaultText) const {
@@ -41,6 +43,14 @@ std::unique_ptr<RegistryReader> openRegistryReader() {
     return std::make_unique<WindowsRegistry>();
 #else
     return std::make_unique<SettingsFileReader>(userSettingsFile());
+#endif
+}
+
+std::string registryPlace() {
+#ifdef _WIN32
+    return "HKEY_LOCAL_MACHINE\\SOFTWARE\\Baltrum\\Maskor";
+#else
+    return utf8FromPath(userSettingsFile());
 #endif
 }
 

@@ -13,8 +13,11 @@ namespace torvik {
 
 class SettingsFileReader : public RegistryReader {
 public:
-    // Reads the file; one that is missing or cannot be read holds nothing.
-    explicit SettingsFileReader(const std::filesystem::path& file);
+    enum class IfUnreadable { holdsNothing, raises };
+
+    // Reads the file. One that is missing or cannot be read holds nothing, or raises FileError.
+    explicit SettingsFileReader(const std::filesystem::path& file,
+                                IfUnreadable otherwise = IfUnreadable::holdsNothing);
 
     std::string strRegistryValueGet(std::string_view name,
                                     std::string_view defaultText) const override;
@@ -33,5 +36,7 @@ std::filesystem::path userSettingsFile();
 // What the programs share, for reading: the Windows registry on Windows, the user's settings file
 // elsewhere.
 std::unique_ptr<RegistryReader> openRegistryReader();
+// Where that is, as the user finds it.
+std::string registryPlace();
 
 } // namespace torvik

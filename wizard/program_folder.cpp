@@ -17,7 +17,11 @@ namespace fs = std::filesystem;
 
 fs::path homeFolder() {
     const std::string home = environmentText("TORVIK_HOME");
-    return home.empty() ? fs::path() : fs::absolute(pathFromUtf8(home)).lexically_normal();
+    if (home.empty())
+        return {};
+    std::error_code ignored; // where there is no current folder, the name stays as it is
+    const fs::path whole = fs::absolute(pathFromUtf8(home), ignored);
+    return ignored ? pathFromUtf8(home) : whole.lexically_normal();
 }
 
 #ifdef _WIN32

@@ -9,7 +9,7 @@
 namespace torvik {
 
 // The program's own folder: what the environment variable TORVIK_HOME names, else where the
-// executable stands. Needs a QCoreApplication, as the others do.
+// executable stands.
 std::filesystem::path programFolder();
 
 // The program's own folder where it can be written (always, if TORVIK_HOME names it), else

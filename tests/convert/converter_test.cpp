@@ -51,8 +51,9 @@ protected:
         return std::to_string(code) + "|" + m_conversion.out + "|" + m_conversion.err;
     }
 
-private:
     Conversion m_conversion;
+
+private:
     std::pair<Files, Files> m_kept;
 };
 
@@ -80,6 +81,8 @@ TEST_F(Converter, RefusesMistakesBeforeAnythingIsWritten) {
         {"a.plt", "--target", "wincam", "--number", "0"},
         {"a.plt", "--target", "wincam", "--number", "1e3"},
         {"a.plt", "--target", "kestra", "--fast"},
+        {"a.plt", "--target", "kestra", "--output-dir", ""},
+        {"a.plt", "", "--target", "kestra"},
         {"a.plt", "--target"},
         {"a.plt"},
         {"--target", "kestra"},
@@ -147,6 +150,24 @@ TEST_F(Converter, FillsInAMissingDateOnly) {
               "2||torvik-convert: no.ini: the file does not exist\n");
 }
 
+TEST_F(Converter, NamesTheFileThatIsToBlame) {
+    write("long.ini", "[Maskor]\n" + std::string(17 << 20, 'x'));
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--tools", "long.ini"}),
+              "2||torvik-convert: long.ini: the file is larger than 16 MB\n");
+    write("odd.ini", "[Maskor]\nToolCount=1\nTool01=70000|Drill|5|0\n");
+    EXPECT_TRUE(run({"a.plt", "--target", "kestra", "--tools", "odd.ini"})
+                    .starts_with("4||torvik-convert: warning: odd.ini: Tool01: "));
+    std::string sizes = "SP1;";
+    for (int i = 1; i <= 32767; ++i)
+        sizes += "PU0,0;CI" + std::to_string(i) + ";";
+    write("sizes.plt", sizes);
+    EXPECT_EQ(run({"--show", "sizes.plt"}),
+              "4||torvik-convert: sizes.plt: the pens and their circle sizes are more than 32767 "
+              "together\n");
+    const std::string kept = (m_conversion.home() / "PlotSave/a.plx").string();
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output", kept}).substr(0, 3), "2||");
+}
+
 TEST_F(Converter, ShowsWhatDrawingsHold) {
     fs::copy(golden / "mixed_job/drawing.plt", path("mixed.plt"));
     EXPECT_EQ(run({"--show", "mixed.plt"}),
@@ -172,6 +193,9 @@ TEST_F(Converter, RunsAsAProgram) {
           "--date", "--force", "--quiet", "--show"})
         EXPECT_NE(help.find(option), std::string::npos) << option;
     EXPECT_EQ(call("a.plt --target kestra"), "0|a.plt -> a.iso\n");
+    EXPECT_EQ(call("--show a.plt 2>&1 >/dev/full |"
+                   " grep -c 'torvik-convert: the standard output cannot be written'"),
+              "0|1\n");
     EXPECT_EQ(bytes("a.iso"), readWholeFile(golden / "cut_job/expected.iso", 1 << 20));
     EXPECT_EQ(call("bad.plt --target kestra").substr(0, 2), "4|");
 }
