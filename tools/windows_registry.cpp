@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/windows_registry.h"
 
+#include <windows.h>
+
 #include <algorithm>
 #include <array>
-#include <windows.h>
 
 namespace torvik {
 

@@ -153,8 +153,7 @@ static_assert(table.size() < 256);
 constexpr std::size_t letters = 26;
 
 constexpr std::size_t cell(char first, char second) {
-    return static_cast<std::size_t>(first - 'A') * letters +
-           static_cast<std::size_t>(second - 'A');
+    return static_cast<std::size_t>(first - 'A') * letters + static_cast<std::size_t>(second - 'A');
 }
 
 // The row of each pair of letters, counted from 1; 0 for none.

@@ -4,10 +4,11 @@
 // ("get NAME DEFAULT") or writes ("put NAME TEXT") one value.
 #include "tools/windows_registry.h"
 
+#include <windows.h>
+
 #include <cstdio>
 #include <cstring>
 #include <string>
-#include <windows.h>
 
 namespace {
 
