@@ -121,7 +121,11 @@ void PenPage::offerTool() {
 
 void PenPage::CheckCutState() {
     withErrorTrap(m_workshop.logger, {"CheckCutState", "modHpgl"}, [&] {
-        m_controls.optCut[leaveOut]->setEnabled(machinedPens(m_workshop.job) > 1);
+        QRadioButton& leave = *m_controls.optCut[leaveOut];
+        const bool mayLeaveOut = machinedPens(m_workshop.job) > 1;
+        if (!mayLeaveOut && leave.hasFocus()) // else it would go on to cmdBack
+            m_controls.optCut[machine]->setFocus();
+        leave.setEnabled(mayLeaveOut);
     });
 }
 
