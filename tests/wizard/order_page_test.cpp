@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "tests/wizard/pen_page_fixture.h"
+#include "wizard/order_page.h"
+
+namespace torvik {
+namespace {
+
+class OrderPageTest : public testing::Test {
+protected:
+    void show(std::initializer_list<int> machined, std::initializer_list<int> leftOut = {}) {
+        SetColourDefinitions(job);
+        for (int pen = 1; pen <= penCount; ++pen)
+            job.gudtPens[pen].blnUsed = job.gudtPens[pen].blnOmit = false;
+        for (const int pen : machined)
+            job.gudtPens[pen].blnUsed = true;
+        for (const int pen : leftOut)
+            job.gudtPens[pen].blnUsed = job.gudtPens[pen].blnOmit = true;
+        job.gintWizardStep = 4;
+        page.ShowOrder(1);
+        page.resize(400, 500);
+        page.show();
+        QApplication::setActiveWindow(&page);
+        QApplication::processEvents();
+    }
+    QLabel* row(int i) { return page.findChild<QLabel*>("lblOrd" + QString::number(i)); }
+    QLabel* picture(int i) { return page.findChild<QLabel*>("picOrd" + QString::number(i)); }
+    QPushButton& button(const char* name) { return *page.findChild<QPushButton*>(name); }
+    void click(QWidget* where) { QTest::mouseClick(where, Qt::LeftButton); }
+
+    // The rows, the selected one in brackets, and the buttons that can be pressed.
+    std::string rows() {
+        std::string text;
+        for (int i = 1; row(i) != nullptr; ++i) {
+            const std::string caption = row(i)->text().toStdString();
+            text += row(i)->autoFillBackground() ? "[" + caption + "] " : caption + " ";
+            EXPECT_EQ(caption, job.gudtPens[row(i)->property("Tag").toString().toInt()].strColour);
+            EXPECT_EQ(picture(i)->accessibleName(), row(i)->text());
+        }
+        text += button("cmdUp").isEnabled() ? "up " : "";
+        return text + (button("cmdDown").isEnabled() ? "down" : "");
+    }
+    std::string order() {
+        page.readOrder();
+        std::string text;
+        for (const std::int16_t pen : job.gintOrder)
+            text += std::to_string(pen);
+        return text;
+    }
+
+    ScriptedMessages messages;
+    NoRegistry registry;
+    Logger logger;
+    Workshop workshop{registry, logger, messages};
+    Job& job = workshop.job;
+    OrderPage page{workshop};
+};
+
+TEST_F(OrderPageTest, PensStandInPenOrderAtFirstWithoutThoseLeftOut) {
+    job.gintOrder.fill(2); // stale
+    show({1, 3, 4}, {2});
+    EXPECT_EQ(rows(), "[Black] Green Blue down");
+    EXPECT_EQ(order(), "13400000");
+    EXPECT_TRUE(job.gblnOrderSet);
+    EXPECT_EQ(job.gintOrderCount, 3);
+}
+
+TEST_F(OrderPageTest, AChosenOrderStaysUntilAPenIsSwitched) {
+    show({1, 3, 4});
+    click(row(3));
+    click(&button("cmdUp"));
+    EXPECT_EQ(order(), "14300000");
+    page.ShowOrder(-1);
+    EXPECT_EQ(rows(), "[Black] Blue Green down");
+    job.gudtPens[3].blnOmit = true;
+    job.gblnOrderSet = false;
+    page.ShowOrder(1);
+    EXPECT_EQ(rows(), "[Black] Blue down");
+    EXPECT_EQ(order(), "14000000");
+}
+
+TEST_F(OrderPageTest, TheSelectedRowTravelsWithItsPen) {
+    show({1, 3, 4});
+    click(row(3));
+    EXPECT_EQ(rows(), "Black Green [Blue] up ");
+    page.KeyCheck(38);
+    EXPECT_EQ(rows(), "Black [Blue] Green up down");
+    page.KeyCheck(38);
+    EXPECT_EQ(rows(), "[Blue] Black Green down");
+    page.KeyCheck(38); // nowhere to go
+    page.ColourReOrder(-1);
+    EXPECT_EQ(rows(), "[Blue] Black Green down");
+    page.KeyCheck(40);
+    EXPECT_EQ(rows(), "Black [Blue] Green up down");
+    page.KeyCheck(37);
+    job.gintWizardStep = 5;
+    page.KeyCheck(38);
+    EXPECT_EQ(rows(), "Black [Blue] Green up down");
+    click(&button("cmdDown"));
+    page.ColourReOrder(1);
+    EXPECT_EQ(order(), "13400000");
+}
+
+TEST_F(OrderPageTest, ASingleRowLeavesDownOpenAndGoesNowhere) {
+    show({5});
+    EXPECT_EQ(rows(), "[Brown] down");
+    page.KeyCheck(40);
+    EXPECT_EQ(rows(), "[Brown] down");
+    show({});
+    page.ColourReOrder(1);
+    EXPECT_EQ(order(), "00000000");
+}
+
+TEST_F(OrderPageTest, TheFocusOnAPictureSelectsItsRowAndStaysWithThePen) {
+    show({1, 3, 4});
+    picture(2)->setFocus();
+    EXPECT_EQ(rows(), "Black [Green] Blue up down");
+    page.KeyCheck(40);
+    EXPECT_EQ(rows(), "Black Blue [Green] up ");
+    EXPECT_TRUE(picture(3)->hasFocus());
+    click(row(1));
+    EXPECT_TRUE(picture(1)->hasFocus());
+    // Coming back to the window is no choice.
+    page.ListItemClicked(2, 4);
+    picture(1)->clearFocus();
+    picture(1)->setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(rows(), "Black [Blue] Green up down");
+}
+
+TEST_F(OrderPageTest, AButtonThatClosesDoesNotHandItsFocusToTheOther) {
+    show({1, 3});
+    click(row(2));
+    button("cmdUp").setFocus();
+    QTest::keyClick(&button("cmdUp"), Qt::Key_Space);
+    EXPECT_EQ(rows(), "[Green] Black down");
+    EXPECT_TRUE(picture(1)->hasFocus());
+}
+
+TEST_F(OrderPageTest, ARowIsDraggedPastOthersOneByOne) {
+    show({1, 3, 4, 8});
+    QTest::mousePress(row(1), Qt::LeftButton);
+    const auto moveTo = [&](QPoint place) {
+        const QPointF local = row(1)->mapFromGlobal(place);
+        QMouseEvent move(QEvent::MouseMove, local, place, Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(row(1), &move);
+    };
+    moveTo(row(3)->mapToGlobal(QPoint(5, 5)));
+    EXPECT_EQ(rows(), "Green Blue [Black] Purple up down");
+    moveTo(page.mapToGlobal(QPoint(5, page.height() - 1)));
+    EXPECT_EQ(rows(), "Green Blue Purple [Black] up ");
+    moveTo(page.mapToGlobal(QPoint(5, 0)));
+    EXPECT_EQ(rows(), "[Black] Green Blue Purple down");
+    QTest::mouseRelease(row(1), Qt::LeftButton);
+    EXPECT_EQ(order(), "13480000");
+}
+
+} // namespace
+} // namespace torvik
