@@ -25,6 +25,8 @@
 namespace torvik {
 namespace {
 
+constexpr QSize roomForFrame(16, 48); // what the window manager puts round the window
+
 QPushButton* button(const QString& name, const QString& text, const QString& help) {
     auto* const result = new QPushButton(text);
     result->setObjectName(name);
@@ -71,7 +73,7 @@ FrmMain::FrmMain(Workshop& workshop, FrameServices services)
 
     qApp->installEventFilter(this);
     showStep(1);
-    resize(QSize(1180, 760).boundedTo(screen()->availableSize()));
+    resize(QSize(1180, 760).boundedTo(screen()->availableSize() - roomForFrame));
 }
 
 void FrmMain::buildWindow() {
@@ -121,6 +123,7 @@ QWidget* FrmMain::buildSide() {
     layout->addSpacing(8);
     layout->addWidget(treeLabel);
     layout->addWidget(m_tree, 1);
+    layout->addStretch(); // where the tree is hidden
     treeLabel->hide();
     return side;
 }

@@ -37,8 +37,9 @@ void FrmMain::buildMenu() {
     tree->setCheckable(true);
     tree->setChecked(true);
     QAction* const whole =
-        view->addAction(tr("&Full screen"), QKeySequence(Qt::Key_F11), this,
-                        [this](bool on) { on ? showFullScreen() : showNormal(); });
+        view->addAction(tr("&Full screen"), QKeySequence(Qt::Key_F11), this, [this](bool on) {
+            setWindowState(windowState().setFlag(Qt::WindowFullScreen, on));
+        });
     whole->setObjectName(QStringLiteral("mnuViewFullScreen"));
     whole->setCheckable(true);
 

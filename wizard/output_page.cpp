@@ -27,7 +27,7 @@ const QString targetKey = QStringLiteral("OutputTarget");
 // What the target's program becomes: a numbered file on the diskette, or a file anywhere.
 QString whereItGoes(const Dialect& dialect) {
     if (dialect.needsNumber())
-        return OutputPage::tr("a numbered program on the diskette, a:\\%1…")
+        return OutputPage::tr("on the diskette, as a:\\%1…")
             .arg(QString::fromUtf8(dialect.diskettePrefix));
     return OutputPage::tr("a file (.%1) where you choose")
         .arg(QString::fromUtf8(dialect.extension));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The desktop program's own settings (window, recent drawings, last target). What the workshop's
+// The desktop program's own settings (recent drawings, last target). What the workshop's
 // programs share is in the registry instead.
 #pragma once
 

@@ -134,8 +134,8 @@ protected:
     }
     // Next until the step (and title of the pen page) is reached.
     void go(int step, const std::string& title = {}) {
-        for (int i = 0; i < 30 && (job.gintWizardStep != step ||
-                                   label("lblDetTitle").find(title) == std::string::npos);
+        for (int i = 0; i < 30 && !(job.gintWizardStep == step &&
+                                    label("lblDetTitle").find(title) != std::string::npos);
              ++i)
             click("cmdNext");
         ASSERT_EQ(job.gintWizardStep, step);
