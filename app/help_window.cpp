@@ -51,6 +51,9 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_page->setObjectName(QStringLiteral("txtHelp"));
     m_page->setAccessibleName(tr("Topic"));
     m_page->document()->setDocumentMargin(16);
+    m_page->document()->setDefaultStyleSheet(QStringLiteral(
+        "table { margin-top: 6px; margin-bottom: 8px; } li { margin-bottom: 4px; }"));
+    m_contents->setSpacing(1);
     layOut();
     connectControls();
     fillContents();

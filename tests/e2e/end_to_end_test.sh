@@ -78,12 +78,6 @@ firstConversion() {
     'the converter makes another program of the same answers'
 }
 
-# The first button of the menu has the focus.
-processAnotherFile() {
-  keys space
-  until_ 'the menu does not close' isGone "$window"
-}
-
 # By Next alone: with the keyboard up to the pens, with the mouse from there.
 sameDrawingAgain() {
   step 'the same drawing again'

@@ -77,21 +77,25 @@ until_() {
   done
 }
 
+# Whether the window has the keyboard; $window is its number.
 isActive() {
-  local window
   window=$(windowOf "$1") && [[ $(xdotool getactivewindow 2>/dev/null) == "$window" ]]
 }
 
-# waitFor TITLE_PATTERN: until the window has the keyboard. $window is its number.
-waitFor() {
-  until_ "no window '$1' came to the front" isActive "$1"
-  window=$(windowOf "$1")
-}
+# waitFor TITLE_PATTERN: until the window has the keyboard.
+waitFor() { until_ "no window '$1' came to the front" isActive "$1"; }
 
 isGone() { ! xdotool search --onlyvisible --name '.' 2>/dev/null | grep -qx "$1"; }
 
 keys() { xdotool key --delay 12 "$@"; }
 text() { xdotool type --delay 12 "$1"; }
+
+# The menu after a conversion bears the program's name, as the main window then does. Its first
+# button has the focus.
+processAnotherFile() {
+  keys space
+  until_ 'the menu does not close' isGone "$window"
+}
 
 # fill TEXT...: types into one box after the other.
 fill() {
