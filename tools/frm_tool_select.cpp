@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::string_view form = "frmToolSelect";
 constexpr int focusInterval = 50; // milliseconds
+constexpr int helpTools = 60;
 
 } // namespace
 
@@ -34,6 +35,7 @@ FrmToolSelect::FrmToolSelect(ToolList& tools, Registry& registry, Logger& logger
       m_grid(new ToolGrid) {
     setObjectName(QStringLiteral("frmToolSelect"));
     setProperty(tagProperty, QString());
+    setProperty("helpContext", helpTools);
     m_grid->setToolTip(tr("The workshop's tools. Choose one with a click or the arrow keys"));
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(dialogMargin, dialogMargin, dialogMargin, dialogMargin);

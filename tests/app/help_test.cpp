@@ -4,10 +4,10 @@
 #include "app/resources.h"
 #include "base/files.h"
 #include "tests/app/app_fixture.h"
+#include "tools/frm_tool_select.h"
 #include "wizard/frm_main.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
@@ -165,13 +165,10 @@ TEST_F(HelpKeyTest, OpensTheTopicOfTheControlOrOfTheStep) {
 
 TEST_F(HelpKeyTest, HelpsInADialogThatWaitsAndCanBeUsedBesideIt) {
     openPens();
-    QDialog dialog(&window);
-    dialog.setProperty("helpContext", 60);
-    auto* const box = new QLineEdit(&dialog);
+    FrmToolSelect dialog(workshop.tools, registry, logger, messages, &window);
     QTimer::singleShot(0, &dialog, [&] {
         QApplication::setActiveWindow(&dialog);
-        box->setFocus();
-        QTest::keyClick(box, Qt::Key_F1);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
         EXPECT_EQ(shownTopic(help), topic(60));
         auto& contents = *help.findChild<QListWidget*>("lstHelp");
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
