@@ -26,7 +26,8 @@ public:
         : m_options(options),
           m_strokes(std::move(source.strokes)), m_fit{options.tolerance * plotterUnitsPerMm *
                                                           fittingShare,
-                                                      options.roundTurn, options.arcs} {
+                                                      options.roundTurn, options.arcs,
+                                                      options.pointLimit} {
         m_result.report.source = std::move(source.report);
     }
 

@@ -29,6 +29,7 @@ struct PrepareOptions {
     std::optional<Point> origin; // where the lower left corner comes to
     std::map<int, int> pens;
     bool keepBefore = false; // for showing both
+    std::size_t pointLimit = FitOptions{}.pointLimit;
 };
 
 struct PenUse {

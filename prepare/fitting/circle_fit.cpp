@@ -55,7 +55,9 @@ CircleFit improved(std::span<const Point> corners, CircleFit best) {
     static constexpr std::array<Point, 8> directions{
         {{1, 0}, {0, 1}, {-1, 0}, {0, -1}, {1, 1}, {-1, 1}, {-1, -1}, {1, -1}}};
     const double last = best.deviation * finest;
-    for (double step = best.deviation / 2; step > last;) {
+    // Corners near a line get better for ever with the centre moving away.
+    int left = 200;
+    for (double step = best.deviation / 2; step > last && left > 0; --left) {
         const CircleFit before = best;
         for (const Point& direction : directions) {
             const CircleFit next = measured(corners, before.centre + direction * step);
@@ -97,10 +99,10 @@ CircleFit fitCircle(std::span<const Point> corners, double tolerance, double rou
     if (!centre)
         return {};
     CircleFit fit = measured(corners, *centre);
-    if (fit.deviation > tolerance && fit.deviation <= worthImproving * tolerance)
-        fit = improved(corners, fit);
     if (fit.deviation > fit.radius / 8)
         return {};
+    if (fit.deviation > tolerance && fit.deviation <= worthImproving * tolerance)
+        fit = improved(corners, fit);
     fit.largestTurn = largestTurn(corners, fit.centre);
     return fit.largestTurn <= roundTurn + turnSlack ? fit : CircleFit{};
 }

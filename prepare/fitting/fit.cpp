@@ -10,7 +10,7 @@
 namespace torvik {
 
 void fitStrokes(std::vector<Stroke>& strokes, const FitOptions& options, FitReport& report) {
-    constexpr std::size_t mostSegments = 8'000'000;
+    constexpr std::size_t mostSegments = 4'000'000;
     std::size_t segments = 0;
     for (Stroke& stroke : strokes) {
         const bool wasDot = stroke.isDot();

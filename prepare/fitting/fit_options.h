@@ -2,12 +2,15 @@
 // What the fitting may do. Lengths are plotter units, angles degrees.
 #pragma once
 
+#include <cstddef>
+
 namespace torvik {
 
 struct FitOptions {
     double tolerance = 0.4;
-    double roundTurn = 24; // the widest chord that may stand for a piece of a circle
-    bool arcs = true;      // chords may become arcs and circles
+    double roundTurn = 24;              // the widest chord that may stand for a piece of a circle
+    bool arcs = true;                   // chords may become arcs and circles
+    std::size_t pointLimit = 3'000'000; // of one stroke whose curves are taken apart
 };
 
 // Rounded coordinates turn a chord by a trifle.

@@ -78,14 +78,13 @@ void StrokeFitter::expand() {
 }
 
 void StrokeFitter::takeCurveApart(Point start, const Segment& curve) {
-    constexpr std::size_t mostPoints = 10000000;
     ++m_report.curves;
     for (const Point& end : flattenCurve(start, curve, m_options.tolerance * flattening)) {
         m_points.push_back(toGrid(end));
         m_own.push_back({lineSegment(m_points.back()), m_points.size() - 1, 0});
     }
-    if (m_points.size() > mostPoints)
-        throw RunTimeError("a curve of the drawing is too large to be drawn with this tolerance");
+    if (m_points.size() > m_options.pointLimit)
+        throw RunTimeError("the curves of a stroke are too large for this tolerance");
 }
 
 void StrokeFitter::takeOwn(Point start, const Segment& segment) {

@@ -1,0 +1,1 @@
+PU5,5;PD;PU;PA9,9;PD;PU
