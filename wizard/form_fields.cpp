@@ -19,6 +19,13 @@ QLabel* makePageTitle(const QString& text) {
     return title;
 }
 
+QString breakablePath(QString path) {
+    constexpr QChar zeroWidthSpace(0x200B);
+    for (const QChar separator : {u'/', u'\\'})
+        path.replace(separator, QString(separator) + zeroWidthSpace);
+    return path;
+}
+
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,
                    const QString& unit, int helpContext) {
     auto* const label = new QLabel(caption);

@@ -14,6 +14,9 @@ namespace torvik {
 // A page's title line.
 QLabel* makePageTitle(const QString& text);
 
+// A path that a label may break behind every separator.
+QString breakablePath(QString path);
+
 // Puts one row into a form: the caption (an access key in it leads to the box), the box and its
 // unit. Names the box for assistive tools and gives both the help context number.
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,

@@ -2,6 +2,7 @@
 #include "wizard/frm_menu.h"
 
 #include "tools/dialog_places.h"
+#include "wizard/form_fields.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -31,7 +32,7 @@ FrmMenu::FrmMenu(const QString& writtenFile, QWidget* parent) : QDialog(parent) 
     setWindowTitle(QStringLiteral("Torvik"));
     auto* const label =
         new QLabel(tr("The program has been written to\n%1\n\nWhat would you like to do next?")
-                       .arg(writtenFile));
+                       .arg(breakablePath(writtenFile)));
     label->setObjectName(QStringLiteral("lblMenu"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);

@@ -115,10 +115,11 @@ void OutputPage::changeDrive() {
 
 void OutputPage::showDrive() {
     const auto folder = driveA(m_workshop.registry);
-    m_drive->setText(folder.empty()
-                         ? tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for "
-                              "it.")
-                         : tr("a:\\ is %1").arg(QString::fromStdString(utf8FromPath(folder))));
+    m_drive->setText(
+        folder.empty()
+            ? tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for "
+                 "it.")
+            : tr("a:\\ is %1").arg(breakablePath(QString::fromStdString(utf8FromPath(folder)))));
 }
 
 std::int16_t OutputPage::target() const {

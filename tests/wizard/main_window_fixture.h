@@ -165,7 +165,11 @@ protected:
         QTest::keyClicks(&edit, text);
     }
     std::string text(const std::string& box) { return find<QLineEdit>(box).text().toStdString(); }
-    std::string label(const std::string& name) { return find<QLabel>(name).text().toStdString(); }
+    // A label's text without the places where it may break.
+    static std::string text(const QLabel& of) {
+        return of.text().remove(QChar(0x200B)).toStdString();
+    }
+    std::string label(const std::string& name) { return text(find<QLabel>(name)); }
     std::string focus() {
         const QWidget* const focused = QApplication::focusWidget();
         return focused == nullptr ? "none" : focused->objectName().toStdString();
