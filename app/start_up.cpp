@@ -40,7 +40,7 @@ bool guardInstance(SingleInstance& instance, StdMessageBox& messages) {
 
 } // namespace
 
-int runDesktop(QApplication& application) {
+int runDesktop() {
     QApplication::setWindowIcon(programIcon());
     MessageWindow messages;
     SingleInstance instance(instanceName());
@@ -75,7 +75,7 @@ int runDesktop(QApplication& application) {
     QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain, &FrmMain::bringToFront);
     ToolDataLoad(workshop.tools, *registry, logger);
     frmMain.show();
-    return application.exec();
+    return QApplication::exec();
 }
 
 } // namespace torvik

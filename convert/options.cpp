@@ -176,6 +176,7 @@ std::string unknownOption(const std::string& argument, int code) {
 
 ConvertOptions parse(std::vector<std::string>& arguments) {
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments)
         words.push_back(argument.data());
     words.push_back(nullptr);

@@ -90,7 +90,7 @@ fs::path writableTarget(const fs::path& file, bool overwrite) {
         throw FileError(utf8FromPath(file), "this is no ordinary file");
     if (!overwrite)
         throw FileError(utf8FromPath(file), "the file exists already; --force overwrites it");
-    const fs::path real = fs::canonical(file, error);
+    fs::path real = fs::canonical(file, error);
     if (error)
         throw FileError(utf8FromPath(file), "the file cannot be replaced: " + error.message());
     return real;

@@ -57,7 +57,7 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
     const std::vector<std::int16_t> places = toolsInUse(job);
     for (std::size_t i = 0; i < places.size(); ++i) {
         const long position = static_cast<long>(i) + 1;
-        if (position > job.gstrOrdinal.high())
+        if (position > decltype(Job::gstrOrdinal)::high())
             throw InvalidCall("the program changes to " +
                               formatInteger(static_cast<long>(places.size())) +
                               " tools, the header names the first sixteen only");

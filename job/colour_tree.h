@@ -30,8 +30,8 @@ inline constexpr std::int16_t imageHole = 24;    // + pen
 // Builds gudtColourTree from the pens and their settings.
 void CreateTree(Job& job, Logger& logger);
 
-// The node of one used pen as CreateTree makes it. Raises SubscriptOutOfRange for a pen outside 1
-// to 8.
-ColourNode colourNode(const Job& job, std::int16_t pen);
+// The node of one used pen, by its number, as CreateTree makes it. Raises SubscriptOutOfRange for a
+// pen outside 1 to 8.
+ColourNode colourNode(const Job& job, std::int16_t number);
 
 } // namespace torvik

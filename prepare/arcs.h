@@ -35,8 +35,8 @@ std::optional<Point> centreThrough(Point a, Point b, Point c);
 // The sweep of the arc about the centre from `start` by way of `between` to `end`.
 double sweepThrough(Point centre, Point start, Point between, Point end);
 
-// The point of a cubic curve at the parameter 0 to 1.
-Point pointOnCurve(Point start, const Segment& curve, double parameter);
+// The point of a cubic curve at the parameter t, 0 to 1.
+Point pointOnCurve(Point start, const Segment& curve, double t);
 // The part of a curve between two parameters, from pointOnCurve(from).
 Segment partOfCurve(Point start, const Segment& curve, double from, double to);
 

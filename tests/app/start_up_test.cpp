@@ -29,7 +29,7 @@ protected:
     // Runs the program; does the work when it has started.
     static int run(const std::function<void()>& work) {
         QTimer::singleShot(0, qApp, work);
-        return runDesktop(*qApp);
+        return runDesktop();
     }
 };
 
@@ -85,7 +85,7 @@ TEST_F(StartUpTest, ASecondStartThatGetsNoAnswerSaysSoAndEnds) {
         }
     });
     answer.start(10);
-    EXPECT_EQ(runDesktop(*qApp), 0);
+    EXPECT_EQ(runDesktop(), 0);
     EXPECT_EQ(said, "Torvik cannot start as a previous instance is still running");
     EXPECT_EQ(mainWindow(), nullptr);
 }
