@@ -2,10 +2,11 @@
 # SPDX-License-Identifier: MIT
 # The real program, driven through keyboard and mouse alone: a drawing goes through all six steps to
 # a written Kestra file; the same drawing comes back with its answers; a second start brings the
-# first to the front; closing asks before unsaved work is lost.
+# first to the front; closing asks before unsaved work is lost; a crash does not keep the program from
+# starting.
 # usage: end_to_end_test.sh PROGRAM CONVERTER SAMPLES
 
-readonly program=$1 converter=$2 samples=$3
+readonly program=$1 converter=$2 samples=$3 # the first and the last for screen.sh
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/screen.sh"
 
@@ -119,6 +120,19 @@ closing() {
   running=
 }
 
+afterCrash() {
+  step 'after a crash'
+  startProgram
+  waitFor "$opening"
+  kill -KILL "$running"
+  wait "$running" 2>/dev/null || true
+  startProgram
+  waitFor "$opening"
+  keys ctrl+q
+  waitForEnd "$running"
+  running=
+}
+
 openScreen 1280x900
 startProgram
 firstConversion
@@ -127,5 +141,6 @@ sameDrawingAgain
 processAnotherFile
 secondStart
 closing
+afterCrash
 [[ ! -s $home/errors ]] || fail 'something was written to standard error'
 step 'passed'

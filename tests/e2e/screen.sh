@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
+# shellcheck shell=bash
 # Read by the scripts that drive the real program: a screen that nobody sees with a window manager,
 # a home of its own for the program, and waiting for windows by their titles.
 
 set -euo pipefail
 
-readonly folderOfScreen=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+folderOfScreen=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+readonly folderOfScreen
 readonly patience=${TORVIK_PATIENCE:-30} # seconds that a window may take to come
 
 fail() {
