@@ -47,7 +47,7 @@ private:
         bool valid = false;
     };
 
-    void showFlags(const Job& job, const Flags& shown, std::size_t frame);
+    void showFlags(const Job& job, const Flags& shown, std::size_t number);
 
     PictureView m_view;
     QSize m_size;

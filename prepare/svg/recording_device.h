@@ -24,6 +24,8 @@ struct ColouredStroke {
 class RecordingDevice : public QPaintDevice {
 public:
     explicit RecordingDevice(SourceReport& report);
+    RecordingDevice(const RecordingDevice&) = delete;
+    RecordingDevice& operator=(const RecordingDevice&) = delete;
     ~RecordingDevice() override;
 
     QPaintEngine* paintEngine() const override;
