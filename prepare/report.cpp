@@ -93,7 +93,7 @@ private:
         addCount("Duplicates taken out", m_report.duplicates);
         addCount("Strokes joined", m_report.joined);
         addCount("Curves taken apart", fit.curves);
-        addCount("Circles made of chords", fit.circles);
+        addCount("Circles made of chords or arcs", fit.circles);
         addCount("Arcs made of chords", fit.arcs);
         if (fit.nearCircles > 0)
             add("Nearly circles", formatInteger(fit.nearCircles) + " (a tolerance of " +

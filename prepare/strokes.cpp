@@ -23,10 +23,14 @@ double drawnLength(Point start, const Segment& segment) {
         break;
     case SegmentKind::arc:
         return std::fabs(radians(segment.sweep)) * distance(segment.first, start);
-    case SegmentKind::curve:
-        return (distance(start, segment.end) + distance(start, segment.first) +
-                distance(segment.first, segment.second) + distance(segment.second, segment.end)) /
-               2;
+    case SegmentKind::curve: {
+        constexpr double chords = 64;
+        double sum = 0;
+        for (int i = 0; i < chords; ++i)
+            sum += distance(pointOnCurve(start, segment, i / chords),
+                            pointOnCurve(start, segment, (i + 1) / chords));
+        return sum;
+    }
     }
     return distance(start, segment.end);
 }

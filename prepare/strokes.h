@@ -102,7 +102,7 @@ struct StrokeExtents {
 // Of curves the control points count, which lie around them.
 StrokeExtents extentsOf(std::span<const Stroke> strokes);
 
-// The length that is drawn; of a curve, the mean of its chord and its control polygon.
+// The length that is drawn; of a curve, that of 64 chords.
 double drawnLength(const Stroke& stroke);
 
 std::size_t segmentCount(std::span<const Stroke> strokes);

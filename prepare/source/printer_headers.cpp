@@ -63,7 +63,7 @@ Scanner::Scanner(std::string_view bytes) : m_bytes(bytes), m_entersDrawing(enter
 void Scanner::skipEscape() {
     const char kind = peek(1);
     if (kind == '.')
-        skipDeviceEscape();
+        skipDeviceEscape(2);
     else if (kind == '%')
         skipLanguageEscape();
     else if (isParameterised(kind))
@@ -75,9 +75,10 @@ void Scanner::skipEscape() {
     }
 }
 
-// ESC . letter, for some letters numbers and semicolons up to a colon.
-void Scanner::skipDeviceEscape() {
-    m_at += 3;
+// ESC . letter, for some letters numbers and semicolons up to a colon. `toLetter` is where the
+// letter stands.
+void Scanner::skipDeviceEscape(std::size_t toLetter) {
+    m_at += toLetter + 1;
     std::size_t end = m_at;
     while (end < m_bytes.size() && (isDigit(m_bytes[end]) || m_bytes[end] == ';'))
         ++end;

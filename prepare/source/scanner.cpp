@@ -37,6 +37,10 @@ bool readUnsigned(const char*& at, const char* end, double& number) {
     return true;
 }
 
+bool isDeviceEscape(char c) {
+    return isLetter(c) || c == '(' || c == ')' || c == '@';
+}
+
 } // namespace
 
 bool Scanner::readNumber(double& number) {
@@ -63,6 +67,8 @@ bool Scanner::nextMnemonic(Mnemonic& mnemonic) {
             skipPrinterText();
         } else if (startsWith(jobLineMark)) {
             skipJobLine();
+        } else if (c == '.' && isDeviceEscape(peek(1))) {
+            skipDeviceEscape(1); // files often lose the escape character before it
         } else if (isLetter(c) && isLetter(peek(1))) {
             mnemonic = {toCapital(c), toCapital(peek(1))};
             m_at += 2;

@@ -51,7 +51,7 @@ private:
     bool skipQuoted();
 
     void skipEscape();
-    void skipDeviceEscape();
+    void skipDeviceEscape(std::size_t toLetter);
     void skipLanguageEscape();
     void skipPrinterEscape();
     void skipPrinterText();

@@ -190,6 +190,8 @@ const std::vector<Case>& cases() {
         // What stands around a drawing
         {"device escapes are passed over", "\x1b.(\x1b.I81;;17:\x1b.N;19:\x1b.@:IN;PD2,0;\x1b.)",
          "1: 0,0 L2,0"},
+        {"device escapes that lost their escape character are passed over",
+         "\x1b.(;.I81;;17:.N;19:IN;PD2,0;.)", "1: 0,0 L2,0"},
         {"a printer's set-up before and after the drawing is passed over",
          "\x1b%-12345X@PJL SET PD9,9\r\n@PJL ENTER LANGUAGE=PCL\r\n\x1b"
          "E\x1b&l1O PD8,8;\x1b*b7WPD7,7;;\x1b%0BIN;PD2,0;\x1b%0APD6,6;\x1b"
@@ -211,6 +213,7 @@ TEST(Instructions, DrawWhatTheirRowSays) {
     for (const Case& one : cases()) {
         const SourceDrawing drawing = readHpgl(one.drawing, "test.plt");
         EXPECT_EQ(strokesText(drawing.strokes), one.strokes) << one.name;
+        EXPECT_EQ(drawing.report.strayCharacters, 0) << one.name;
     }
 }
 
