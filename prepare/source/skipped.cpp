@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/source/skipped.h"
 
+#include "base/errors.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "prepare/source/characters.h"
@@ -29,6 +30,15 @@ bool holdsMnemonic(std::string_view parameters) {
         if (isLetter(parameters[i]) && isLetter(parameters[i + 1]))
             return true;
     return false;
+}
+
+// A number that is too large makes the reader refuse the drawing, which is not told here.
+bool putsPenAway(std::string_view parameters) {
+    try {
+        return leadingNumber(parameters) <= 0;
+    } catch (const Overflow&) {
+        return false;
+    }
 }
 
 // PU and PD take one pair; without a comma they do nothing.
@@ -86,7 +96,7 @@ private:
             return readingAfterEnd(part);
         Reading reading = Reading::whole;
         if (mnemonic == "SP")
-            m_stopped = leadingNumber(parameters) <= 0;
+            m_stopped = putsPenAway(parameters);
         else if (mnemonic == "PU" || mnemonic == "PD")
             reading = readingOfMove(parameters);
         else if (mnemonic != "AA" && mnemonic != "CI")

@@ -123,6 +123,7 @@ TEST(Skipped, CountsWhatTheJobsReaderPassesOver) {
         {"nothing is read after the pen is put away", "SP0;PU0,0;PD1,1;CI5;SP1;", 2, 2},
         {"lines end in all three ways", "PU0,0\rPE<=;\nEA1,1\r\nVS1", 2, 1},
         {"unknown ones do no harm that can be told", "QQ1;;,;?", 0, 2},
+        {"a pen too large for any number does not end the reading", "SP1e999;PA1,1", 1, 0},
         {"an exponent is no instruction", "PD1e3,2E1", 0, 0},
     };
     for (const SkipCase& one : cases) {
