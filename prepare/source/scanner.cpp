@@ -139,10 +139,10 @@ std::string_view Scanner::readEncoded() {
 }
 
 long Scanner::line() const {
-    return 1 +
-           std::count(m_bytes.begin(),
-                      m_bytes.begin() + static_cast<std::ptrdiff_t>(std::min(m_at, m_bytes.size())),
-                      '\n');
+    return 1 + static_cast<long>(std::count(
+                   m_bytes.begin(),
+                   m_bytes.begin() + static_cast<std::ptrdiff_t>(std::min(m_at, m_bytes.size())),
+                   '\n'));
 }
 
 std::string_view Scanner::take(std::size_t end) {

@@ -20,7 +20,7 @@ bool isComma(char c) {
 }
 
 long commas(std::string_view parameters) {
-    return std::count_if(parameters.begin(), parameters.end(), isComma);
+    return static_cast<long>(std::count_if(parameters.begin(), parameters.end(), isComma));
 }
 
 // Whether another instruction follows without a semicolon. An E or D between digits belongs to a
