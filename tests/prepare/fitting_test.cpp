@@ -207,6 +207,7 @@ TEST(Lines, KeepEveryPointWithinTheTolerance) {
 
 TEST(Lines, CornersOfCornersAreTheSameCorners) {
     std::vector<Point> points;
+    points.reserve(500);
     for (int i = 0; i < 500; ++i)
         points.push_back({i * 1.0, 3 * std::sin(i * 0.7) * std::sin(i * 0.013)});
     std::vector<Point> corners;

@@ -133,6 +133,7 @@ TEST(Order, SavesMostOfTheWayAndKeepsEveryStroke) {
 
 TEST(Order, TakesManyStrokesFromOnePlace) {
     std::vector<Stroke> star;
+    star.reserve(500);
     for (int i = 0; i < 500; ++i)
         star.push_back(line(1, {0, 0}, rotated({100, 0}, i * 0.7)));
     orderStrokes(star);
