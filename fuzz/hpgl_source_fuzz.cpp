@@ -32,7 +32,7 @@ PrepareOptions optionsOf(std::uint8_t choice) {
     if ((choice & 64U) != 0)
         options.origin = Point{10, 10};
     options.tolerance = (choice & 128U) != 0 ? 0.1 : 0.01;
-    options.pointLimit = 50'000;
+    options.pointLimit = 20'000;
     return options;
 }
 
@@ -71,7 +71,7 @@ void prepare(const SourceDrawing& source, const PrepareOptions& options) {
 
 void run(std::uint8_t choice, std::string_view bytes) {
     HpglSourceOptions options;
-    options.segmentLimit = 20'000;
+    options.segmentLimit = 5'000;
     countSkipped(bytes);
     SourceDrawing source;
     try {

@@ -84,6 +84,7 @@ private:
     }
 
     void write() {
+        requireFewEnough(m_strokes);
         m_result.text = writeDrawing(m_strokes);
         checkWritten(m_result.text, m_strokes, m_options.tolerance);
     }

@@ -49,13 +49,17 @@ double difference(const Path& path, int pen, Point start, const Segment& segment
 
 } // namespace
 
-void checkWritten(const std::string& text, std::span<const Stroke> strokes, double tolerance) {
+void requireFewEnough(std::span<const Stroke> strokes) {
     const std::size_t count = segmentCount(strokes);
     if (count > mostElements)
         throw RunTimeError("the prepared drawing has " + std::to_string(count) +
                            " lines, arcs and circles, but a job takes " +
                            std::to_string(mostElements) +
                            " at most; a larger tolerance leaves fewer of them");
+}
+
+void checkWritten(const std::string& text, std::span<const Stroke> strokes, double tolerance) {
+    requireFewEnough(strokes);
     Job job;
     Logger logger;
     readInstructions(job, text, "the prepared drawing", logger);

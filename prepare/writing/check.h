@@ -9,8 +9,11 @@
 
 namespace torvik {
 
-// Raises RunTimeError where the reader takes more elements than it can, or any element's pen, kind
-// or place differs from the strokes by more than the tolerance in mm.
+// Raises RunTimeError where there are more elements than a job takes.
+void requireFewEnough(std::span<const Stroke> strokes);
+
+// Raises RunTimeError where there are too many elements, or any element's pen, kind or place
+// differs from the strokes by more than the tolerance in mm.
 void checkWritten(const std::string& text, std::span<const Stroke> strokes, double tolerance);
 
 } // namespace torvik
