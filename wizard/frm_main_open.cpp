@@ -92,7 +92,6 @@ void FrmMain::returnToStart() {
     Job& job = m_workshop.job;
     ClearData(job);
     job.gstrPlotFile.clear();
-    job.gblnUnsaved = false;
     setWindowTitle(QString::fromUtf8(usualTitle));
     updateTree();
     clearPreview();

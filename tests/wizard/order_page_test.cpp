@@ -67,6 +67,10 @@ TEST_F(OrderPageTest, AChosenOrderStaysUntilAPenIsSwitched) {
     EXPECT_EQ(rows(), "[Green] Blue down");
     EXPECT_EQ(order(), "34000000");
     EXPECT_EQ(job.gintOrderCount, 2);
+    job.gintOrder.fill(0);
+    job.gintOrder[2] = 4; // behind an entry without a pen
+    page.ShowOrder(1);
+    EXPECT_EQ(order(), "40000000");
 }
 
 TEST_F(OrderPageTest, TheSelectedRowTravelsWithItsPen) {
