@@ -134,23 +134,23 @@ private:
     std::vector<std::vector<std::size_t>> m_neighbours;
 };
 
-std::vector<Stroke> ordered(std::span<Stroke> strokes, Point from) {
-    Way way(strokes, from);
+// Makes the way shorter where that can be done; false where it stays as it is.
+bool shorten(std::span<Stroke> strokes, Point from) {
     constexpr double clearly = 0.999;
+    Way way(strokes, from);
     const double before = way.length();
     way.goToNearest();
     way.exchange();
+    if (way.length() > before * clearly)
+        return false;
     std::vector<Stroke> result;
     result.reserve(strokes.size());
-    if (way.length() > before * clearly) {
-        std::move(strokes.begin(), strokes.end(), std::back_inserter(result));
-        return result;
-    }
     for (const StrokeEnd& next : way.order()) {
         Stroke& stroke = strokes[next.stroke];
         result.push_back(next.isStart ? std::move(stroke) : reversed(stroke));
     }
-    return result;
+    std::move(result.begin(), result.end(), strokes.begin());
+    return true;
 }
 
 } // namespace
@@ -166,8 +166,10 @@ void orderStrokes(std::vector<Stroke>& strokes) {
     for (auto first = strokes.begin(); first != strokes.end();) {
         const auto last = std::find_if(first, strokes.end(),
                                        [&](const Stroke& s) { return s.pen != first->pen; });
-        auto result = ordered({first, last}, from);
-        std::move(result.begin(), result.end(), first);
+        // Among ways of one length chance decides, so another round may find a shorter one.
+        constexpr int mostRounds = 5;
+        for (int i = 0; i < mostRounds && shorten({first, last}, from); ++i) {
+        }
         from = (last - 1)->end();
         first = last;
     }
