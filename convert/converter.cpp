@@ -5,7 +5,7 @@
 #include "base/files.h"
 #include "base/logger.h"
 #include "base/text.h"
-#include "convert/exit_codes.h"
+#include "convert/drawing_run.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
@@ -27,12 +27,6 @@ namespace {
 
 constexpr std::string_view programName = "torvik-convert";
 
-// Why one drawing was not converted.
-struct Failure {
-    ExitCode code;
-    std::string message;
-};
-
 class Converter {
 public:
     Converter(const ConvertOptions& options, std::ostream& out, std::ostream& err)
@@ -41,32 +35,19 @@ public:
                    [this](const ErrorReport& report) { m_reported.emplace_back(report.cause); }) {}
 
     int run() {
-        ExitCode code = ExitCode::done;
-        for (std::size_t i = 0; i < m_options.drawings.size(); ++i) {
-            const ExitCode result = attempt(i);
-            if (code == ExitCode::done)
-                code = result;
-        }
-        return static_cast<int>(code);
+        return runEach(
+            m_options.drawings.size(), [this](std::size_t i) { work(i); },
+            [this](std::string_view message) { say(message); });
     }
 
 private:
-    ExitCode attempt(std::size_t i) {
+    void work(std::size_t i) {
         m_reported.clear();
-        try {
-            if (m_options.action == ConvertOptions::Action::show)
-                show(m_options.drawings[i]);
-            else
-                convert(i);
-            sayWarnings(utf8FromPath(m_options.drawings[i]) + ": ");
-            return ExitCode::done;
-        } catch (const Failure& failure) {
-            say(failure.message);
-            return failure.code;
-        } catch (const RunTimeError& error) {
-            say(error.what());
-            return ExitCode::file;
-        }
+        if (m_options.action == ConvertOptions::Action::show)
+            show(m_options.drawings[i]);
+        else
+            convert(i);
+        sayWarnings(utf8FromPath(m_options.drawings[i]) + ": ");
     }
 
     void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }

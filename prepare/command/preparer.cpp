@@ -3,7 +3,7 @@
 
 #include "base/errors.h"
 #include "base/files.h"
-#include "convert/exit_codes.h"
+#include "convert/drawing_run.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
 #include "prepare/report.h"
@@ -21,41 +21,18 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view programName = "torvik-prepare";
 
-// Why one drawing was not prepared.
-struct Failure {
-    ExitCode code;
-    std::string message;
-};
-
 class Preparer {
 public:
     Preparer(const PrepareCommand& command, std::ostream& out, std::ostream& err)
         : m_command(command), m_out(out), m_err(err) {}
 
     int run() {
-        ExitCode code = ExitCode::done;
-        for (std::size_t i = 0; i < m_command.drawings.size(); ++i) {
-            const ExitCode result = attempt(i);
-            if (code == ExitCode::done)
-                code = result;
-        }
-        return static_cast<int>(code);
+        return runEach(
+            m_command.drawings.size(), [this](std::size_t i) { prepare(i); },
+            [this](std::string_view message) { say(message); });
     }
 
 private:
-    ExitCode attempt(std::size_t i) {
-        try {
-            prepare(i);
-            return ExitCode::done;
-        } catch (const Failure& failure) {
-            say(failure.message);
-            return failure.code;
-        } catch (const FileError& error) {
-            say(error.what());
-            return ExitCode::file;
-        }
-    }
-
     void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
 
     void prepare(std::size_t i) {
