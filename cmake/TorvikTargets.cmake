@@ -34,6 +34,16 @@ function(torvik_library name)
   target_link_libraries(${name} PUBLIC torvik_options ${ARG_LINK})
 endfunction()
 
+# torvik_program(NAME SOURCES... [LINK LIBS...]): one program of those that are handed on. They all
+# stand in one folder, because saved answers are kept beside them.
+function(torvik_program name)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
+  target_compile_definitions(${name} PRIVATE TORVIK_VERSION="${PROJECT_VERSION}")
+  target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+endfunction()
+
 # torvik_test(NAME SOURCES... [LINK LIBS...]): one GoogleTest program, its cases known to CTest.
 function(torvik_test name)
   cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})

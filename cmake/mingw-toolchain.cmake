@@ -12,7 +12,8 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 # A program file that runs alone: no compiler library beside it.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+# scripts/qt-windows builds the Qt that TORVIK_WINDOWS_QT names.
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 $ENV{TORVIK_WINDOWS_QT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
