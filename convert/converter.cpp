@@ -11,6 +11,7 @@
 #include "convert/show.h"
 #include "gcode/output_file.h"
 #include "gcode/tool_check.h"
+#include "job/hpgl_reader.h"
 #include "job/job.h"
 #include "tools/settings_file_reader.h"
 #include "tools/tool_store.h"
@@ -68,7 +69,7 @@ private:
         Job job;
         if (!readDrawing(job, drawing, m_logger))
             throw Failure{ExitCode::job, takeLastReport()};
-        m_out << describeDrawing(job);
+        m_out << describeDrawing(job, readWholeFile(drawing, maxDrawingBytes));
     }
 
     void convert(std::size_t i) {

@@ -5,6 +5,7 @@
 #include "job/extents.h"
 #include "job/job.h"
 #include "job/pens.h"
+#include "prepare/source/skipped.h"
 
 namespace torvik {
 namespace {
@@ -66,15 +67,33 @@ std::string penText(const Job& job, std::int16_t number) {
     return text + "\n";
 }
 
+// A name that a shell takes for one word.
+std::string asArgument(const std::string& name) {
+    return name.find(' ') == std::string::npos ? name : "\"" + name + "\"";
+}
+
+std::string skippedText(const Job& job, std::string_view bytes) {
+    const SkippedInstructions skipped = countSkipped(bytes);
+    const long all = skipped.harmful + skipped.harmless;
+    std::string text = "Skipped: " + amount(all, "instruction");
+    if (skipped.harmful > 0)
+        text += ", " + formatInteger(skipped.harmful) + " with effect on the drawing; " +
+                "torvik-prepare " + asArgument(job.gstrPlotFile) +
+                " makes one that is read completely";
+    else if (all > 0)
+        text += ", none with effect on the drawing";
+    return text + "\n";
+}
+
 } // namespace
 
-std::string describeDrawing(const Job& job) {
+std::string describeDrawing(const Job& job, std::string_view bytes) {
     std::string text = "Drawing: " + job.gstrPlotFile + "\n" +
                        "Elements: " + countsText(countElements(job, 0)) + "\n" + extentsText(job);
     for (std::int16_t pen = 1; pen <= penCount; ++pen)
         if (job.gudtPens[pen].blnUsed)
             text += penText(job, pen);
-    return text;
+    return text + skippedText(job, bytes);
 }
 
 } // namespace torvik

@@ -176,8 +176,30 @@ TEST_F(Converter, ShowsWhatDrawingsHold) {
               "Pen 1 Black: 3 lines, 0 arcs, 0 circles\nPen 2 Red: 1 line, 0 arcs, 0 circles\n"
               "Pen 3 Green: 0 lines, 0 arcs, 2 circles\n  Circle sizes: 1.00 mm\n"
               "Pen 5 Brown: 1 line, 0 arcs, 0 circles\nPen 6 Orange: 0 lines, 0 arcs, 1 circle\n"
-              "  Circle sizes: 4.00 mm\n|");
+              "  Circle sizes: 4.00 mm\nSkipped: 0 instructions\n|");
     EXPECT_EQ(run({"bad.plt", "--show"}).substr(0, 3), "4||");
+}
+
+TEST_F(Converter, ShowsWhatIsSkippedAndWhatHelps) {
+    const struct {
+        const char* name;
+        const char* drawing;
+        const char* said;
+    } rows[] = {
+        {"plain.plt", "IN;VS20;SP1;PU0,0;PD40,0;SP0;",
+         "2 instructions, none with effect on the drawing"},
+        {"one.plt", "SP1;PU0,0;PD40,0;PA40,40;",
+         "1 instruction, 1 with effect on the drawing; torvik-prepare one.plt makes one that is "
+         "read completely"},
+        {"two words.plt", "IN;SP1;PU0,0;PD40,0,40,40;PR;pd9,9;",
+         "4 instructions, 2 with effect on the drawing; torvik-prepare \"two words.plt\" makes "
+         "one that is read completely"},
+    };
+    for (const auto& row : rows) {
+        write(row.name, row.drawing);
+        const std::string shown = run({"--show", row.name});
+        EXPECT_TRUE(shown.ends_with(std::string("\nSkipped: ") + row.said + "\n|")) << shown;
+    }
 }
 
 TEST_F(Converter, RunsAsAProgram) {
