@@ -43,6 +43,17 @@ TEST(Svg, ShapesGroupsAndStyles) {
          R"s(<g transform="translate(20,30) rotate(30)"><g transform="scale(2)">)s"
          R"(<circle r="5" fill="none" stroke="blue"/></g></g>)",
          "4: O800,800 r400"},
+        {"a circle that is mirrored and moved by a matrix is a circle",
+         R"s(<circle r="5" fill="none" stroke="blue" transform="matrix(-2 0 0 2 20 30)"/>)s",
+         "4: O800,800 r400"},
+        {"what is slanted leans over",
+         R"s(<g transform="translate(0 50) skewX(-45)"><path d="M1 0h1v-2" fill="none" )s"
+         R"(stroke="black"/></g>)",
+         "1: 40,0 L80,0 L160,80"},
+        {"groups within groups hand down colour and place",
+         R"s(<g stroke="#f00" fill="none" transform="translate(1 0)"><g transform="translate(2 0)">)s"
+         R"s(<path d="M0 50h1"/><path d="M0 50h1" stroke="rgb(0, 0, 255)"/></g></g>)s",
+         "2: 120,0 L160,0; 4: 120,0 L160,0"},
         {"a circle given as arcs of a path",
          R"(<path d="M25 30 A5 5 0 0 1 15 30 A5 5 0 0 1 25 30 Z" fill="none" stroke="blue"/>)",
          "4: 1000,800 A800,800 -90>800,600 A800,800 -90>600,800 A800,800 -90>800,1000 "
@@ -64,6 +75,10 @@ TEST(Svg, ShapesGroupsAndStyles) {
          "<style>.a{stroke:#00ff00;fill:none}</style>" +
              std::string(R"(<path class="a" d="M0 50h1"/>)"),
          "3: 0,0 L40,0"},
+        {"rules for a name and for a kind of shape",
+         "<style>path{fill:none;stroke:rgb(0%,0%,100%)} #b{stroke:purple}</style>" +
+             std::string(R"(<path d="M0 50h1"/><path id="b" d="M0 50h1"/>)"),
+         "4: 0,0 L40,0; 8: 0,0 L40,0"},
         {"a style of its own", R"(<path style="fill:none;stroke:#ff8000" d="M0 50h1"/>)",
          "6: 0,0 L40,0"},
         {"an area without a line is drawn by its outline",
