@@ -9,5 +9,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));
     // Help stays open on its own; the main window alone ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
-    return torvik::runDesktop();
+    // The one word that it takes is the drawing that was double-clicked.
+    return torvik::runDesktop(QApplication::arguments().value(1));
 }

@@ -8,6 +8,11 @@
 #include <QLocalSocket>
 #include <QSysInfo>
 #include <QThread>
+#include <QUrl>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace torvik {
 namespace {
@@ -17,7 +22,15 @@ namespace {
 constexpr int answerTime = 2000;
 constexpr int settleTime = 200;
 constexpr unsigned long retryTime = 50;
-const QByteArray activateRequest = "activate\n";
+// A request is one line: this word, a blank and the drawing's name with its odd bytes encoded.
+const QByteArray activateWord = "activate ";
+
+// Windows lets a program come to the front only if the one in front allows it.
+void letOthersComeToFront() {
+#ifdef Q_OS_WIN
+    AllowSetForegroundWindow(ASFW_ANY);
+#endif
+}
 
 } // namespace
 
@@ -69,7 +82,7 @@ bool SingleInstance::isAnswered() const {
     return socket.waitForConnected(answerTime);
 }
 
-bool SingleInstance::activateOther() {
+bool SingleInstance::activateOther(const QString& drawing) {
     QLocalSocket socket;
     const QDeadlineTimer deadline(answerTime);
     for (;;) {
@@ -80,7 +93,8 @@ bool SingleInstance::activateOther() {
             return false;
         QThread::msleep(retryTime);
     }
-    socket.write(activateRequest);
+    letOthersComeToFront();
+    socket.write(activateWord + QUrl::toPercentEncoding(drawing) + '\n');
     if (!socket.waitForBytesWritten(answerTime))
         return false;
     return socket.waitForReadyRead(answerTime);
@@ -90,11 +104,14 @@ void SingleInstance::answer() {
     while (QLocalSocket* const socket = m_server.nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-            if (!socket->canReadLine() || socket->readLine() != activateRequest)
+            if (!socket->canReadLine())
+                return;
+            const QByteArray request = socket->readLine().chopped(1);
+            if (!request.startsWith(activateWord))
                 return;
             socket->write("ok\n");
             socket->flush();
-            emit otherStarted();
+            emit otherStarted(QUrl::fromPercentEncoding(request.sliced(activateWord.size())));
         });
     }
 }

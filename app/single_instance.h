@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One running copy of the program for each user: a second one asks the first to come to the front.
+// One running copy of the program for each user: a second one asks the first to come to the front,
+// and hands over the drawing that it was started with.
 #pragma once
 
 #include <QLocalServer>
@@ -21,13 +22,13 @@ public:
     // True where this copy is the only one; it then listens for others. A lock left behind by a
     // copy that crashed does not count.
     bool claim();
-    // For a copy that is not the only one: asks the running one to show itself. False where it
-    // does not answer.
-    bool activateOther();
+    // For a copy that is not the only one: asks the running one to show itself, and to open the
+    // drawing where one is named (with its folder). False where it does not answer.
+    bool activateOther(const QString& drawing = {});
 
 signals:
-    // Another copy was started and has ended.
-    void otherStarted();
+    // Another copy was started, with the drawing or none, and ends.
+    void otherStarted(const QString& drawing);
 
 private:
     bool lock();

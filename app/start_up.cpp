@@ -7,6 +7,7 @@
 #include "app/message_window.h"
 #include "app/resources.h"
 #include "app/single_instance.h"
+#include "base/files.h"
 #include "base/logger.h"
 #include "tools/open_registry.h"
 #include "tools/tool_store.h"
@@ -14,6 +15,9 @@
 #include "wizard/program_folder.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTimer>
 
 #include <memory>
 
@@ -28,23 +32,37 @@ LogSwitches logSwitches(const Registry& registry) {
 
 // Whether the program may go on: no other copy runs. Otherwise the other one comes to the front,
 // or the user is told why this one ends.
-bool guardInstance(SingleInstance& instance, StdMessageBox& messages) {
+bool guardInstance(SingleInstance& instance, const QString& drawing, StdMessageBox& messages) {
     if (instance.claim())
         return true;
-    if (!instance.activateOther())
+    if (!instance.activateOther(drawing))
         messages.intStdMsgBox(std::string(usualTitle) +
                                   " cannot start as a previous instance is still running",
                               styleExclamation, usualTitle);
     return false;
 }
 
+// Opens the drawing as one from the list of recent ones, when the window has come to rest. A dialog
+// that waits for an answer is not pushed aside.
+void openLater(FrmMain& window, const QString& drawing) {
+    if (drawing.isEmpty())
+        return;
+    QTimer::singleShot(0, &window, [&window, drawing] {
+        if (QApplication::activeModalWidget() == nullptr)
+            window.ReadFile(pathFromUtf8(drawing.toStdString()));
+    });
+}
+
 } // namespace
 
-int runDesktop() {
+int runDesktop(const QString& named) {
     QApplication::setWindowIcon(programIcon());
+    // What the renderer of pictures passes over is counted and said in the report.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     MessageWindow messages;
     SingleInstance instance(instanceName());
-    if (!guardInstance(instance, messages))
+    const QString drawing = named.isEmpty() ? QString() : QFileInfo(named).absoluteFilePath();
+    if (!guardInstance(instance, drawing, messages))
         return 0;
 
     Logger logger(logFile("torvik"));
@@ -72,9 +90,14 @@ int runDesktop() {
         {.showHelp = showHelp, .showAbout = [&] { showAboutBox(window); }, .Shutdown = shutdown});
     window = &frmMain;
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
-    QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain, &FrmMain::bringToFront);
+    QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain,
+                     [&frmMain](const QString& asked) {
+                         frmMain.bringToFront();
+                         openLater(frmMain, asked);
+                     });
     ToolDataLoad(workshop.tools, *registry, logger);
     frmMain.show();
+    openLater(frmMain, drawing);
     return QApplication::exec();
 }
 

@@ -38,8 +38,9 @@ fs::path executableFolder() {
     return size == 0 ? fs::current_path() : fs::path(name.data()).parent_path();
 }
 
+// In a school's network this one follows the pupil to the next machine.
 fs::path userConfigFolder() {
-    return pathFromUtf8(environmentText("LOCALAPPDATA"));
+    return pathFromUtf8(environmentText("APPDATA"));
 }
 
 fs::path userDataFolder() {

@@ -34,11 +34,21 @@ function(torvik_library name)
   target_link_libraries(${name} PUBLIC torvik_options ${ARG_LINK})
 endfunction()
 
-# torvik_program(NAME SOURCES... [LINK LIBS...]): one program of those that are handed on. They all
-# stand in one folder, because saved answers are kept beside them.
+# torvik_program(NAME SOURCES... [ALONE] DESCRIPTION TEXT [LINK LIBS...]): one program of those that
+# are handed on. They all stand in one folder, because saved answers are kept beside them. ALONE: on
+# Windows it needs no other file beside it.
 function(torvik_program name)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "ALONE" "DESCRIPTION" "LINK" ${ARGN})
   add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
+  if(WIN32)
+    configure_file("${CMAKE_SOURCE_DIR}/cmake/windows/program.rc.in" ${name}.rc @ONLY)
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}.rc" PROPERTIES OBJECT_DEPENDS
+      "${CMAKE_SOURCE_DIR}/cmake/windows/program.manifest;${CMAKE_SOURCE_DIR}/cmake/windows/torvik.ico")
+    target_sources(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${name}.rc")
+    if(ARG_ALONE)
+      target_link_options(${name} PRIVATE -static)
+    endif()
+  endif()
   target_compile_definitions(${name} PRIVATE TORVIK_VERSION="${PROJECT_VERSION}")
   target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
@@ -49,6 +59,12 @@ function(torvik_test name)
   cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
   add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
   target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK} GTest::gtest_main)
+  if(WIN32)
+    # One start of Wine for all cases of a program.
+    target_link_options(${name} PRIVATE -static)
+    add_test(NAME ${name} COMMAND wine $<TARGET_FILE:${name}>)
+    return()
+  endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
                        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
 endfunction()

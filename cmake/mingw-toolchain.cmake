@@ -1,5 +1,4 @@
-# Builds for 64-bit Windows with Debian's mingw-w64:
-#   cmake -S . -B build/windows -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-toolchain.cmake -DTORVIK_QT=OFF
+# Builds for 64-bit Windows with Debian's mingw-w64; the presets windows and windows-engine use it.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
@@ -8,9 +7,6 @@ set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-
-# A program file that runs alone: no compiler library beside it.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 
 # scripts/qt-windows builds the Qt that TORVIK_WINDOWS_QT names.
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 $ENV{TORVIK_WINDOWS_QT})

@@ -34,6 +34,7 @@ bool isDriveReady(const std::filesystem::path& folder) {
     if (name.isEmpty() || !QFileInfo(name).isDir())
         return false;
 #ifdef Q_OS_WIN
+    // A diskette that is write-protected is told of when the program is written.
     return QStorageInfo(name).isReady();
 #else
     // Rights alone do not tell: the disk may be write-protected. The file goes with its object.

@@ -63,15 +63,17 @@ TEST_F(SingleInstanceTest, TheNameIsFreeAgainWhenTheFirstHasEnded) {
 TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirst) {
     SingleInstance first(name);
     ASSERT_TRUE(first.claim());
-    const QSignalSpy asked(&first, &SingleInstance::otherStarted);
+    QSignalSpy asked(&first, &SingleInstance::otherStarted);
+    const QString drawing = QString::fromUtf8("C:/M\xC3\xBChle\n%41.plt");
     bool answered = false;
     const std::unique_ptr<QThread> other(
-        QThread::create([&] { answered = SingleInstance(name).activateOther(); }));
+        QThread::create([&] { answered = SingleInstance(name).activateOther(drawing); }));
     other->start();
     while (!other->wait(1))
         QCoreApplication::processEvents();
     EXPECT_TRUE(answered);
-    EXPECT_EQ(asked.count(), 1);
+    ASSERT_EQ(asked.count(), 1);
+    EXPECT_EQ(asked.front().front().toString(), drawing);
 }
 
 TEST_F(SingleInstanceTest, WithoutAnAnswerTheSecondCopyGivesUpAfterAShortTime) {

@@ -27,9 +27,9 @@ QMainWindow* mainWindow() {
 class StartUpTest : public AppTest {
 protected:
     // Runs the program; does the work when it has started.
-    static int run(const std::function<void()>& work) {
+    static int run(const std::function<void()>& work, const QString& drawing = {}) {
         QTimer::singleShot(0, qApp, work);
-        return runDesktop();
+        return runDesktop(drawing);
     }
 };
 
@@ -45,6 +45,18 @@ TEST_F(StartUpTest, ShowsTheMainWindowAtItsFirstStepAndEndsWhenItIsClosed) {
               }),
               0);
     EXPECT_EQ(mainWindow(), nullptr);
+}
+
+TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
+    run(
+        [] {
+            QTimer::singleShot(0, qApp, [] { // behind the opening
+                EXPECT_TRUE(mainWindow()->windowTitle().endsWith("gear.plt"));
+                EXPECT_TRUE(mainWindow()->findChild<QPushButton*>("cmdBack")->isVisible());
+                mainWindow()->close();
+            });
+        },
+        QStringLiteral(TORVIK_SAMPLES "/gear.plt"));
 }
 
 TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {

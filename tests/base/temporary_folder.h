@@ -2,9 +2,9 @@
 // An empty folder for one test, removed with all it holds at the end.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,10 +14,14 @@ namespace torvik {
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "torvik-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder could be made");
-        m_path = name;
+        std::random_device chance;
+        for (int tries = 0; tries < 100; ++tries) {
+            m_path =
+                std::filesystem::temp_directory_path() / ("torvik-" + std::to_string(chance()));
+            if (std::filesystem::create_directory(m_path))
+                return;
+        }
+        throw std::runtime_error("no temporary folder could be made");
     }
     ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
     TemporaryFolder(const TemporaryFolder&) = delete;
