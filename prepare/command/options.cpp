@@ -37,6 +37,8 @@ public:
     std::optional<PrepareCommand> parse(const QStringList& arguments, QString& error) {
         if (!m_parser.parse(arguments)) {
             error = m_parser.errorText();
+            if (error.endsWith(u'.'))
+                error.chop(1);
             return {};
         }
         PrepareCommand command;
@@ -204,8 +206,10 @@ private:
         option({QStringLiteral("report")}, "Print what was read, done and lost.");
     QCommandLineOption m_force = option({QStringLiteral("force")}, "Overwrite existing files.");
     QCommandLineOption m_quiet = option({QStringLiteral("quiet")}, "Print no progress.");
-    QCommandLineOption m_help = option({QStringLiteral("help")}, "Print this help.");
-    QCommandLineOption m_version = option({QStringLiteral("version")}, "Print the version.");
+    QCommandLineOption m_help =
+        option({QStringLiteral("h"), QStringLiteral("help")}, "Print this help.");
+    QCommandLineOption m_version =
+        option({QStringLiteral("v"), QStringLiteral("version")}, "Print the version.");
 
     QCommandLineParser m_parser;
     QString m_mistake;

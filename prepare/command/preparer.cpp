@@ -106,9 +106,7 @@ private:
     std::ostream& m_err;
 };
 
-} // namespace
-
-int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+int doAsTold(const QStringList& arguments, std::ostream& out, std::ostream& err) {
     QString usageError;
     const auto command = parsePrepareCommand(arguments, usageError);
     if (!command) {
@@ -124,6 +122,16 @@ int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& e
         return static_cast<int>(ExitCode::done);
     }
     return Preparer(*command, out, err).run();
+}
+
+} // namespace
+
+int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+    const int code = doAsTold(arguments, out, err);
+    if (out.flush())
+        return code;
+    err << programName << ": the standard output cannot be written\n";
+    return code == 0 ? static_cast<int>(ExitCode::file) : code;
 }
 
 } // namespace torvik

@@ -4,6 +4,7 @@
 #include "base/errors.h"
 #include "job/records.h"
 #include "prepare/arcs.h"
+#include "prepare/source/stroke_recorder.h"
 
 #include <set>
 #include <string>
@@ -57,6 +58,10 @@ void place(std::vector<Stroke>& strokes, const Placement& placement) {
         movePoints(strokes, [&](Point p) { return rotated(p, placement.rotation); });
     if (placement.mirror != Mirror::none || placement.rotation != 0 || placement.origin)
         bringCornerTo(strokes, corner);
+    if (const StrokeExtents extents = extentsOf(strokes); !extents.empty()) {
+        requireOnPaper(extents.low);
+        requireOnPaper(extents.high);
+    }
 }
 
 void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {

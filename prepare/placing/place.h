@@ -21,6 +21,7 @@ struct Placement {
     std::optional<Point> origin; // where the lower left corner comes to, plotter units
 };
 
+// Raises RunTimeError where strokes come to lie more than 100 m from the origin.
 void place(std::vector<Stroke>& strokes, const Placement& placement);
 
 // Gives strokes another pen. Raises RunTimeError with a list where pens above 8 are left.

@@ -4,6 +4,8 @@
 #include "base/errors.h"
 #include "prepare/source/instruction_table.h"
 
+#include <map>
+#include <numeric>
 #include <string>
 
 namespace torvik {
@@ -53,6 +55,22 @@ void readInto(SourceDrawing& drawing, Scanner& scanner, const HpglSourceOptions&
     drawing.report.strayCharacters += scanner.strayCharacters();
 }
 
+// Texts and bytes of other kinds hold pairs of letters, too, some of which mean something by
+// chance.
+void requireDrawing(const SourceReport& report, std::string_view fileName) {
+    constexpr long fewUnknown = 10;
+    const auto sum = [](const std::map<std::string, long>& counts) {
+        return std::accumulate(counts.begin(), counts.end(), 0L,
+                               [](long total, const auto& one) { return total + one.second; });
+    };
+    const long unknown = sum(report.unknown);
+    const long all = unknown + sum(report.instructions);
+    if (unknown > fewUnknown && unknown > all / 2)
+        throw FileError(std::string(fileName),
+                        "this is no drawing in HPGL: " + std::to_string(unknown) + " of its " +
+                            std::to_string(all) + " instructions are unknown");
+}
+
 } // namespace
 
 SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
@@ -64,6 +82,7 @@ SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
     } catch (const RunTimeError& error) {
         throw FileError(std::string(fileName), error.what(), scanner.line());
     }
+    requireDrawing(drawing.report, fileName);
     return drawing;
 }
 

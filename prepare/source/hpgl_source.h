@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A drawing in the pen language of plotters as strokes. Takes the language in all its forms (see
 // instruction_table.h); what it does not know is counted and passed over. Refuses a number that
-// fits no double, a place more than 100 m away, and more segments than the given limit.
+// fits no double, a place more than 100 m away, more segments than the given limit, and a file most
+// of which it does not know.
 #pragma once
 
 #include "prepare/source/source_report.h"
@@ -23,7 +24,7 @@ struct HpglSourceOptions {
     std::size_t segmentLimit = 4'000'000;
 };
 
-// Raises FileError with the line; `fileName` is for the message.
+// Raises FileError, with the line where there is one; `fileName` is for the message.
 SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
                        const HpglSourceOptions& options = {});
 

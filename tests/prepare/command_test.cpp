@@ -155,6 +155,12 @@ TEST_F(Command, LeavesNothingBehindWhereItCannotWrite) {
     fs::create_directory(folder.path() / "dir.plt");
     EXPECT_EQ(run({path("a.plt"), QStringLiteral("-o"), path("dir.plt")}), 2);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
+
+    std::ostringstream full;
+    full.setstate(std::ios::failbit);
+    EXPECT_EQ(runPreparer({QStringLiteral("torvik-prepare"), QStringLiteral("--help")}, full, err),
+              2);
+    EXPECT_NE(err.str().find("the standard output cannot be written"), std::string::npos);
 }
 
 } // namespace

@@ -327,6 +327,8 @@ TEST(HpglSource, RefusesWithFileLineAndCause) {
          "a.plt, line 1: the drawing has more than 3 lines, arcs and curves"},
         {"a polygon drawn again and again", "PM;PD1,1;PM2;EP;EP;EP",
          "a.plt, line 1: the drawing has more than 3"},
+        {"a text", "Dear all,\nthe drawing of the base plate is not here but in the other letter",
+         "a.plt: this is no drawing in HPGL: "},
     };
     HpglSourceOptions options;
     options.segmentLimit = 3;

@@ -37,6 +37,11 @@ TEST(Placement, MovesScalesMirrorsAndTurns) {
     EXPECT_EQ(placed({0.5, Mirror::leftRight, 0, Point{0, 0}}), "1: 15,0 L5,0 A5,5 -90>0,5");
 }
 
+TEST(Placement, RefusesPlacesOffThePaper) {
+    EXPECT_THROW(placed({1e6, Mirror::none, 0, {}}), RunTimeError);
+    EXPECT_THROW(placed({1, Mirror::none, 0, Point{0, -1e7}}), RunTimeError);
+}
+
 TEST(Pens, AreMappedAndAbove8Refused) {
     std::vector<Stroke> strokes{line(12, {}, {1, 0}), line(3, {}, {1, 0}), line(9, {}, {1, 0})};
     auto mapped = strokes;
