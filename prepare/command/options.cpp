@@ -201,7 +201,8 @@ private:
         option({QStringLiteral("dots")}, "Draw dots as circles of this diameter.", "MM");
     QCommandLineOption m_pen =
         option({QStringLiteral("pen")},
-               "Draw pen A, or a colour of a picture, by pen B. May be repeated.", "A=B|#rrggbb=B");
+               "Draw pen A, or a colour of a picture (in quotes), by pen B. May be repeated.",
+               "A=B|#rrggbb=B");
     QCommandLineOption m_report =
         option({QStringLiteral("report")}, "Print what was read, done and lost.");
     QCommandLineOption m_force = option({QStringLiteral("force")}, "Overwrite existing files.");
