@@ -148,6 +148,11 @@ private:
             mistake(QStringLiteral("no drawing is named"));
         if (command.output && command.output->empty())
             mistake(QStringLiteral("--output needs the name of a file"));
+        if (command.outputFolder && command.outputFolder->empty())
+            mistake(QStringLiteral("--output-dir needs the name of a folder"));
+        for (const auto& drawing : command.drawings)
+            if (drawing.empty())
+                mistake(QStringLiteral("a drawing's name is empty"));
         if (command.output && command.outputFolder)
             mistake(QStringLiteral("--output and --output-dir exclude each other"));
         if (command.drawings.size() > 1 && command.output)

@@ -134,6 +134,8 @@ TEST_F(Command, SaysWhatIsWrongWithItsUsage) {
         {a, QStringLiteral("--pen"), QStringLiteral("1=9")},
         {a, QStringLiteral("--pen"), QStringLiteral("#12345=1")},
         {a, QStringLiteral("--output"), QString()},
+        {a, QStringLiteral("--output-dir"), QString()},
+        {a, QString()},
         {a, QStringLiteral("--output"), QStringLiteral("b"), QStringLiteral("--output-dir"),
          QStringLiteral("c")},
         {a, path("sub/a.plt"), QStringLiteral("--output"), QStringLiteral("b")},
