@@ -38,7 +38,9 @@ public:
         if (m_options.keepBefore)
             m_result.before = m_strokes;
         bringInOrder();
+        goOnUnlessStopped();
         fitStrokes(m_strokes, m_fit, m_result.report.fit);
+        goOnUnlessStopped();
         write();
         measure(m_result.report.cutAfter, m_result.report.airAfter);
         describe();
@@ -63,9 +65,14 @@ private:
         m_result.report.dotsDrawn = dots.has_value();
         if (m_strokes.empty())
             throw RunTimeError(m_result.report.dots > 0
-                                   ? "the drawing holds nothing but dots; --dots MM makes circles "
-                                     "of them"
+                                   ? "the drawing holds nothing but dots; with a diameter they "
+                                     "become circles"
                                    : "the drawing holds nothing to draw");
+    }
+
+    void goOnUnlessStopped() const {
+        if (m_options.stop.stop_requested())
+            throw RunTimeError("the preparation was stopped");
     }
 
     // A new order can bring strokes together that touch.
@@ -78,7 +85,7 @@ private:
             report.duplicates = dropDuplicates(m_strokes);
         report.joined = joinTouching(m_strokes);
         if (m_options.optimize) {
-            orderStrokes(m_strokes);
+            orderStrokes(m_strokes, m_options.stop);
             report.joined += joinTouching(m_strokes);
         }
     }

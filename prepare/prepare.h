@@ -10,6 +10,7 @@
 
 #include <map>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,7 @@ struct PrepareOptions {
     std::map<int, int> pens;
     bool keepBefore = false; // for showing both
     std::size_t pointLimit = FitOptions{}.pointLimit;
+    std::stop_token stop; // for those who no longer want the result
 };
 
 struct PenUse {
@@ -65,7 +67,7 @@ struct PreparedDrawing {
     PrepareReport report;
 };
 
-// Raises RunTimeError with the cause.
+// Raises RunTimeError with the cause, or soon after it is asked to stop.
 PreparedDrawing prepareDrawing(SourceDrawing source, const PrepareOptions& options);
 
 // The proposed name: the source's with "-torvik.plt" in place of its extension.

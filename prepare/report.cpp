@@ -79,9 +79,9 @@ private:
                 add("Lost: " + std::string(lossText(static_cast<Loss>(i))),
                     formatInteger(m_report.source.losses[i]));
         if (m_report.dots > 0)
-            add("Dots", formatInteger(m_report.dots) +
-                            (m_report.dotsDrawn ? ", drawn as circles"
-                                                : ", not drawn; --dots MM draws circles"));
+            add("Dots",
+                formatInteger(m_report.dots) +
+                    (m_report.dotsDrawn ? ", drawn as circles" : ", not drawn without a diameter"));
     }
 
     void addDone() {
@@ -156,7 +156,7 @@ std::string lossLine(const PrepareReport& report) {
     for (std::size_t i = 0; i < lossCount; ++i)
         add(lossText(static_cast<Loss>(i)), report.source.losses[i]);
     if (!report.dotsDrawn)
-        add("dots (not drawn without --dots)", report.dots);
+        add("dots (not drawn without a diameter)", report.dots);
     for (const auto& [name, count] : report.source.unknown)
         add("unknown " + name, count);
     return line;

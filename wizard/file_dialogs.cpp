@@ -59,15 +59,23 @@ QString chosenFile(const QFileDialog& dialog) {
 
 } // namespace
 
+QString plotFolder(const Registry& registry) {
+    return startFolder(registry, plotFolderSetting);
+}
+
+void rememberPlotFolder(Registry& registry, const QString& folder) {
+    rememberFolder(registry, plotFolderSetting, folder);
+}
+
 std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
     QFileDialog dialog(parent, QStringLiteral("Select the HPGL file to process"),
-                       startFolder(registry, plotFolderSetting),
+                       plotFolder(registry),
                        filterText(QStringLiteral("HPGL"), QStringLiteral("plt")));
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     const bool chosen = dialog.exec() == QDialog::Accepted;
-    rememberFolder(registry, plotFolderSetting, dialog.directory().absolutePath());
+    rememberPlotFolder(registry, dialog.directory().absolutePath());
     return chosen ? pathFromUtf8(chosenFile(dialog).toStdString()) : std::filesystem::path();
 }
 

@@ -3,6 +3,8 @@
 // used last, which the workshop's programs share, and remember the folder they ended in.
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -18,6 +20,10 @@ class StdMessageBox;
 inline constexpr const char* plotFolderSetting = "PLT File Path";
 inline constexpr const char* maskorFolderSetting = "CNC File Path";
 inline constexpr const char* kestraFolderSetting = "Kestra File Path";
+
+// The folder that drawings are looked for in, and the one where one was found.
+QString plotFolder(const Registry& registry);
+void rememberPlotFolder(Registry& registry, const QString& folder);
 
 // "Select the HPGL file to process". An empty path when the user cancels.
 std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent);

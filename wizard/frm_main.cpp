@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The window itself and what its pages ask of it. Menu, keys and closing are in frm_main_menu.cpp,
-// the steps in frm_main_steps.cpp, opening and importing in frm_main_open.cpp.
+// the steps in frm_main_steps.cpp, opening and importing in frm_main_open.cpp, what concerns
+// drawings of other programs in frm_main_prepare.cpp.
 #include "wizard/frm_main.h"
 
 #include "preview/preview_widget.h"
@@ -106,6 +107,7 @@ void FrmMain::buildWindow() {
     layout->addWidget(split, 1);
     layout->addWidget(buildButtons());
     setCentralWidget(content);
+    buildSkippedLine();
     setMinimumSize(minimumSizeHint().expandedTo({960, 620}));
 }
 

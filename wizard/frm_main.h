@@ -44,6 +44,9 @@ public:
     void ReadFile();
     // The same for a drawing that is named already (recent, dropped).
     void ReadFile(const std::filesystem::path& drawing);
+    // Opens the dialog that makes drawings of other programs readable, with the drawing that is
+    // open, and afterwards the drawing that was saved there, where the user wants it.
+    void PrepareDrawing();
     // Ends the program, after a question where a program has not been written yet. False where
     // the user stays.
     bool CheckClose();
@@ -77,6 +80,7 @@ private:
     QWidget* buildButtons();
     void buildMenu();
     void fillRecentMenu();
+    void buildSkippedLine();
 
     void fromStep2(std::int16_t direction);
     void fromStep3(std::int16_t direction);
@@ -89,6 +93,9 @@ private:
     void layOutImported();
     void returnToStart();
     void warnOfEmptyDrawing();
+    // Says in the status bar how much of the drawing was not read; 0 hides the line.
+    void showSkipped(long instructions);
+    void countSkippedIn(const std::filesystem::path& drawing);
     void writeOutput();
     // tmrToolSelect has run out: the tool selection, then PenPage::ToolSelection.
     void selectTool();
@@ -127,6 +134,7 @@ private:
     QPushButton* m_next = nullptr;
     QPushButton* m_start = nullptr;
     QMenu* m_recent = nullptr;
+    QPushButton* m_skipped = nullptr;
 };
 
 } // namespace torvik

@@ -21,6 +21,9 @@ void FrmMain::buildMenu() {
     auto* const open = file->addAction(tr("&Open…"), QKeySequence::Open, this,
                                        [this] { later([this] { ReadFile(); }); });
     open->setObjectName(QStringLiteral("mnuFileOpen"));
+    auto* const prepare = file->addAction(tr("&Prepare a Drawing…"), QKeySequence(tr("Ctrl+P")),
+                                          this, [this] { later([this] { PrepareDrawing(); }); });
+    prepare->setObjectName(QStringLiteral("mnuFilePrepare"));
     m_recent = file->addMenu(tr("&Recent drawings"));
     m_recent->setObjectName(QStringLiteral("mnuFileRecent"));
     m_recent->setToolTipsVisible(true);

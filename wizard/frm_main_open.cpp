@@ -68,6 +68,7 @@ void FrmMain::importFrom(const std::filesystem::path& drawing) {
     m_kept.giveBack(job);
     CreateTree(job, m_workshop.logger);
     addRecentDrawing(fullPath);
+    countSkippedIn(fullPath);
     layOutImported();
 }
 

@@ -205,10 +205,12 @@ void FrmMain::showStep(std::int16_t step) {
     m_importedLabel->setVisible(step > 1);
     // Steps 2 and 3 enable cmdNext by their own rules.
     setNextEnabled(step != 2 && step != 3);
-    if (step == 1)
+    if (step == 1) {
+        showSkipped(0);
         m_start->setFocus();
-    else if (step == 6)
+    } else if (step == 6) {
         m_output->enter();
+    }
 }
 
 } // namespace torvik

@@ -6,11 +6,10 @@
 #include "convert/drawing_run.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
+#include "prepare/files/drawing_files.h"
 #include "prepare/report.h"
-#include "prepare/svg/svg_source.h"
 
 #include <QCoreApplication>
-#include <QSaveFile>
 
 #include <ostream>
 
@@ -56,20 +55,14 @@ private:
 
     PreparedDrawing prepareBytes(const std::string& bytes, const std::string& name) const {
         try {
-            return prepareDrawing(read(bytes, name), m_command.options);
+            const double roundTurn = m_command.options.roundTurn;
+            return prepareDrawing(readSource(bytes, name, roundTurn, m_command.colours),
+                                  m_command.options);
         } catch (const FileError& error) {
             throw Failure{ExitCode::job, error.what()};
         } catch (const RunTimeError& error) {
             throw Failure{ExitCode::job, name + ": " + error.what()};
         }
-    }
-
-    SourceDrawing read(const std::string& bytes, const std::string& name) const {
-        if (QString::fromStdString(name).endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive))
-            return readSvg(bytes, name, {m_command.colours});
-        HpglSourceOptions options;
-        options.roundTurn = m_command.options.roundTurn;
-        return readHpgl(bytes, name, options);
     }
 
     // Refuses what must not or cannot be replaced before any work is done.
@@ -79,8 +72,7 @@ private:
         if (!fs::exists(status))
             return;
         const std::string name = utf8FromPath(output);
-        if (fs::equivalent(output, drawing, error))
-            throw FileError(name, "the prepared drawing would replace its own source");
+        requireOtherFile(output, drawing);
         if (fs::is_directory(status))
             throw FileError(name, "there is a folder of this name");
         if (!fs::is_regular_file(status))
@@ -93,12 +85,7 @@ private:
         std::error_code ignored;
         if (m_command.outputFolder)
             fs::create_directories(*m_command.outputFolder, ignored);
-        QSaveFile file(QString::fromStdString(utf8FromPath(output)));
-        const auto size = static_cast<qint64>(text.size());
-        if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), size) != size ||
-            !file.commit())
-            throw FileError(utf8FromPath(output),
-                            "the file cannot be written: " + file.errorString().toStdString());
+        saveDrawing(output, text);
     }
 
     const PrepareCommand& m_command;

@@ -35,7 +35,7 @@ public:
     }
 
     // Turns parts of the way round where that makes it shorter, looking at near strokes only.
-    void exchange() {
+    void exchange(const std::stop_token& stop) {
         findNeighbours();
         m_place.resize(m_order.size());
         for (std::size_t i = 0; i < m_order.size(); ++i)
@@ -46,7 +46,7 @@ public:
         // Every exchange wins something, so it comes to an end; the count keeps it to a time.
         std::size_t left = 40 * m_order.size();
         std::vector<bool> isOpen(m_order.size(), true);
-        while (!open.empty() && left > 0) {
+        while (!open.empty() && left > 0 && !stop.stop_requested()) {
             const std::size_t stroke = open.back();
             open.pop_back();
             isOpen[stroke] = false;
@@ -135,12 +135,12 @@ private:
 };
 
 // Makes the way shorter where that can be done; false where it stays as it is.
-bool shorten(std::span<Stroke> strokes, Point from) {
+bool shorten(std::span<Stroke> strokes, Point from, const std::stop_token& stop) {
     constexpr double clearly = 0.999;
     Way way(strokes, from);
     const double before = way.length();
     way.goToNearest();
-    way.exchange();
+    way.exchange(stop);
     if (way.length() > before * clearly)
         return false;
     std::vector<Stroke> result;
@@ -160,7 +160,7 @@ void sortByPen(std::vector<Stroke>& strokes) {
                      [](const Stroke& a, const Stroke& b) { return a.pen < b.pen; });
 }
 
-void orderStrokes(std::vector<Stroke>& strokes) {
+void orderStrokes(std::vector<Stroke>& strokes, const std::stop_token& stop) {
     sortByPen(strokes);
     Point from;
     for (auto first = strokes.begin(); first != strokes.end();) {
@@ -168,8 +168,9 @@ void orderStrokes(std::vector<Stroke>& strokes) {
                                        [&](const Stroke& s) { return s.pen != first->pen; });
         // Among ways of one length chance decides, so another round may find a shorter one.
         constexpr int mostRounds = 5;
-        for (int i = 0; i < mostRounds && shorten({first, last}, from); ++i) {
-        }
+        for (int i = 0; i < mostRounds && !stop.stop_requested(); ++i)
+            if (!shorten({first, last}, from, stop))
+                break;
         from = (last - 1)->end();
         first = last;
     }

@@ -6,13 +6,15 @@
 #include "prepare/strokes.h"
 
 #include <span>
+#include <stop_token>
 #include <vector>
 
 namespace torvik {
 
 // Orders the strokes of each pen, pens ascending; each pen's way begins where the one before it
 // ended, the first at the origin. Where the order cannot be made shorter it stays as it is.
-void orderStrokes(std::vector<Stroke>& strokes);
+// Asked to stop, it leaves any order that is still good for drawing.
+void orderStrokes(std::vector<Stroke>& strokes, const std::stop_token& stop = {});
 
 // Sorts strokes by pen and leaves their order within a pen.
 void sortByPen(std::vector<Stroke>& strokes);

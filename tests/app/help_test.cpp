@@ -22,8 +22,8 @@ namespace torvik {
 namespace {
 
 // Every number that a control or a step may ask for.
-constexpr int helpNumbers[] = {1,  2,  3,   4,   5,   6,   10,  50,  52,  60, 80,
-                               90, 95, 100, 105, 110, 115, 120, 125, 242, 244};
+constexpr int helpNumbers[] = {1,  2,  3,  4,   5,   6,   10,  20,  50,  52,  60,
+                               80, 90, 95, 100, 105, 110, 115, 120, 125, 242, 244};
 
 QString shownTopic(const HelpWindow& help) {
     return help.findChild<QTextBrowser*>("txtHelp")->source().fileName();

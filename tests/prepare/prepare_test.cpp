@@ -217,7 +217,7 @@ TEST(Preparing, RefusesWhatCannotBecomeAJob) {
     };
     EXPECT_EQ(refusal("IN;PU5,5;LBtext\x03"), "the drawing holds nothing to draw");
     EXPECT_EQ(refusal("PD;PU;"),
-              "the drawing holds nothing but dots; --dots MM makes circles of them");
+              "the drawing holds nothing but dots; with a diameter they become circles");
     EXPECT_EQ(refusal("SP9;PD1,1"), "the drawing uses pens above 8 (9); say which pen to take for "
                                     "it, as in --pen 9=1");
     std::string many = "PD";
@@ -228,8 +228,9 @@ TEST(Preparing, RefusesWhatCannotBecomeAJob) {
 
 TEST(Report, SaysWhatWasReadDoneAndLost) {
     const auto result = prepared("VS5;XQ;LBa\x03PD1000,0,1000,1000;PU2000,0;PD;PU;");
-    EXPECT_EQ(lossLine(result.report), "texts (not drawn): 1, dots (not drawn without --dots): 1, "
-                                       "unknown XQ: 1");
+    EXPECT_EQ(lossLine(result.report),
+              "texts (not drawn): 1, dots (not drawn without a diameter): 1, "
+              "unknown XQ: 1");
     EXPECT_EQ(reportText("a.plt", result.report),
               "Drawing: a.plt\n"
               "  Read: LB 1, PD 2, PU 2\n"
@@ -237,7 +238,7 @@ TEST(Report, SaysWhatWasReadDoneAndLost) {
               "  Unknown, passed over: XQ 1\n"
               "  Pen: none is selected; everything is drawn by pen 1\n"
               "  Lost: texts (not drawn): 1\n"
-              "  Dots: 1, not drawn; --dots MM draws circles\n"
+              "  Dots: 1, not drawn without a diameter\n"
               "  Largest deviation: 0.000 mm\n"
               "  Pen 1 Black: 2 lines, 0 arcs, 0 circles\n"
               "  Extents: X 0.000 to 25.000 mm, Y 0.000 to 25.000 mm\n"

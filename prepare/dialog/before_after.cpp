@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/dialog/before_after.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace torvik {
+namespace {
+
+constexpr double border = 16;     // pixels round a fitted drawing
+constexpr double leastSide = 0.1; // mm, of what is fitted
+
+QLabel* caption(const QString& name, const QString& text, QWidget* view) {
+    auto* const label = new QLabel(text);
+    label->setObjectName(name);
+    label->setBuddy(view);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+DrawingView* view(const QString& name, const QString& accessibleName) {
+    auto* const result = new DrawingView;
+    result->setObjectName(name);
+    result->setAccessibleName(accessibleName);
+    result->setToolTip(BeforeAfter::tr("Wheel: zoom. Drag: move. Double click: all of it."));
+    return result;
+}
+
+QString countText(const StrokePicture* picture) {
+    if (picture == nullptr)
+        return {};
+    const auto count = [](std::size_t n, const char* one, const char* many) {
+        return QStringLiteral("%1 %2").arg(n).arg(QString::fromUtf8(n == 1 ? one : many));
+    };
+    const std::size_t others = picture->elements - picture->circles;
+    QStringList parts;
+    if (others > 0 || picture->circles == 0)
+        parts += count(others, "line or arc", "lines and arcs");
+    if (picture->circles > 0)
+        parts += count(picture->circles, "circle", "circles");
+    return parts.join(QStringLiteral(", "));
+}
+
+QRectF boundsOf(const StrokePicture* picture) {
+    return picture == nullptr ? QRectF() : picture->bounds;
+}
+
+// Of both, also where one of them is a level line, which has no height.
+QRectF united(const QRectF& a, const QRectF& b) {
+    if (a.isNull())
+        return b;
+    if (b.isNull())
+        return a;
+    return {QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),
+            QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom()))};
+}
+
+} // namespace
+
+BeforeAfter::BeforeAfter(QWidget* parent)
+    : QWidget(parent), m_before(view(QStringLiteral("picBefore"), tr("The drawing before"))),
+      m_after(view(QStringLiteral("picAfter"), tr("The drawing after"))), m_beforeCount(new QLabel),
+      m_afterCount(new QLabel), m_fit(new QPushButton(tr("&Fit"))) {
+    m_beforeCount->setObjectName(QStringLiteral("lblBeforeCount"));
+    m_afterCount->setObjectName(QStringLiteral("lblAfterCount"));
+    m_fit->setObjectName(QStringLiteral("cmdFit"));
+    m_fit->setToolTip(tr("Show all of the drawing (0 in a view)"));
+    m_fit->setAutoDefault(false);
+
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_before, 1, 0); // these two first: so goes the tab key
+    layout->addWidget(m_after, 1, 1);
+    auto* const before = new QHBoxLayout;
+    before->addWidget(caption(QStringLiteral("lblBefore"), tr("Before"), m_before));
+    before->addSpacing(8);
+    before->addWidget(m_beforeCount, 1);
+    auto* const after = new QHBoxLayout;
+    after->addWidget(caption(QStringLiteral("lblAfter"), tr("After"), m_after));
+    after->addSpacing(8);
+    after->addWidget(m_afterCount, 1);
+    after->addWidget(m_fit);
+    layout->addLayout(before, 0, 0);
+    layout->addLayout(after, 0, 1);
+    layout->setRowStretch(1, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    connectViews();
+    setPictures(nullptr, nullptr);
+}
+
+void BeforeAfter::connectViews() {
+    const auto link = [this](DrawingView* from, DrawingView* to) {
+        connect(from, &DrawingView::placeChanged, this, [this, to](const ViewPlace& place) {
+            m_fitted = false;
+            to->setPlace(place);
+        });
+        connect(from, &DrawingView::fitWanted, this, &BeforeAfter::fit);
+    };
+    link(m_before, m_after);
+    link(m_after, m_before);
+    connect(m_fit, &QPushButton::clicked, this, &BeforeAfter::fit);
+}
+
+void BeforeAfter::setPictures(std::shared_ptr<const StrokePicture> before,
+                              std::shared_ptr<const StrokePicture> after) {
+    m_beforeCount->setText(countText(before.get()));
+    m_afterCount->setText(countText(after.get()));
+    m_fit->setEnabled(before || after);
+    const QRectF bounds = united(boundsOf(before.get()), boundsOf(after.get()));
+    // The fitting moves a line by next to nothing; that is no other place.
+    constexpr double clearly = 1e-3;
+    const double share = clearly * std::max(m_bounds.width(), m_bounds.height());
+    const auto differs = [share](double a, double b) { return std::abs(a - b) > share; };
+    const bool isElsewhere =
+        differs(bounds.left(), m_bounds.left()) || differs(bounds.right(), m_bounds.right()) ||
+        differs(bounds.top(), m_bounds.top()) || differs(bounds.bottom(), m_bounds.bottom());
+    m_bounds = bounds;
+    m_before->setPicture(std::move(before));
+    m_after->setPicture(std::move(after));
+    if (isElsewhere)
+        fit();
+}
+
+void BeforeAfter::setHints(const QString& before, const QString& after) {
+    m_before->setHint(before);
+    m_after->setHint(after);
+}
+
+void BeforeAfter::fit() {
+    m_fitted = true;
+    const double width = std::max(m_bounds.width(), leastSide);
+    const double height = std::max(m_bounds.height(), leastSide);
+    const double across = std::max(m_before->width() - 2 * border, 1.0) / width;
+    const double down = std::max(m_before->height() - 2 * border, 1.0) / height;
+    const ViewPlace place{std::min(across, down), m_bounds.center()};
+    m_before->setPlace(place);
+    m_after->setPlace(place);
+}
+
+void BeforeAfter::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    if (m_fitted)
+        fit();
+}
+
+} // namespace torvik

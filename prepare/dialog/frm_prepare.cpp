@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+// What the dialog does; how it is built stands in frm_prepare_layout.cpp.
+#include "prepare/dialog/frm_prepare.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "prepare/dialog/before_after.h"
+#include "prepare/dialog/option_panel.h"
+#include "prepare/dialog/pen_list.h"
+#include "prepare/files/drawing_files.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStyle>
+#include <QTableWidget>
+
+namespace torvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+const QStringList& sourceKinds() {
+    static const QStringList kinds{QStringLiteral("plt"), QStringLiteral("hpgl"),
+                                   QStringLiteral("hpg"), QStringLiteral("plo"),
+                                   QStringLiteral("svg")};
+    return kinds;
+}
+
+QString named(const fs::path& path) {
+    return QString::fromStdString(utf8FromPath(path));
+}
+
+// "HPGL and SVG drawings (*.plt *.hpgl …)", in every letter case also where the system tells them
+// apart.
+QString filterText(const QString& what, const QStringList& kinds) {
+    QStringList patterns;
+    for (const QString& kind : kinds) {
+        QString anyCase = QStringLiteral("*.");
+#ifdef Q_OS_WIN
+        anyCase += kind;
+#else
+        for (const QChar letter : kind)
+            anyCase += QStringLiteral("[%1%2]").arg(letter, letter.toUpper());
+#endif
+        patterns += anyCase;
+    }
+    return QStringLiteral("%1 (*.%2) (%3)")
+        .arg(what, kinds.join(QStringLiteral(" *.")), patterns.join(u' '));
+}
+
+// The one drawing that is dragged, or an empty name.
+QString draggedDrawing(const QMimeData& data) {
+    if (data.urls().size() != 1)
+        return {};
+    const QString name = data.urls().constFirst().toLocalFile();
+    return sourceKinds().contains(QFileInfo(name).suffix().toLower()) ? name : QString();
+}
+
+} // namespace
+
+void FrmPrepare::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedDrawing(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void FrmPrepare::dropEvent(QDropEvent* event) {
+    const QString name = draggedDrawing(*event->mimeData());
+    if (name.isEmpty())
+        return;
+    event->acceptProposedAction();
+    openSource(pathFromUtf8(name.toStdString()));
+}
+
+void FrmPrepare::chooseSource() {
+    const fs::path folder = m_source.empty() ? m_surroundings.startFolder : m_source.parent_path();
+    QFileDialog dialog(this, tr("Select the drawing to prepare"), named(folder),
+                       filterText(tr("HPGL and SVG drawings"), sourceKinds()));
+    dialog.setObjectName(QStringLiteral("dlgPrepareOpen"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    if (m_surroundings.rememberFolder)
+        m_surroundings.rememberFolder(
+            pathFromUtf8(dialog.directory().absolutePath().toStdString()));
+    if (chosen)
+        openSource(pathFromUtf8(dialog.selectedFiles().constFirst().toStdString()));
+}
+
+void FrmPrepare::openSource(const fs::path& source) {
+    m_source = source;
+    m_result = {};
+    m_pens->setPens({});
+    m_sourceName->setText(named(source.filename()));
+    m_sourceName->setToolTip(named(source));
+    prepareNow();
+}
+
+void FrmPrepare::prepareSoon() {
+    if (m_source.empty())
+        return;
+    ++m_run; // what is on its way is no longer what the options say
+    m_save->setEnabled(false);
+    showState(State::idle, tr("Preparing…"));
+    m_rest.start();
+}
+
+void FrmPrepare::prepareNow() {
+    m_rest.stop();
+    m_save->setEnabled(false);
+    showState(State::idle, tr("Preparing…"));
+    PrepareRequest request{m_source, m_result.bytes, m_options->options(), m_pens->colours()};
+    request.options.pens = m_pens->pens();
+    m_work.stop();
+    m_work.start([this, request, run = ++m_run](const std::stop_token& stop) mutable {
+        request.options.stop = stop;
+        auto result = std::make_shared<PrepareResult>(prepareSource(request));
+        QMetaObject::invokeMethod(
+            this,
+            [this, result, run] {
+                if (run == m_run)
+                    showResult(*result);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void FrmPrepare::showResult(const PrepareResult& result) {
+    m_result = result;
+    if (result.before) {
+        m_pens->setPens(result.pens);
+        placePensInTabOrder();
+    }
+    const bool isGood = result.error.empty();
+    m_drawings->setHints(tr("This file shows no drawing"), tr("No drawing to save"));
+    m_drawings->setPictures(result.before, result.after);
+    showReport(result.rows);
+    if (!isGood)
+        showState(State::error, QString::fromStdString(result.error));
+    else if (!result.lost.empty())
+        showState(State::warning,
+                  tr("Not carried over: %1").arg(QString::fromStdString(result.lost)));
+    else
+        showState(State::good, tr("Ready to be saved"));
+    m_save->setEnabled(isGood);
+}
+
+void FrmPrepare::showReport(const std::vector<ReportRow>& rows) {
+    m_report->setRowCount(static_cast<int>(rows.size()));
+    for (int i = 0; i < m_report->rowCount(); ++i) {
+        const ReportRow& row = rows[static_cast<std::size_t>(i)];
+        m_report->setItem(i, 0, new QTableWidgetItem(QString::fromStdString(row.what)));
+        m_report->setItem(i, 1, new QTableWidgetItem(QString::fromStdString(row.value)));
+    }
+    m_report->resizeColumnToContents(0);
+    m_report->resizeRowsToContents();
+}
+
+void FrmPrepare::showState(State state, const QString& text) {
+    const auto icon = [&](QStyle::StandardPixmap which) {
+        const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+        m_stateIcon->setPixmap(style()->standardIcon(which).pixmap(side));
+    };
+    m_stateIcon->setVisible(state == State::warning || state == State::error);
+    if (state == State::error)
+        icon(QStyle::SP_MessageBoxCritical);
+    else if (state == State::warning)
+        icon(QStyle::SP_MessageBoxWarning);
+    m_state->setText(text);
+    m_state->setToolTip(text);
+}
+
+void FrmPrepare::save() {
+    QFileDialog dialog(this, tr("Save the prepared drawing"), named(m_source.parent_path()),
+                       filterText(tr("HPGL drawings"), {QStringLiteral("plt")}));
+    dialog.setObjectName(QStringLiteral("dlgPrepareSave"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setDefaultSuffix(QStringLiteral("plt"));
+    dialog.selectFile(QString::fromStdString(preparedName(utf8FromPath(m_source.filename()))));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const fs::path output = pathFromUtf8(dialog.selectedFiles().constFirst().toStdString());
+    try {
+        requireOtherFile(output, m_source);
+        saveDrawing(output, m_result.text);
+    } catch (const FileError& error) {
+        showState(State::error, tr("Not saved. %1").arg(QString::fromUtf8(error.what())));
+        return;
+    }
+    showState(State::good, tr("Saved as %1").arg(named(output)));
+    offerToOpen(output);
+}
+
+void FrmPrepare::offerToOpen(const fs::path& drawing) {
+    if (!m_surroundings.agrees || !m_surroundings.openResult ||
+        !m_surroundings.agrees("The prepared drawing is saved as\n" + utf8FromPath(drawing) +
+                                   "\n\nDo you want to open it now?",
+                               "Drawing saved"))
+        return;
+    accept();
+    m_surroundings.openResult(drawing);
+}
+
+} // namespace torvik

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "prepare/dialog/prepare_source.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "job/hpgl_reader.h"
+#include "job/records.h"
+#include "prepare/files/drawing_files.h"
+
+#include <exception>
+#include <new>
+
+namespace torvik {
+namespace {
+
+std::vector<SourcePen> pensOf(const SourceDrawing& drawing, const std::map<int, int>& mapped) {
+    std::vector<SourcePen> pens;
+    for (const ColourUse& use : drawing.report.colours)
+        pens.push_back({0, use.colour, use.strokes, use.pen});
+    if (!pens.empty())
+        return pens;
+    std::map<int, long> counts;
+    for (const Stroke& stroke : drawing.strokes)
+        ++counts[stroke.pen];
+    for (const auto& [number, count] : counts) {
+        const auto chosen = mapped.find(number);
+        const int usual = number <= penCount ? number : 0;
+        pens.push_back({number, {}, count, chosen != mapped.end() ? chosen->second : usual});
+    }
+    return pens;
+}
+
+// Said here in the dialog's own words, with all such pens at once.
+void requirePens(const std::vector<SourcePen>& pens) {
+    std::string list;
+    for (const SourcePen& pen : pens)
+        if (pen.target == 0)
+            list += (list.empty() ? "" : ", ") + std::to_string(pen.number);
+    if (!list.empty())
+        throw RunTimeError("The drawing uses pens above 8 (" + list +
+                           "). Choose a pen for each in the list of pens.");
+}
+
+void prepareInto(PrepareResult& result, const PrepareRequest& request) {
+    const std::string name = utf8FromPath(request.source);
+    if (!result.bytes)
+        result.bytes =
+            std::make_shared<const std::string>(readWholeFile(request.source, maxDrawingBytes));
+    SourceDrawing drawing =
+        readSource(*result.bytes, name, request.options.roundTurn, request.colours);
+    result.pens = pensOf(drawing, request.options.pens);
+    // What is shown where the preparation fails.
+    result.before = std::make_shared<const StrokePicture>(pictureOf(drawing.strokes));
+    requirePens(result.pens);
+
+    PrepareOptions options = request.options;
+    options.keepBefore = true;
+    const PreparedDrawing prepared = prepareDrawing(std::move(drawing), options);
+    result.before = std::make_shared<const StrokePicture>(pictureOf(prepared.before));
+    result.after = std::make_shared<const StrokePicture>(pictureOf(prepared.strokes));
+    result.rows = reportRows(prepared.report);
+    result.lost = lossLine(prepared.report);
+    result.text = prepared.text;
+}
+
+// A sentence begins with a capital letter; a path stays as it is.
+std::string asSentence(std::string text) {
+    if (text.starts_with("the "))
+        text[0] = 'T';
+    return text;
+}
+
+} // namespace
+
+PrepareResult prepareSource(const PrepareRequest& request) {
+    PrepareResult result;
+    result.bytes = request.bytes;
+    try {
+        prepareInto(result, request);
+    } catch (const std::bad_alloc&) {
+        result.error = "There is not enough memory for this drawing";
+    } catch (const std::exception& error) {
+        result.error = asSentence(error.what());
+    }
+    return result;
+}
+
+} // namespace torvik

@@ -1,0 +1,380 @@
+// SPDX-License-Identifier: MIT
+// The dialog through its own controls: what is shown, what is said, what is saved.
+#include "base/files.h"
+#include "prepare/dialog/before_after.h"
+#include "prepare/dialog/frm_prepare.h"
+#include "prepare/files/drawing_files.h"
+#include "tests/base/temporary_folder.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace torvik {
+namespace {
+
+// A square drawn in one PD, twice.
+const std::string square = "SP1;PU0,0;PD400,0,400,400,0,400,0,0;";
+
+// No file grows beyond a few bytes while this lives.
+class FullDisk {
+public:
+    FullDisk() : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_usual);
+        const rlimit small{20, m_usual.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_usual);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*m_signal)(int);
+    rlimit m_usual{};
+};
+
+class FrmPrepareTest : public testing::Test {
+protected:
+    FrmPrepareTest() {
+        dialog.show();
+        QApplication::setActiveWindow(&dialog);
+    }
+
+    template <typename Control>
+    Control& find(const char* name) {
+        auto* const control = dialog.findChild<Control*>(name);
+        if (control == nullptr)
+            throw std::logic_error(std::string("no control ") + name);
+        return *control;
+    }
+    std::string label(const char* name) { return find<QLabel>(name).text().toStdString(); }
+    bool isBusy() { return label("lblState") == "Preparing…"; }
+    // What the dialog says when it is done.
+    std::string state() {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isBusy(); }, 20000));
+        return label("lblState");
+    }
+    std::string open(const std::string& name, const std::string& text) {
+        source = folder.file(name, text);
+        dialog.openSource(source);
+        return state();
+    }
+    std::string openSample(const std::string& name) {
+        return open(name, readWholeFile(TORVIK_SAMPLES "/prepare/" + name, 1 << 20));
+    }
+    std::string report(const std::string& what) {
+        auto& table = find<QTableWidget>("grdReport");
+        for (int row = 0; row < table.rowCount(); ++row)
+            if (table.item(row, 0)->text().toStdString() == what)
+                return table.item(row, 1)->text().toStdString();
+        return {};
+    }
+    bool canSave() { return find<QPushButton>("cmdSave").isEnabled(); }
+    // Answers the next file dialog, and gives what it proposed.
+    std::string saveAs(const std::filesystem::path& name) {
+        std::string proposed;
+        QTimer::singleShot(0, &dialog, [&] {
+            auto* const files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(files, nullptr);
+            EXPECT_EQ(files->objectName(), "dlgPrepareSave");
+            proposed = files->selectedFiles().constFirst().toStdString();
+            files->setOption(QFileDialog::DontConfirmOverwrite);
+            files->findChild<QLineEdit*>("fileNameEdit")
+                ->setText(QString::fromStdString(name.string()));
+            QMetaObject::invokeMethod(files, "accept");
+            if (files->isVisible())
+                files->reject();
+        });
+        find<QPushButton>("cmdSave").click();
+        return proposed;
+    }
+    std::string written(const std::filesystem::path& name) { return readWholeFile(name, 1 << 20); }
+    // What the plain library makes of the same source.
+    std::string expected(const PrepareOptions& options = {}) {
+        const std::string name = source.string();
+        return prepareDrawing(readSource(written(source), name, options.roundTurn, {}), options)
+            .text;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path source;
+    std::string asked;
+    bool agrees = false;
+    std::filesystem::path opened;
+    FrmPrepare dialog{{.startFolder = folder.path(),
+                       .rememberFolder = {},
+                       .agrees =
+                           [this](const std::string& question, const std::string&) {
+                               asked = question;
+                               return agrees;
+                           },
+                       .openResult = [this](const auto& drawing) { opened = drawing; },
+                       .helpContext = 20}};
+};
+
+TEST_F(FrmPrepareTest, IsEmptyUntilADrawingIsOpened) {
+    EXPECT_FALSE(canSave());
+    EXPECT_FALSE(find<QPushButton>("cmdFit").isEnabled());
+    EXPECT_EQ(label("lblSource") + label("lblBeforeCount") + label("lblState"), "");
+    find<QCheckBox>("chkArcs").click(); // nothing to prepare
+    EXPECT_FALSE(isBusy());
+}
+
+TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfter) {
+    struct Row {
+        const char* name;
+        const char* state;
+        const char* before;
+        const char* after;
+    };
+    const Row rows[] = {
+        {"plate.plt", "Not carried over: texts (not drawn): 1", "366 lines and arcs",
+         "12 lines and arcs, 5 circles"},
+        {"badge.hpgl", "Not carried over: dashed line types (drawn as full lines): 1",
+         "133 lines and arcs, 1 circle", "11 lines and arcs, 3 circles"},
+        {"sign.svg", "Not carried over: texts (not drawn): 1, fills (only the outline is drawn): 2",
+         "39 lines and arcs, 2 circles", "51 lines and arcs, 2 circles"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(openSample(row.name), row.state);
+        EXPECT_EQ(label("lblBeforeCount"), row.before) << row.name;
+        EXPECT_EQ(label("lblAfterCount"), row.after) << row.name;
+        EXPECT_TRUE(canSave());
+    }
+}
+
+TEST_F(FrmPrepareTest, AChangeOfAnyOptionPreparesAnewOnceItHasRested) {
+    open("drawing.plt", square + square + "PU100,100;PD;PU;");
+    struct Row {
+        const char* what;
+        std::function<void()> change;
+        PrepareOptions options;
+    };
+    const auto number = [this](const char* name, double value) {
+        find<QDoubleSpinBox>(name).setValue(value);
+    };
+    PrepareOptions options;
+    options.dropDuplicates = true;
+    std::vector<Row> rows{
+        {"duplicates", [&] { find<QCheckBox>("chkDuplicates").click(); }, options}};
+    const auto then = [&](const char* what, std::function<void()> change) {
+        rows.push_back({what, std::move(change), options});
+    };
+    options.optimize = true;
+    then("order", [&] { find<QCheckBox>("chkOptimize").click(); });
+    options.scale = 2.5;
+    then("scale", [&] { number("txtScale", 2.5); });
+    options.mirror = Mirror::upDown;
+    then("mirror", [&] { find<QComboBox>("cboMirror").setCurrentIndex(2); });
+    options.rotation = 270;
+    then("rotate", [&] { find<QComboBox>("cboRotate").setCurrentIndex(3); });
+    options.origin = Point{-5, 7.5};
+    then("origin", [&] {
+        find<QCheckBox>("chkOrigin").click();
+        number("txtOriginX", -5);
+        number("txtOriginY", 7.5);
+    });
+    options.dots = 0.8;
+    then("dots", [&] {
+        find<QCheckBox>("chkDots").click();
+        number("txtDots", 0.8);
+    });
+    options.tolerance = 0.05;
+    options.roundTurn = 12;
+    then("fitting", [&] {
+        number("txtTolerance", 0.05);
+        number("txtRoundTurn", 12);
+    });
+    options.arcs = false;
+    then("no arcs", [&] { find<QCheckBox>("chkArcs").click(); });
+    for (const Row& row : rows) {
+        row.change();
+        EXPECT_FALSE(canSave()) << row.what << ": what is on show is not what was asked for";
+        state();
+        saveAs(folder.path() / "out.plt");
+        EXPECT_EQ(written(folder.path() / "out.plt"), expected(row.options)) << row.what;
+    }
+    EXPECT_FALSE(find<QWidget>("txtRoundTurn").isEnabled()) << "without arcs it means nothing";
+}
+
+TEST_F(FrmPrepareTest, PensAboveEightAreDrawnByThoseThatAreChosen) {
+    EXPECT_EQ(open("pens.plt", "SP12;" + square.substr(4) + "SP2;PD40,40;SP9;PD80,40;"),
+              "The drawing uses pens above 8 (9, 12). Choose a pen for each in the list of pens.");
+    EXPECT_FALSE(canSave());
+    EXPECT_EQ(label("lblBeforeCount"), "6 lines and arcs") << "it is shown all the same";
+    auto& list = find<QTableWidget>("grdPens");
+    ASSERT_EQ(list.rowCount(), 3);
+    EXPECT_EQ(find<QComboBox>("cboPen0").currentText(), "2 Red");
+    EXPECT_EQ(find<QComboBox>("cboPen1").currentText(), "choose…");
+    QTest::keyClicks(&find<QComboBox>("cboPen1"), "4");
+    EXPECT_EQ(state(),
+              "The drawing uses pens above 8 (12). Choose a pen for each in the list of pens.");
+    QTest::keyClicks(&find<QComboBox>("cboPen2"), "7");
+    EXPECT_EQ(state(), "Ready to be saved");
+    EXPECT_TRUE(canSave());
+    EXPECT_EQ(report("Pen 4 Blue") + report("Pen 7 Pink"),
+              "1 line, 0 arcs, 0 circles4 lines, 0 arcs, 0 circles");
+}
+
+TEST_F(FrmPrepareTest, ColoursOfAPictureGoToTheNearestPenOrTheOneChosen) {
+    openSample("sign.svg");
+    auto& list = find<QTableWidget>("grdPens");
+    ASSERT_EQ(list.rowCount(), 4);
+    int row = 0;
+    while (row < 3 && list.item(row, 0)->text() != "#1040ff")
+        ++row;
+    auto& choice = *qobject_cast<QComboBox*>(list.cellWidget(row, 2));
+    EXPECT_EQ(choice.currentText(), "4 Blue");
+    QTest::keyClicks(&choice, "8");
+    state();
+    EXPECT_NE(report("Pen 8 Purple"), "");
+    EXPECT_EQ(report("Pen 4 Blue"), "");
+    EXPECT_EQ(choice.currentText(), "8 Purple") << "the list stays as it was answered";
+}
+
+TEST_F(FrmPrepareTest, SaysWhatIsWrongAndSavesNothing) {
+    EXPECT_NE(open("notes.svg", "no picture at all").find("notes.svg: "), std::string::npos);
+    EXPECT_FALSE(canSave());
+    EXPECT_EQ(open("dots.plt", "PU1,1;PD;PU;"),
+              "The drawing holds nothing but dots; with a diameter they become circles");
+    EXPECT_EQ(label("lblAfterCount"), "");
+    EXPECT_EQ(find<QTableWidget>("grdReport").rowCount(), 0);
+    dialog.openSource(folder.path() / "gone.plt");
+    EXPECT_NE(state().find("gone.plt: "), std::string::npos);
+    EXPECT_EQ(find<QTableWidget>("grdPens").rowCount(), 0);
+    EXPECT_EQ(open("good.plt", square), "Ready to be saved");
+    EXPECT_TRUE(canSave());
+}
+
+TEST_F(FrmPrepareTest, SavesWhatItShowsUnderTheProposedNameAndOffersToOpenIt) {
+    open("part.hpgl", square);
+    const auto output = folder.path() / "part-torvik.plt";
+    EXPECT_EQ(saveAs(output), output.string());
+    EXPECT_EQ(written(output), expected());
+    EXPECT_EQ(asked, "The prepared drawing is saved as\n" + output.string() +
+                         "\n\nDo you want to open it now?");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(opened, "");
+    EXPECT_EQ(label("lblState"), "Saved as " + output.string());
+    agrees = true;
+    saveAs(output);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(opened, output);
+}
+
+TEST_F(FrmPrepareTest, AFailedSaveLeavesWhatIsThere) {
+    open("part.plt", square);
+    const auto old = folder.file("old.plt", "kept");
+    saveAs(source); // the source itself
+    EXPECT_EQ(state(), "Not saved. " + source.string() +
+                           ": the prepared drawing would replace its own source");
+    EXPECT_EQ(written(source), square);
+    {
+        const FullDisk disk;
+        saveAs(old);
+    }
+    EXPECT_NE(state().find("old.plt: the file cannot be written"), std::string::npos);
+    EXPECT_EQ(written(old), "kept");
+    EXPECT_EQ(asked, "");
+    EXPECT_TRUE(canSave()) << "under another name";
+}
+
+TEST_F(FrmPrepareTest, ADrawingIsOpenedWhereItIsDropped) {
+    const auto drop = [&](const std::filesystem::path& name) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(name.string()))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
+        QApplication::sendEvent(&dialog, &enter);
+        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&dialog, &event);
+        return enter.isAccepted();
+    };
+    EXPECT_FALSE(drop(folder.file("notes.txt", "")));
+    EXPECT_EQ(label("lblSource"), "");
+    EXPECT_TRUE(drop(folder.file("Part.HPG", square)));
+    EXPECT_EQ(state() + label("lblSource"), "Ready to be savedPart.HPG");
+}
+
+TEST_F(FrmPrepareTest, TheNewestRunWinsAndClosingDoesNotWait) {
+    std::string many; // an order of which takes many seconds
+    for (int i = 0; i < 30000; ++i)
+        many += "PU" + std::to_string(i * 7919L % 30011) + "," +
+                std::to_string(i * 104729L % 30013) + ";PD" + std::to_string(i * 7919L % 30011) +
+                "," + std::to_string(i * 104729L % 30013 + 1) + ";";
+    open("many.plt", many);
+    find<QCheckBox>("chkOptimize").click();
+    QTest::qWait(400); // at work by now
+    EXPECT_TRUE(isBusy());
+    dialog.openSource(folder.file("small.plt", square));
+    EXPECT_EQ(state(), "Ready to be saved");
+    EXPECT_EQ(label("lblBeforeCount"), "4 lines and arcs");
+}
+
+TEST_F(FrmPrepareTest, NumbersHaveThePointWhateverTheCountry) {
+    auto& scale = find<QDoubleSpinBox>("txtScale");
+    scale.setFocus();
+    scale.selectAll();
+    QTest::keyClicks(&scale, "25.4");
+    EXPECT_EQ(scale.value(), 25.4);
+    EXPECT_EQ(find<QDoubleSpinBox>("txtTolerance").text(), "0.01 mm");
+    EXPECT_EQ(find<QDoubleSpinBox>("txtRoundTurn").text(), "24 °");
+}
+
+TEST_F(FrmPrepareTest, EveryControlIsNamedAndNoAccessKeyHasTwoMeanings) {
+    openSample("badge.hpgl");
+    std::string keys;
+    for (QWidget* const control : dialog.findChildren<QWidget*>()) {
+        const auto* const button = qobject_cast<QAbstractButton*>(control);
+        const auto* const caption = qobject_cast<QLabel*>(control);
+        const QString text = button != nullptr                                   ? button->text()
+                             : caption != nullptr && caption->buddy() != nullptr ? caption->text()
+                                                                                 : QString();
+        if (const auto at = text.indexOf('&'); at >= 0) {
+            const char letter = text[at + 1].toUpper().toLatin1();
+            EXPECT_EQ(keys.find(letter), std::string::npos) << text.toStdString();
+            keys += letter;
+        }
+        const bool isControl = qobject_cast<QAbstractSpinBox*>(control) != nullptr ||
+                               qobject_cast<QComboBox*>(control) != nullptr ||
+                               qobject_cast<QTableWidget*>(control) != nullptr ||
+                               qobject_cast<DrawingView*>(control) != nullptr;
+        const std::string name = control->objectName().toStdString();
+        EXPECT_FALSE((isControl || (button != nullptr && !text.isEmpty())) && name.empty())
+            << control->metaObject()->className();
+        EXPECT_FALSE(isControl && control->accessibleName().isEmpty()) << name;
+    }
+    EXPECT_EQ(keys.size(), 17U) << keys;
+}
+
+TEST_F(FrmPrepareTest, TheTabKeyGoesFromTheDrawingsThroughTheOptionsToTheButtons) {
+    openSample("plate.plt");
+    find<QPushButton>("cmdOpen").setFocus();
+    std::string order;
+    do {
+        const QString name = QApplication::focusWidget()->objectName();
+        order += name.mid(3).toStdString() + " ";
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget()->objectName() != "cmdOpen" && order.size() < 500);
+    EXPECT_EQ(order, "Open Before After Fit Report Tolerance RoundTurn Arcs Duplicates Optimize "
+                     "Scale Mirror Rotate Origin Dots Pen0 Pen1 Save Close ");
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Drawings of other programs: the dialog that makes them readable, and the line in the status bar
+// that points to it where a drawing was opened without it.
+#include "base/error_trap.h"
+#include "base/files.h"
+#include "job/hpgl_reader.h"
+#include "prepare/dialog/frm_prepare.h"
+#include "prepare/source/skipped.h"
+#include "wizard/file_dialogs.h"
+#include "wizard/frm_main.h"
+#include "wizard/pen_controls.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QStyle>
+
+namespace torvik {
+namespace {
+
+constexpr int helpPrepare = 20;
+
+QString named(const std::filesystem::path& path) {
+    return QString::fromStdString(utf8FromPath(path));
+}
+
+} // namespace
+
+void FrmMain::PrepareDrawing() {
+    withErrorTrap(m_workshop.logger, {"PrepareDrawing", "frmMain"}, [&] {
+        std::filesystem::path toOpen;
+        PrepareSurroundings surroundings;
+        surroundings.helpContext = helpPrepare;
+        surroundings.startFolder = pathFromUtf8(plotFolder(m_workshop.registry).toStdString());
+        surroundings.rememberFolder = [this](const std::filesystem::path& folder) {
+            rememberPlotFolder(m_workshop.registry, named(folder));
+        };
+        surroundings.agrees = [this](const std::string& question, const std::string& title) {
+            return m_workshop.messages.intStdMsgBox(question, styleQuestion, title) == buttonYes;
+        };
+        surroundings.openResult = [&](const std::filesystem::path& drawing) { toOpen = drawing; };
+        FrmPrepare dialog(std::move(surroundings), this);
+        if (m_workshop.job.gintWizardStep > 1)
+            dialog.openSource(pathFromUtf8(m_workshop.job.gstrPlotFile));
+        dialog.exec();
+        if (!toOpen.empty())
+            ReadFile(toOpen);
+    });
+}
+
+void FrmMain::buildSkippedLine() {
+    m_skipped = new QPushButton;
+    m_skipped->setObjectName(QStringLiteral("cmdSkipped"));
+    m_skipped->setFlat(true);
+    m_skipped->setMinimumWidth(1); // a long line does not widen the window
+    m_skipped->setFocusPolicy(Qt::TabFocus);
+    m_skipped->setCursor(Qt::PointingHandCursor);
+    m_skipped->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    m_skipped->setToolTip(tr("Open the dialog with this drawing"));
+    m_skipped->setProperty(helpContextProperty, helpPrepare);
+    connect(m_skipped, &QPushButton::clicked, this,
+            [this] { later([this] { PrepareDrawing(); }); });
+    auto* const line = new QWidget;
+    auto* const layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_skipped);
+    layout->addStretch(1);
+    statusBar()->setObjectName(QStringLiteral("staMain"));
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addPermanentWidget(line, 1); // which no passing message covers
+    showSkipped(0);
+}
+
+void FrmMain::showSkipped(long instructions) {
+    const QString text =
+        instructions == 1
+            ? tr("1 instruction of this drawing is not read, so something may be missing. See "
+                 "File ▸ Prepare a Drawing…")
+            : tr("%1 instructions of this drawing are not read, so something may be missing. See "
+                 "File ▸ Prepare a Drawing…")
+                  .arg(instructions);
+    m_skipped->setText(text);
+    m_skipped->setAccessibleName(text);
+    statusBar()->setVisible(instructions > 0);
+}
+
+void FrmMain::countSkippedIn(const std::filesystem::path& drawing) {
+    long harmful = 0;
+    withQuietErrorTrap(m_workshop.logger, {"countSkippedIn", "frmMain"}, [&] {
+        harmful = countSkipped(readWholeFile(drawing, maxDrawingBytes)).harmful;
+    });
+    showSkipped(harmful);
+}
+
+} // namespace torvik
