@@ -42,7 +42,7 @@ void Legend::clear() {
 }
 
 void Legend::fitHeight(int height) {
-    m_rowsInColumn = std::max(1, height / rowHeight);
+    m_rowsInColumn = std::max(1, (height - overhang) / rowHeight);
     const int rows = static_cast<int>(m_rows.size());
     const int columns = (rows + m_rowsInColumn - 1) / m_rowsInColumn;
     setMinimumWidth(columns * columnWidth());

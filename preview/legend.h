@@ -21,6 +21,7 @@ public:
     };
 
     static constexpr int rowHeight = 24; // pixels
+    static constexpr int overhang = 2;   // pixels that the lowest disc needs below its row
 
     explicit Legend(QWidget* parent = nullptr);
 

@@ -4,22 +4,18 @@
 #include "job/job.h"
 #include "preview/depths.h"
 #include "preview/groove_painter.h"
+#include "preview/sharp_lines.h"
 
 #include <cmath>
 
 namespace torvik {
 namespace {
 
-// A level line that lies between two rows of pixels would be twice as wide and half as dark.
-void sharpen(ScreenPoint& start, ScreenPoint& end, double ScreenPoint::*across) {
-    if (std::fabs(start.*across - end.*across) < 0.01)
-        start.*across = end.*across = std::floor(start.*across) + 0.5;
-}
-
 // Paints lines of one pixel. The painter is quick with just these; wider ones are grooves.
 class ThinLinePainter {
 public:
-    ThinLinePainter(QImage& image, const PictureView& view) : m_painter(&image), m_view(view) {
+    ThinLinePainter(QImage& image, const PictureView& view, const Job& job)
+        : m_painter(&image), m_view(view), m_sharpLines(job, view, image.width(), image.height()) {
         m_painter.setRenderHint(QPainter::Antialiasing);
     }
 
@@ -33,10 +29,7 @@ public:
     void groove(const Path& path, double) {
         m_line.clear();
         appendLine(m_line, path, m_view);
-        if (path.intType == straightLine) {
-            sharpen(m_line.front(), m_line.back(), &ScreenPoint::x);
-            sharpen(m_line.front(), m_line.back(), &ScreenPoint::y);
-        }
+        m_sharpLines.align(m_line);
         const QPointF start(m_line.front().x, m_line.front().y);
         if (polygonOf(m_line, m_polygon).count(start) == m_polygon.size()) // it would not show
             m_painter.fillRect(QRectF(start - QPointF(0.5, 0.5), QSizeF(1, 1)), colourOf(m_colour));
@@ -47,6 +40,7 @@ public:
 private:
     QPainter m_painter;
     const PictureView& m_view;
+    SharpLines m_sharpLines;
     std::int32_t m_colour = -1;
     Points m_line;
     QPolygonF m_polygon;
@@ -80,7 +74,7 @@ void paintLines(QImage& image, const Job& job, const PictureView& view,
     if (width > 1)
         paintLines(GroovePainter(image, aligned), job, width, shown);
     else
-        paintLines(ThinLinePainter(image, aligned), job, width, shown);
+        paintLines(ThinLinePainter(image, aligned, job), job, width, shown);
 }
 
 std::vector<bool> machinedPaths(const Job& job) {

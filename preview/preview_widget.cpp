@@ -101,8 +101,8 @@ void PreviewWidget::buildLegendStrip() {
 // The strip lies where it leaves more room for the drawing.
 void PreviewWidget::placeLegendStrip() {
     const int stripWidth = m_legend->stripWidth() + stripMargin;
-    const int stripHeight =
-        m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight + 2 * stripMargin;
+    const int stripHeight = m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight +
+                            Legend::overhang + 2 * stripMargin;
     const double shape = m_line.extents.empty() || m_line.extents.height() == 0
                              ? 1
                              : m_line.extents.width() / m_line.extents.height();

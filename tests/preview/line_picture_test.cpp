@@ -73,6 +73,30 @@ TEST_P(LinePictureTest, UprightAndLevelLinesAreSharp) {
     EXPECT_EQ(columns, width);
 }
 
+// The top and the right side of a plate, with a round corner and a bevelled one.
+TEST_P(LinePictureTest, NothingSticksOutWhereLinesMeet) {
+    constexpr int faint = 0xE8; // what smoothing may leave beside a line
+    for (const char* drawing : {"SP1;PU403,1607;PD1203,1607;AA1203,1207,-90;PD1603,407",
+                                "SP1;PU403,1607;PD1203,1607;PD1603,1207;PD1603,407",
+                                "SP1;PU1603,407;PD1603,1207;AA1203,1207,90;PD403,1607"}) {
+        job = readDrawing(drawing);
+        LinePicture picture;
+        plot(picture);
+        const QImage& image = picture.image();
+        int top = 0;
+        int right = image.width() - 1;
+        const int quarter = image.width() / 4;
+        while (image.pixel(image.width() / 2, top) == white)
+            ++top;
+        while (image.pixel(right, image.height() - quarter) == white)
+            --right;
+        for (int i = 0; i < image.width(); ++i) {
+            EXPECT_GT(qGray(image.pixel(i, top - 1)), faint) << drawing << " above, at " << i;
+            EXPECT_GT(qGray(image.pixel(right + 1, i)), faint) << drawing << " beside, at " << i;
+        }
+    }
+}
+
 TEST_P(LinePictureTest, ADotShows) {
     for (const char* drawing : {"SP1;PU1000,1000;PD1000,1000", "SP1;PU1000,1000;CI0"}) {
         job = readDrawing(drawing);

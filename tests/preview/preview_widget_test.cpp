@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "preview/depths.h"
 #include "preview/preview_widget.h"
 #include "tests/base/temporary_folder.h"
 #include "tests/preview/machined_job.h"
@@ -115,6 +116,21 @@ TEST_F(PreviewWidgetTest, TheLegendListsTheDepthsAndGoesWithThePiece) {
     preview.PlotLines();
     EXPECT_TRUE(legend().empty());
     EXPECT_TRUE(child("lblLegend")->isHidden());
+}
+
+TEST_F(PreviewWidgetTest, TheLegendsLowestDiscIsWhole) {
+    DepthList depths;
+    for (const float depth : {1.0F, 2.0F, 3.0F})
+        SaveDepth(depths, depth);
+    for (const int height : {72, 73, 74, 80}) {
+        Legend legend;
+        legend.setDepths(depths, 1, 3);
+        legend.fitHeight(height);
+        legend.resize(legend.minimumWidth(), height);
+        const QImage shown = legend.grab().toImage();
+        for (int x = 0; x < shown.width(); ++x)
+            ASSERT_EQ(shown.pixel(x, height - 1), shown.pixel(0, 0)) << height << " at " << x;
+    }
 }
 
 TEST_F(PreviewWidgetTest, TheLegendNeverCoversTheDrawing) {
