@@ -34,16 +34,12 @@ DrawingView* view(const QString& name, const QString& accessibleName) {
 QString countText(const StrokePicture* picture) {
     if (picture == nullptr)
         return {};
-    const auto count = [](std::size_t n, const char* one, const char* many) {
-        return QStringLiteral("%1 %2").arg(n).arg(QString::fromUtf8(n == 1 ? one : many));
-    };
-    const std::size_t others = picture->elements - picture->circles;
-    QStringList parts;
-    if (others > 0 || picture->circles == 0)
-        parts += count(others, "line or arc", "lines and arcs");
-    if (picture->circles > 0)
-        parts += count(picture->circles, "circle", "circles");
-    return parts.join(QStringLiteral(", "));
+    const QString elements = picture->elements == 1
+                                 ? BeforeAfter::tr("1 element")
+                                 : BeforeAfter::tr("%1 elements").arg(picture->elements);
+    return picture->circles == 0
+               ? elements
+               : BeforeAfter::tr("%1, circles: %2").arg(elements).arg(picture->circles);
 }
 
 QRectF boundsOf(const StrokePicture* picture) {

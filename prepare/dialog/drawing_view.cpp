@@ -31,7 +31,8 @@ void DrawingView::setPicture(std::shared_ptr<const StrokePicture> picture) {
         return;
     m_picture = std::move(picture);
     setCursor(m_picture ? Qt::OpenHandCursor : Qt::ArrowCursor);
-    m_painted = {};
+    if (!m_picture)
+        m_painted = {}; // else it stays until the new one is painted
     paintSoon();
 }
 
@@ -60,8 +61,8 @@ void DrawingView::paintSoon() {
         QImage image = paintPicture(*picture, place, size, ratio, stop);
         QMetaObject::invokeMethod(
             this,
-            [this, picture, painted = Painted{std::move(image), place, size}] {
-                if (picture != m_picture)
+            [this, painted = Painted{std::move(image), place, picture, size}] {
+                if (painted.picture != m_picture)
                     return;
                 m_painted = painted;
                 update();
@@ -76,6 +77,9 @@ void DrawingView::paintEvent(QPaintEvent*) {
     if (m_picture) {
         drawPainted(painter);
     } else if (!m_hint.isEmpty()) {
+        QFont large = font();
+        large.setPointSizeF(large.pointSizeF() * 1.2);
+        painter.setFont(large);
         painter.setPen(QColor(0x60, 0x60, 0x60));
         painter.drawText(contentsRect().adjusted(12, 12, -12, -12),
                          Qt::AlignCenter | Qt::TextWordWrap, m_hint);

@@ -28,7 +28,10 @@ public:
     void setPlace(const ViewPlace& place);
     const ViewPlace& place() const { return m_place; }
     // Whether what is on show has been painted for the place on show.
-    bool isPainted() const { return m_painted.place == m_place && m_painted.size == paintedSize(); }
+    bool isPainted() const {
+        return m_painted.picture == m_picture && m_painted.place == m_place &&
+               m_painted.size == paintedSize();
+    }
 
     QSize minimumSizeHint() const override { return {160, 140}; }
     QSize sizeHint() const override { return {420, 420}; }
@@ -53,6 +56,7 @@ private:
     struct Painted {
         QImage image;
         ViewPlace place;
+        std::shared_ptr<const StrokePicture> picture;
         QSize size; // of the view that the image is for, with its margins
     };
 

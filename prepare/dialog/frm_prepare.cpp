@@ -95,6 +95,10 @@ void FrmPrepare::openSource(const fs::path& source) {
     m_source = source;
     m_result = {};
     m_pens->setPens({});
+    placePensInTabOrder();
+    m_drawings->setHints(tr("Preparing…"), tr("Preparing…"));
+    m_drawings->setPictures(nullptr, nullptr);
+    showReport({});
     m_sourceName->setText(named(source.filename()));
     m_sourceName->setToolTip(named(source));
     prepareNow();
@@ -156,7 +160,8 @@ void FrmPrepare::showReport(const std::vector<ReportRow>& rows) {
         m_report->setItem(i, 0, new QTableWidgetItem(QString::fromStdString(row.what)));
         m_report->setItem(i, 1, new QTableWidgetItem(QString::fromStdString(row.value)));
     }
-    m_report->resizeColumnToContents(0);
+    if (!rows.empty())
+        m_report->resizeColumnToContents(0);
     m_report->resizeRowsToContents();
 }
 

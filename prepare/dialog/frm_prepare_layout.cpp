@@ -35,6 +35,7 @@ QTableWidget* reportTable() {
     table->setAccessibleName(FrmPrepare::tr("Report"));
     table->setHorizontalHeaderLabels({FrmPrepare::tr("Report"), QString()});
     table->horizontalHeader()->setStretchLastSection(true);
+    table->setColumnWidth(0, table->fontMetrics().averageCharWidth() * 38);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->horizontalHeader()->setHighlightSections(false);
     table->verticalHeader()->hide();
@@ -67,8 +68,8 @@ FrmPrepare::FrmPrepare(PrepareSurroundings surroundings, QWidget* parent)
     layout->addLayout(middle, 1);
     layout->addWidget(buildButtons());
     connectControls();
-    const QString hint = tr("Open or drop a drawing");
-    m_drawings->setHints(hint, {});
+    placePensInTabOrder();
+    m_drawings->setHints(tr("Open or drop a drawing"), tr("What becomes of it appears here"));
     showState(State::idle, {});
     resize(QSize(1120, 720).boundedTo(screen()->availableSize() - roomForFrame));
 }
@@ -144,13 +145,18 @@ void FrmPrepare::connectControls() {
     connect(m_close, &QPushButton::clicked, this, &FrmPrepare::reject);
     connect(m_options, &OptionPanel::changed, this, &FrmPrepare::prepareSoon);
     connect(m_pens, &PenList::changed, this, &FrmPrepare::prepareSoon);
+    connect(m_report->horizontalHeader(), &QHeaderView::sectionResized, m_report,
+            &QTableWidget::resizeRowsToContents);
     connect(&m_rest, &QTimer::timeout, this, &FrmPrepare::prepareNow);
 }
 
 void FrmPrepare::placePensInTabOrder() {
     // The boxes of the list of pens come and go; what stands before them keeps its order.
     const auto& choices = m_pens->choices();
-    m_pensLabel->setBuddy(choices.empty() ? nullptr : choices.front());
+    if (choices.empty())
+        m_pensLabel->setBuddy(m_pens);
+    else
+        m_pensLabel->setBuddy(choices.front());
     QWidget* last = m_options->lastControl();
     for (QWidget* const choice : choices) {
         setTabOrder(last, choice);

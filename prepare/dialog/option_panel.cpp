@@ -47,6 +47,7 @@ QComboBox* choice(const char* name, const QStringList& texts) {
 
 QHBoxLayout* inARow(std::initializer_list<QWidget*> controls) {
     auto* const row = new QHBoxLayout;
+    row->setSpacing(6);
     for (QWidget* const control : controls)
         row->addWidget(control, qobject_cast<QDoubleSpinBox*>(control) != nullptr ? 1 : 0);
     return row;
@@ -68,6 +69,7 @@ OptionPanel::OptionPanel(QWidget* parent) : QGroupBox(tr("Options"), parent) {
     auto* const form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setVerticalSpacing(4);
+    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     buildFitting(*form);
     buildPlacing(*form);
     buildOnRequest(*form);

@@ -39,6 +39,7 @@ PenList::PenList(QWidget* parent) : QTableWidget(0, 3, parent) {
     horizontalHeader()->setSectionResizeMode(columnStrokes, QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(columnTarget, QHeaderView::ResizeToContents);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setFocusPolicy(Qt::NoFocus); // the choices in it have it

@@ -16,7 +16,8 @@ namespace {
 constexpr std::size_t chunkSize = 1000; // elements
 constexpr qsizetype mostMarked = 3000;  // joints or centres in sight
 constexpr double dotRadius = 0.25;      // mm, of a dot as it is shown
-constexpr double jointSide = 3;         // pixels, as below
+constexpr double jointGap = 7;  // pixels, as below: nearer ones would grow into a thick line
+constexpr double jointSide = 3; // pixels, as below
 constexpr double centreArm = 4;
 
 QPointF inMm(Point p) {
@@ -107,8 +108,12 @@ void markJoints(QPainter& painter, const PictureChunk& chunk, const QTransform& 
                 double ratio) {
     const double side = jointSide * ratio;
     const QColor colour = penColour(chunk.pen);
+    QPointF last(-HUGE_VAL, -HUGE_VAL);
     for (const QPointF& joint : chunk.joints) {
         const QPointF at = toImage.map(joint);
+        if ((at - last).manhattanLength() < jointGap * ratio)
+            continue;
+        last = at;
         painter.fillRect(QRectF(at - QPointF(side, side) / 2, QSizeF(side, side)), colour);
     }
 }

@@ -57,9 +57,11 @@ Reading readingOfSkipped(std::string_view part) {
     const Instruction* const row = findInstruction({toCapital(part[0]), toCapital(part[1])});
     if (row == nullptr || row->effect == Effect::nothing)
         return Reading::harmless;
-    // Without numbers, units go back to what the reader takes anyway, and a move goes nowhere.
+    // Without numbers, units go back to what the reader takes anyway, and a move goes nowhere; but
+    // after a PR all moves are meant from the pen's place.
     const bool isBare = part.find_first_not_of(" ,\t", 2) == std::string_view::npos;
-    const bool isMove = row->parameters.find("]...") != std::string_view::npos;
+    const bool isRelative = row->perform == &PenPlotter::plotRelative;
+    const bool isMove = !isRelative && row->parameters.find("]...") != std::string_view::npos;
     const bool isReset = row->effect == Effect::places;
     return isBare && (isMove || isReset) ? Reading::harmless : Reading::harmful;
 }

@@ -192,7 +192,7 @@ TEST_F(Converter, ShowsWhatIsSkippedAndWhatHelps) {
          "1 instruction, 1 with effect on the drawing; torvik-prepare one.plt makes one that is "
          "read completely"},
         {"two words.plt", "IN;SP1;PU0,0;PD40,0,40,40;PR;pd9,9;",
-         "4 instructions, 2 with effect on the drawing; torvik-prepare \"two words.plt\" makes "
+         "4 instructions, 3 with effect on the drawing; torvik-prepare \"two words.plt\" makes "
          "one that is read completely"},
     };
     for (const auto& row : rows) {

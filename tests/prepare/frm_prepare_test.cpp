@@ -144,12 +144,12 @@ TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfter) {
         const char* after;
     };
     const Row rows[] = {
-        {"plate.plt", "Not carried over: texts (not drawn): 1", "366 lines and arcs",
-         "12 lines and arcs, 5 circles"},
+        {"plate.plt", "Not carried over: texts (not drawn): 1", "366 elements",
+         "17 elements, circles: 5"},
         {"badge.hpgl", "Not carried over: dashed line types (drawn as full lines): 1",
-         "133 lines and arcs, 1 circle", "11 lines and arcs, 3 circles"},
+         "134 elements, circles: 1", "14 elements, circles: 3"},
         {"sign.svg", "Not carried over: texts (not drawn): 1, fills (only the outline is drawn): 2",
-         "39 lines and arcs, 2 circles", "51 lines and arcs, 2 circles"},
+         "41 elements, circles: 2", "53 elements, circles: 2"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(openSample(row.name), row.state);
@@ -217,7 +217,7 @@ TEST_F(FrmPrepareTest, PensAboveEightAreDrawnByThoseThatAreChosen) {
     EXPECT_EQ(open("pens.plt", "SP12;" + square.substr(4) + "SP2;PD40,40;SP9;PD80,40;"),
               "The drawing uses pens above 8 (9, 12). Choose a pen for each in the list of pens.");
     EXPECT_FALSE(canSave());
-    EXPECT_EQ(label("lblBeforeCount"), "6 lines and arcs") << "it is shown all the same";
+    EXPECT_EQ(label("lblBeforeCount"), "6 elements") << "it is shown all the same";
     auto& list = find<QTableWidget>("grdPens");
     ASSERT_EQ(list.rowCount(), 3);
     EXPECT_EQ(find<QComboBox>("cboPen0").currentText(), "2 Red");
@@ -312,7 +312,7 @@ TEST_F(FrmPrepareTest, ADrawingIsOpenedWhereItIsDropped) {
     EXPECT_EQ(state() + label("lblSource"), "Ready to be savedPart.HPG");
 }
 
-TEST_F(FrmPrepareTest, TheNewestRunWinsAndClosingDoesNotWait) {
+TEST_F(FrmPrepareTest, TheNewestRunWins) {
     std::string many; // an order of which takes many seconds
     for (int i = 0; i < 30000; ++i)
         many += "PU" + std::to_string(i * 7919L % 30011) + "," +
@@ -324,7 +324,7 @@ TEST_F(FrmPrepareTest, TheNewestRunWinsAndClosingDoesNotWait) {
     EXPECT_TRUE(isBusy());
     dialog.openSource(folder.file("small.plt", square));
     EXPECT_EQ(state(), "Ready to be saved");
-    EXPECT_EQ(label("lblBeforeCount"), "4 lines and arcs");
+    EXPECT_EQ(label("lblBeforeCount"), "4 elements");
 }
 
 TEST_F(FrmPrepareTest, NumbersHaveThePointWhateverTheCountry) {

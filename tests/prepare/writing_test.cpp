@@ -114,6 +114,7 @@ TEST(Skipped, CountsWhatTheJobsReaderPassesOver) {
         {"the reader's own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1},
         {"bare PU and PD go nowhere", "SP1;PU;PD;PU0,0", 0, 2},
         {"PA after a bare PD is lost", "PD;PA5,5;PA6,6;PA;", 2, 2},
+        {"after a bare PR all that follows lies elsewhere", "PR;PD1,1;PD1,0;", 1, 0},
         {"further pairs are lost", "PD1,1,2,2;PU1,1,2,2", 2, 0},
         {"a blank in the way is a comma", "PD 10 20;PU10 20", 1, 0},
         {"small letters are not understood", "pd1,1;vs5", 1, 1},

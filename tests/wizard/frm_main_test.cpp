@@ -5,6 +5,7 @@
 #include <QDragEnterEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -16,6 +17,7 @@ namespace {
 class FrmMainTest : public MainWindowTest {
 protected:
     bool isFlashing() { return find<QTimer>("tmrFlash").isActive(); }
+    QStatusBar& statusBar() { return find<QStatusBar>("staMain"); }
     int treeRows() { return find<QTreeWidget>("tvwColours").topLevelItemCount(); }
     bool showsPicture() { return find<QWidget>("picPlot").isVisible(); }
     std::string currentStep() {
@@ -281,6 +283,59 @@ TEST_F(FrmMainTest, ADroppedDrawingIsOpenedUnlessADialogWaits) {
     EXPECT_EQ(shown(), "picOpening Start");
     EXPECT_TRUE(drop({drawing}));
     EXPECT_EQ(job.gstrPlotFile, drawing.string());
+}
+
+TEST_F(FrmMainTest, ALineBelowSaysWhatOfADrawingIsNotReadAndOpensTheDialog) {
+    const auto line = [this] {
+        auto& button = find<QPushButton>("cmdSkipped");
+        EXPECT_EQ(button.accessibleName(), button.text());
+        return button.isVisible() ? button.text().toStdString() : "";
+    };
+    const std::string end = " so something may be missing. See File ▸ Prepare a Drawing…";
+    const auto plain = folder.file("plain.plt", "IN;SP1;PU0,0;PD40,40;SP0;");
+    const auto one = folder.file("one.plt", "SP1;PD40,40,80,80;PD0,0;");
+    startDrawing("SP1;PD40,40;PR;PD1,1;PD1,1,2,2;EA40,40;");
+    EXPECT_EQ(line(), "3 instructions of this drawing are not read," + end);
+    statusBar().showMessage("a passing message");
+    EXPECT_EQ(line(), "3 instructions of this drawing are not read," + end);
+    openFromMenu(buttonYes, DialogAnswers::file(one));
+    EXPECT_EQ(line(), "1 instruction of this drawing is not read," + end);
+    answers.expect("frmPrepare", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel*>("lblSource")->text(), "one.plt");
+        dialog.reject();
+    });
+    click("cmdSkipped");
+    EXPECT_EQ(answers.open(), 0U);
+    messages.answers = {buttonYes};
+    answers.expect("dlgOpen", DialogAnswers::cancel);
+    click("cmdBack"); // the drawing is closed
+    messages.take();
+    EXPECT_EQ(line(), "");
+    openFromMenu(buttonYes, DialogAnswers::file(one));
+    EXPECT_NE(line(), "");
+    openFromMenu(buttonYes, DialogAnswers::file(plain));
+    EXPECT_EQ(line(), "");
+}
+
+TEST_F(FrmMainTest, APreparedDrawingIsOpenedTheOrdinaryWay) {
+    startDrawing("SP1;PD400,0,400,400;");
+    const auto prepared = folder.path() / "drawing-torvik.plt";
+    answers.expect("frmPrepare", [&](QDialog& dialog) {
+        auto* const save = dialog.findChild<QPushButton*>("cmdSave");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return save->isEnabled(); }));
+        messages.answers = {buttonYes, buttonYes};
+        answers.expect("dlgPrepareSave", DialogAnswers::file(prepared));
+        QTest::mouseClick(save, Qt::LeftButton);
+    });
+    find<QAction>("mnuFilePrepare").trigger();
+    settle();
+    EXPECT_EQ(messages.take(),
+              "Drawing saved|36|The prepared drawing is saved as\n" + prepared.string() +
+                  "\n\nDo you want to open it now?Open file|36|Are you sure you want to open a "
+                  "file\nwithout saving the current file as G-codes?");
+    EXPECT_EQ(job.gstrPlotFile, prepared.string());
+    EXPECT_EQ(job.gintPathCount, 2);
+    EXPECT_FALSE(find<QPushButton>("cmdSkipped").isVisible());
 }
 
 TEST_F(FrmMainTest, ClosingAsksWhileNothingIsWritten) {
