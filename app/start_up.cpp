@@ -4,6 +4,7 @@
 #include "app/about_box.h"
 #include "app/help_key.h"
 #include "app/help_window.h"
+#include "app/indicator_style.h"
 #include "app/message_window.h"
 #include "app/resources.h"
 #include "app/single_instance.h"
@@ -56,6 +57,7 @@ void openLater(FrmMain& window, const QString& drawing) {
 } // namespace
 
 int runDesktop(const QString& named) {
+    QApplication::setStyle(new IndicatorStyle);
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));

@@ -57,12 +57,12 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * 1.15);
     controls.title->setFont(font);
+    // As wide as the page: beside the picture a line would end between a size and its unit.
+    layout.addWidget(controls.title);
 
     controls.choice = new QButtonGroup(&page);
     auto* column = new QVBoxLayout;
     column->setSpacing(6);
-    column->addWidget(controls.title);
-    column->addSpacing(6);
     for (std::size_t i = 0; i < controls.optCut.size(); ++i) {
         auto* option = new QRadioButton(&page);
         option->setObjectName("optCut" + QString::number(i));
