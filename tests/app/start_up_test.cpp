@@ -53,6 +53,11 @@ TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
             QTimer::singleShot(0, qApp, [] { // behind the opening
                 EXPECT_TRUE(mainWindow()->windowTitle().endsWith("gear.plt"));
                 EXPECT_TRUE(mainWindow()->findChild<QPushButton*>("cmdBack")->isVisible());
+                QTimer::singleShot(0, qApp, [] { // whether to close without saving
+                    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                    ASSERT_NE(box, nullptr);
+                    box->button(QMessageBox::Yes)->click();
+                });
                 mainWindow()->close();
             });
         },
