@@ -9,6 +9,7 @@
 #include "prepare/fitting/grid.h"
 #include "prepare/placing/join.h"
 #include "prepare/placing/order.h"
+#include "prepare/report.h"
 #include "prepare/writing/check.h"
 #include "prepare/writing/writer.h"
 
@@ -64,10 +65,15 @@ private:
         place(m_strokes, placement);
         m_result.report.dotsDrawn = dots.has_value();
         if (m_strokes.empty())
-            throw RunTimeError(m_result.report.dots > 0
-                                   ? "the drawing holds nothing but dots; with a diameter they "
-                                     "become circles"
-                                   : "the drawing holds nothing to draw");
+            throw RunTimeError(whyNothing());
+    }
+
+    std::string whyNothing() const {
+        if (m_result.report.dots > 0)
+            return "the drawing holds nothing but dots; with a diameter they become circles";
+        const std::string lost = lossLine(m_result.report);
+        return "the drawing holds nothing to draw" +
+               (lost.empty() ? "" : "; not carried over: " + lost);
     }
 
     void goOnUnlessStopped() const {

@@ -215,7 +215,9 @@ TEST(Preparing, RefusesWhatCannotBecomeAJob) {
         }
         return std::string();
     };
-    EXPECT_EQ(refusal("IN;PU5,5;LBtext\x03"), "the drawing holds nothing to draw");
+    EXPECT_EQ(refusal("IN;PU5,5;"), "the drawing holds nothing to draw");
+    EXPECT_EQ(refusal("IN;PU5,5;LBtext\x03"),
+              "the drawing holds nothing to draw; not carried over: texts (not drawn): 1");
     EXPECT_EQ(refusal("PD;PU;"),
               "the drawing holds nothing but dots; with a diameter they become circles");
     EXPECT_EQ(refusal("SP9;PD1,1"), "the drawing uses pens above 8 (9); say which pen to take for "
