@@ -56,15 +56,15 @@ void openLater(FrmMain& window, const QString& drawing) {
 
 } // namespace
 
-int runDesktop(const QString& named) {
+int runDesktop(const QString& drawing) {
     QApplication::setStyle(new IndicatorStyle);
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     MessageWindow messages;
     SingleInstance instance(instanceName());
-    const QString drawing = named.isEmpty() ? QString() : QFileInfo(named).absoluteFilePath();
-    if (!guardInstance(instance, drawing, messages))
+    const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();
+    if (!guardInstance(instance, path, messages))
         return 0;
 
     Logger logger(logFile("torvik"));
@@ -99,7 +99,7 @@ int runDesktop(const QString& named) {
                      });
     ToolDataLoad(workshop.tools, *registry, logger);
     frmMain.show();
-    openLater(frmMain, drawing);
+    openLater(frmMain, path);
     return QApplication::exec();
 }
 
