@@ -73,7 +73,8 @@ void DrawingView::paintSoon() {
 
 void DrawingView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(rect(), palette().window()); // what the frame leaves free
+    painter.fillRect(contentsRect(), Qt::white);
     if (m_picture) {
         drawPainted(painter);
     } else if (!m_hint.isEmpty()) {

@@ -136,7 +136,7 @@ TEST_F(FrmPrepareTest, IsEmptyUntilADrawingIsOpened) {
     EXPECT_FALSE(isBusy());
 }
 
-TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfter) {
+TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfterAndSavesIt) {
     struct Row {
         const char* name;
         const char* state;
@@ -155,7 +155,8 @@ TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfter) {
         EXPECT_EQ(openSample(row.name), row.state);
         EXPECT_EQ(label("lblBeforeCount"), row.before) << row.name;
         EXPECT_EQ(label("lblAfterCount"), row.after) << row.name;
-        EXPECT_TRUE(canSave());
+        saveAs(folder.path() / "out.plt");
+        EXPECT_EQ(written(folder.path() / "out.plt"), expected()) << row.name;
     }
 }
 

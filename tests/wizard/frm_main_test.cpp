@@ -302,6 +302,7 @@ TEST_F(FrmMainTest, ALineBelowSaysWhatOfADrawingIsNotReadAndOpensTheDialog) {
     EXPECT_EQ(line(), "1 instruction of this drawing is not read," + end);
     answers.expect("frmPrepare", [](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLabel*>("lblSource")->text(), "one.plt");
+        EXPECT_EQ(dialog.property("helpContext").toInt(), 20);
         dialog.reject();
     });
     click("cmdSkipped");
