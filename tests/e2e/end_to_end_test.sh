@@ -3,7 +3,7 @@
 # The real program, driven through keyboard and mouse alone: a drawing goes through all six steps to
 # a written Kestra file; the same drawing comes back with its answers; a second start brings the
 # first to the front; closing asks before unsaved work is lost; a crash does not keep the program from
-# starting.
+# starting; a drawing of another program is prepared and opened by mouse alone.
 # usage: end_to_end_test.sh PROGRAM CONVERTER SAMPLES
 
 readonly program=$1 converter=$2 samples=$3 # the first and the last for screen.sh
@@ -133,6 +133,47 @@ afterCrash() {
   running=
 }
 
+# Whether Save could be pressed: it opens when the drawing has been prepared.
+pressSave() {
+  windowOf '^Save the prepared drawing$' ||
+    { isActive '^Prepare a Drawing$' && clickAt -135 -28 && false; }
+}
+
+# A drawing of another program, alone in the folder, by mouse alone.
+preparing() {
+  step 'preparing a drawing'
+  local samplesFolder="$TORVIK_HOME/Sample files"
+  rm "$samplesFolder"/*
+  cp "$samples/prepare/badge.hpgl" "$samplesFolder/"
+  startProgram
+  waitFor "$opening"
+  clickAt 20 10 # File, then its second entry
+  clickAt 80 52
+  waitFor '^Prepare a Drawing$'
+  clickAt 50 22
+  waitFor '^Select the drawing to prepare$'
+  clickAt 170 72 2
+  until_ 'the drawing cannot be saved' pressSave
+  waitFor '^Save the prepared drawing$'
+  clickAt -52 -54
+  waitFor '^Drawing saved$'
+  clickAt -137 -23
+  waitFor '^Torvik - importing from HPGL file .*badge-torvik\.plt$'
+  "${program%/*}/torvik-prepare" "$samplesFolder/badge.hpgl" --quiet -o "$home/out/badge.plt" \
+    2>"$home/warnings"
+  sameBytes "$samplesFolder/badge-torvik.plt" "$home/out/badge.plt" \
+    'the dialog and the command make different drawings'
+  "$converter" "$samplesFolder/badge-torvik.plt" --target kestra --quiet --tools \
+    "$samples/Maskor.ini" --answers "$samples/prepare/badge-torvik.plx" --output "$home/out/badge.iso"
+  grep -q 'G3 X30.000 Y59.000 I0.000 J-29.000' "$home/out/badge.iso" ||
+    fail 'the ring is not milled as a circle'
+  keys ctrl+q
+  waitFor '^Exit from Torvik$'
+  keys alt+y
+  waitForEnd "$running"
+  running=
+}
+
 openScreen 1280x900
 startProgram
 firstConversion
@@ -142,5 +183,6 @@ processAnotherFile
 secondStart
 closing
 afterCrash
+preparing
 [[ ! -s $home/errors ]] || fail 'something was written to standard error'
 step 'passed'
