@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace torvik {
 namespace {
@@ -42,7 +43,7 @@ protected:
     void openFromMenu(int answer, DialogAnswers::Answer choice = {}) {
         messages.answers = {answer};
         if (choice)
-            answers.expect("dlgOpen", choice);
+            answers.expect("dlgOpen", std::move(choice));
         find<QAction>("mnuFileOpen").trigger();
         settle();
         messages.take();
