@@ -93,7 +93,7 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
     dialog.selectFile(QString::fromStdString(proposedName));
     while (dialog.exec() == QDialog::Accepted) {
         const QString name = chosenFile(dialog);
-        const auto path = pathFromUtf8(name.toStdString());
+        auto path = pathFromUtf8(name.toStdString());
         std::error_code error;
         if (std::filesystem::equivalent(path, drawing, error)) {
             messages.intStdMsgBox(

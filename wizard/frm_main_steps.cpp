@@ -181,7 +181,8 @@ void FrmMain::selectTool() {
 
 void FrmMain::warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen) {
     // The group on show gets the tool that was just chosen.
-    const std::int16_t passedOver = chosen > 0 ? m_workshop.job.gintCurrentSettings : 0;
+    const std::int16_t passedOver =
+        chosen > 0 ? m_workshop.job.gintCurrentSettings : std::int16_t{0};
     std::string text;
     for (const std::string& group :
          before.changedSince(m_workshop.job, m_workshop.tools, passedOver))
