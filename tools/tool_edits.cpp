@@ -20,8 +20,8 @@ void checkWholeList(const ToolList& tools) {
 } // namespace
 
 std::int16_t loadedToolCount(const ToolList& tools) {
-    const long loaded = std::min<long>(tools.gintToolCount, tools.gudtTools.count());
-    return static_cast<std::int16_t>(std::max(loaded, 0L));
+    const auto loaded = std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
+    return static_cast<std::int16_t>(std::max<std::ptrdiff_t>(loaded, 0));
 }
 
 void addTool(ToolList& tools, Tool tool) {

@@ -114,12 +114,14 @@ void OutputPage::changeDrive() {
 }
 
 void OutputPage::showDrive() {
-    const auto folder = driveA(m_workshop.registry);
-    m_drive->setText(
-        folder.empty()
-            ? tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for "
-                 "it.")
-            : tr("a:\\ is %1").arg(breakablePath(QString::fromStdString(utf8FromPath(folder)))));
+    const QString folder = QString::fromStdString(utf8FromPath(driveA(m_workshop.registry)));
+    if (folder.isEmpty())
+        m_drive->setText(
+            tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for it."));
+    else if (folder == QStringLiteral("a:\\"))
+        m_drive->setText(tr("a:\\ is the diskette drive itself"));
+    else
+        m_drive->setText(tr("a:\\ is %1").arg(breakablePath(folder)));
 }
 
 std::int16_t OutputPage::target() const {

@@ -47,7 +47,8 @@ double boxNumber(const std::string& text) {
 
 bool hasTool(const Settings& settings, const ToolList& tools) {
     return settings.intTool >= 1 &&
-           settings.intTool <= std::min<long>(tools.gintToolCount, tools.gudtTools.count());
+           settings.intTool <=
+               std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
 }
 
 PenTexts shownTexts(const Settings& settings, PenForm form, float feedFactor) {

@@ -9,11 +9,10 @@
 readonly program=$1 converter=$2 samples=$3 # the first and the last for screen.sh
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/screen.sh"
+source "$here/nameplate.sh"
 
 readonly opening='^Torvik$'
 readonly imported='^Torvik - importing from HPGL file .*nameplate\.plt$'
-
-step() { printf '%s\n' "$*"; }
 
 sameBytes() { cmp "$1" "$2" >&2 || { diff "$1" "$2" >&2 || true; fail "$3"; }; }
 
@@ -23,17 +22,6 @@ openDrawing() {
   keys alt+s
   waitFor '^Select the HPGL file to process$'
   text "$TORVIK_HOME/Sample files/nameplate.plt"
-  keys Return
-  waitFor "$imported"
-}
-
-# cut COLOUR ROW: from the first empty box to the choice above it; the tool button, which then has
-# the focus, opens the tool list.
-cut() {
-  keys shift+Tab Up space
-  keys space
-  waitFor "^Select the Tool for the $1 lines\$"
-  keys --repeat "$2" Down
   keys Return
   waitFor "$imported"
 }
@@ -49,25 +37,7 @@ write() {
 
 firstConversion() {
   openDrawing
-  step 'heights'
-  text 5                    # in the first empty box, the Safe Height
-  keys Tab Tab space Return # feed rates in mm per minute
-  step 'first pen'
-  cut Black 4
-  fill 4000 300 75 0.4 0.4
-  keys Return
-  step 'second pen'
-  cut Red 2
-  fill 3500 240 60 3 1 0.2 120
-  keys Return
-  step 'order'
-  keys Down Up Return
-  step 'header'
-  keys shift+Tab
-  fill '14 March 2025' 'Sam Carter' 'Ms Green' 'Year 9 Blue' 'Workshop name plate' \
-    'Acrylic (two-colour)' 140 60 3
-  keys Return
-  step 'output'
+  answerNameplate
   keys Up Down
   write nameplate
   sameBytes "$home/out/nameplate.iso" "$here/nameplate.iso" \

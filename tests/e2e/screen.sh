@@ -24,6 +24,8 @@ fail() {
   exit 1
 }
 
+step() { printf '%s\n' "$*"; }
+
 # openScreen WIDTHxHEIGHT: starts the screen; $home is the folder for everything that is written.
 openScreen() {
   home=$(mktemp -d)
@@ -66,7 +68,12 @@ startProgram() {
 
 # windowOf TITLE_PATTERN: prints the window that is visible now, or fails.
 windowOf() {
-  xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1 | grep .
+  local number found=
+  for number in $(xdotool search --onlyvisible --name . 2>/dev/null); do
+    # The search itself stops at letters beyond ASCII.
+    if xdotool getwindowname "$number" 2>/dev/null | grep -qE -- "$1"; then found=$number; fi
+  done
+  [[ $found ]] && printf '%s\n' "$found"
 }
 
 # until_ WHAT COMMAND...: waits until the command succeeds.
