@@ -36,13 +36,18 @@ sameFolders() { # HERE THERE
   done
 }
 
+# Of the samples those that the package brings: without SVG the picture is not among them.
 prepareDrawings() {
-  local source
+  local name warnings=$WINEPREFIX/warnings
   mkdir -p "$WINEPREFIX/prepared" "$drawings"
-  for source in "$samples"/prepare/*.{hpgl,plt,svg}; do
-    "$preparer" "$source" --quiet --output-dir "$WINEPREFIX/prepared"
-    (cd "$samples/prepare" && wine "$folder/torvik-prepare.exe" "${source##*/}" --quiet \
-      --output-dir "$drawingsThere")
+  for name in badge.hpgl plate.plt sign.svg; do
+    if [[ ! -e "$folder/Sample files/$name" ]]; then
+      step "  $name is not in the package"
+      continue
+    fi
+    "$preparer" "$samples/prepare/$name" --quiet --output-dir "$WINEPREFIX/prepared" 2>"$warnings"
+    wine "$folder/torvik-prepare.exe" "$folderThere\\Sample files\\$name" --quiet \
+      --output-dir "$drawingsThere" 2>>"$warnings" || fail "$(<"$warnings")"
   done
   sameFolders "$WINEPREFIX/prepared" "$drawings"
 }
