@@ -35,6 +35,11 @@ QString named(const fs::path& path) {
     return QString::fromStdString(utf8FromPath(path));
 }
 
+fs::path chosenFile(const QFileDialog& dialog) {
+    const QString name = dialog.selectedFiles().constFirst();
+    return pathFromUtf8(QDir::toNativeSeparators(name).toStdString());
+}
+
 // "HPGL and SVG drawings (*.plt *.hpgl …)", in every letter case also where the system tells them
 // apart.
 QString filterText(const QString& what, const QStringList& kinds) {
@@ -88,7 +93,7 @@ void FrmPrepare::chooseSource() {
         m_surroundings.rememberFolder(
             pathFromUtf8(dialog.directory().absolutePath().toStdString()));
     if (chosen)
-        openSource(pathFromUtf8(dialog.selectedFiles().constFirst().toStdString()));
+        openSource(chosenFile(dialog));
 }
 
 void FrmPrepare::openSource(const fs::path& source) {
@@ -189,7 +194,7 @@ void FrmPrepare::save() {
     dialog.selectFile(QString::fromStdString(preparedName(utf8FromPath(m_source.filename()))));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const fs::path output = pathFromUtf8(dialog.selectedFiles().constFirst().toStdString());
+    const fs::path output = chosenFile(dialog);
     try {
         requireOtherFile(output, m_source);
         saveDrawing(output, m_result.text);

@@ -4,15 +4,16 @@
 # Kestra file and, over all that can be wrong with a diskette, a WinCAM program on drive A:; a second
 # start with a drawing hands it over; what cannot be kept beside the program is kept for the user.
 # Needs mounts of its own: scripts/test-windows gives them.
-# usage: desktop_test.sh ZIP CONVERTER SAMPLES PICTURES
+# usage: desktop_test.sh ZIP CONVERTER PREPARER SAMPLES PICTURES
 
-readonly zip=$1 converter=$2 samples=$3 pictures=$4
+readonly zip=$1 converter=$2 preparer=$3 samples=$4 pictures=$5
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/wine.sh"
 source "$here/../e2e/screen.sh"
 source "$here/../e2e/nameplate.sh"
 
 readonly opening='^Torvik$'
+readonly gear='^Torvik - importing from HPGL file .*gear\.plt$'
 readonly imported='^Torvik - importing from HPGL file .*nameplate\.plt$'
 
 # When a dialog of Windows' own goes, this window manager may leave nobody with the keyboard: the
@@ -138,9 +139,40 @@ secondStart() {
   xdotool windowminimize --sync "$window"
   "$program" "$folderThere\\Sample files\\gear.plt" &
   waitForEnd $!
-  waitFor '^Torvik - importing from HPGL file .*gear\.plt$'
+  waitFor "$gear"
   kill -0 "$running" || fail 'the first copy has ended'
   shot second-start
+}
+
+# The drawing that is open, in the dialog.
+preparedDrawing() {
+  step 'a prepared drawing'
+  keys ctrl+p
+  waitFor '^Prepare a Drawing$'
+  shot prepare
+  keys alt+s
+  waitFor '^Save the prepared drawing$'
+  keys ctrl+a
+  text 'C:\out\prepared'
+  keys Return
+  waitFor '^Drawing saved$'
+  shot prepared
+  keys alt+n
+  until_ 'the question does not close' isGone "$window"
+  waitFor '^Prepare a Drawing$'
+  keys Escape
+  until_ 'the dialog does not close' isGone "$window"
+  "$preparer" "$samples/gear.plt" --output "$home/out/prepared.plt" --quiet
+  cmp "$driveC/out/prepared.plt" "$home/out/prepared.plt" || fail 'the prepared drawing differs'
+}
+
+helpAndExit() {
+  waitFor "$gear"
+  keys F1
+  waitFor '^Torvik.*[Hh]elp'
+  shot help
+  keys Escape
+  waitFor "$gear"
   keys ctrl+q
   waitFor '^Exit from Torvik$'
   shot exit
@@ -202,5 +234,7 @@ shot start
 kestraFile
 wincamProgram
 secondStart
+preparedDrawing
+helpAndExit
 folderOfOthers
 step 'passed'
