@@ -187,17 +187,31 @@ void screens(benchmark::internal::Benchmark* benchmark) {
     benchmark->ArgName("scale")->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK_CAPTURE(plotLines, lines, linesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(plotLines, arcs, arcsDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(plotLines, circles, circlesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(firstBlinkFrame, lines, linesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(firstBlinkFrame, circles, circlesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(blinkFrame, lines, linesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(blinkFrame, circles, circlesDrawing)->Apply(screens);
-BENCHMARK_CAPTURE(drawPiece, lines, linesDrawing, false)->Apply(screens);
-BENCHMARK_CAPTURE(drawPiece, arcs, arcsDrawing, false)->Apply(screens);
-BENCHMARK_CAPTURE(drawPiece, circles, circlesDrawing, false)->Apply(screens);
-BENCHMARK_CAPTURE(drawPiece, holes, plateDrawing, true)->Apply(screens);
+BENCHMARK_CAPTURE(plotLines, lines, linesDrawing)->Name("drawing lines")->Apply(screens);
+BENCHMARK_CAPTURE(plotLines, arcs, arcsDrawing)->Name("drawing arcs")->Apply(screens);
+BENCHMARK_CAPTURE(plotLines, circles, circlesDrawing)->Name("drawing circles")->Apply(screens);
+BENCHMARK_CAPTURE(firstBlinkFrame, lines, linesDrawing)
+    ->Name("first frame of blinking lines")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(firstBlinkFrame, circles, circlesDrawing)
+    ->Name("first frame of blinking circles")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(blinkFrame, lines, linesDrawing)
+    ->Name("a frame of blinking lines")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(blinkFrame, circles, circlesDrawing)
+    ->Name("a frame of blinking circles")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, lines, linesDrawing, false)
+    ->Name("the piece, cut lines")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, arcs, arcsDrawing, false)->Name("the piece, cut arcs")->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, circles, circlesDrawing, false)
+    ->Name("the piece, cut circles")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, holes, plateDrawing, true)
+    ->Name("the piece, drilled holes")
+    ->Apply(screens);
 
 } // namespace
 } // namespace torvik
