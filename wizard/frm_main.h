@@ -44,9 +44,10 @@ public:
     void ReadFile();
     // The same for a drawing that is named already (recent, dropped).
     void ReadFile(const std::filesystem::path& drawing);
-    // Opens the dialog that makes drawings of other programs readable, with the drawing that is
-    // open, and afterwards the drawing that was saved there, where the user wants it.
-    void PrepareDrawing();
+    // Opens the dialog that makes drawings of other programs readable, with the one that is named
+    // (dropped) or else the drawing that is open, and afterwards the drawing that was saved there,
+    // where the user wants it.
+    void PrepareDrawing(const std::filesystem::path& source = {});
     // Ends the program, after a question where a program has not been written yet. False where
     // the user stays.
     bool CheckClose();

@@ -2,6 +2,7 @@
 // Opening a drawing: the question, the file dialog, the import and the layout after it.
 #include "base/error_trap.h"
 #include "base/files.h"
+#include "prepare/dialog/dragged_source.h"
 #include "preview/preview_widget.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/file_dialogs.h"
@@ -13,18 +14,12 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
 
 namespace torvik {
 namespace {
 
-// The one drawing that is dragged, or an empty name.
-QString draggedDrawing(const QMimeData& data) {
-    if (data.urls().size() != 1)
-        return {};
-    const QString name = data.urls().constFirst().toLocalFile();
-    return name.endsWith(u".plt", Qt::CaseInsensitive) ? name : QString();
+bool isPlotFile(const QString& name) {
+    return name.endsWith(u".plt", Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -100,16 +95,22 @@ void FrmMain::returnToStart() {
 }
 
 void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedDrawing(*event->mimeData()).isEmpty())
+    if (!draggedSource(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void FrmMain::dropEvent(QDropEvent* event) {
-    const QString name = draggedDrawing(*event->mimeData());
+    const QString name = draggedSource(*event->mimeData());
     if (name.isEmpty())
         return;
     event->acceptProposedAction();
-    later([this, name] { ReadFile(pathFromUtf8(name.toStdString())); });
+    later([this, name] {
+        const auto drawing = pathFromUtf8(name.toStdString());
+        if (isPlotFile(name))
+            ReadFile(drawing);
+        else
+            PrepareDrawing(drawing);
+    });
 }
 
 } // namespace torvik

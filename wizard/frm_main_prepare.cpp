@@ -26,7 +26,7 @@ QString named(const std::filesystem::path& path) {
 
 } // namespace
 
-void FrmMain::PrepareDrawing() {
+void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
     withErrorTrap(m_workshop.logger, {"PrepareDrawing", "frmMain"}, [&] {
         std::filesystem::path toOpen;
         PrepareSurroundings surroundings;
@@ -40,7 +40,9 @@ void FrmMain::PrepareDrawing() {
         };
         surroundings.openResult = [&](const std::filesystem::path& drawing) { toOpen = drawing; };
         FrmPrepare dialog(std::move(surroundings), this);
-        if (m_workshop.job.gintWizardStep > 1)
+        if (!source.empty())
+            dialog.openSource(source);
+        else if (m_workshop.job.gintWizardStep > 1)
             dialog.openSource(pathFromUtf8(m_workshop.job.gstrPlotFile));
         dialog.exec();
         if (!toOpen.empty())

@@ -5,6 +5,7 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "prepare/dialog/before_after.h"
+#include "prepare/dialog/dragged_source.h"
 #include "prepare/dialog/option_panel.h"
 #include "prepare/dialog/pen_list.h"
 #include "prepare/files/drawing_files.h"
@@ -12,9 +13,7 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
-#include <QMimeData>
 #include <QPushButton>
 #include <QStyle>
 #include <QTableWidget>
@@ -23,13 +22,6 @@ namespace torvik {
 namespace {
 
 namespace fs = std::filesystem;
-
-const QStringList& sourceKinds() {
-    static const QStringList kinds{QStringLiteral("plt"), QStringLiteral("hpgl"),
-                                   QStringLiteral("hpg"), QStringLiteral("plo"),
-                                   QStringLiteral("svg")};
-    return kinds;
-}
 
 QString named(const fs::path& path) {
     return QString::fromStdString(utf8FromPath(path));
@@ -58,23 +50,15 @@ QString filterText(const QString& what, const QStringList& kinds) {
         .arg(what, kinds.join(QStringLiteral(" *.")), patterns.join(u' '));
 }
 
-// The one drawing that is dragged, or an empty name.
-QString draggedDrawing(const QMimeData& data) {
-    if (data.urls().size() != 1)
-        return {};
-    const QString name = data.urls().constFirst().toLocalFile();
-    return sourceKinds().contains(QFileInfo(name).suffix().toLower()) ? name : QString();
-}
-
 } // namespace
 
 void FrmPrepare::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedDrawing(*event->mimeData()).isEmpty())
+    if (!draggedSource(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void FrmPrepare::dropEvent(QDropEvent* event) {
-    const QString name = draggedDrawing(*event->mimeData());
+    const QString name = draggedSource(*event->mimeData());
     if (name.isEmpty())
         return;
     event->acceptProposedAction();

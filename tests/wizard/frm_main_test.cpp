@@ -284,6 +284,11 @@ TEST_F(FrmMainTest, ADroppedDrawingIsOpenedUnlessADialogWaits) {
     EXPECT_EQ(shown(), "picOpening Start");
     EXPECT_TRUE(drop({drawing}));
     EXPECT_EQ(job.gstrPlotFile, drawing.string());
+    answers.expect("frmPrepare", [](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel*>("lblSource")->text(), "Part.HPGL");
+        dialog.reject();
+    });
+    EXPECT_TRUE(drop({folder.file("Part.HPGL", threePens)}));
 }
 
 TEST_F(FrmMainTest, ALineBelowSaysWhatOfADrawingIsNotReadAndOpensTheDialog) {
