@@ -117,13 +117,13 @@ void HeaderPage::readBoxes() {
 bool HeaderPage::blnHeaderDone() {
     bool done = false;
     withErrorTrap(m_workshop.logger, {"blnHeaderDone", "modHpgl"}, [&] {
-        for (std::size_t i = 0; i < m_boxes.size(); ++i) {
-            const QString tag = m_boxes[i]->property(tagProperty).toString();
-            if (tag.isEmpty() || !trimmed(*m_boxes[i]).isEmpty())
+        for (QLineEdit* const box : m_boxes) {
+            const QString tag = box->property(tagProperty).toString();
+            if (tag.isEmpty() || !trimmed(*box).isEmpty())
                 continue;
             m_workshop.messages.intStdMsgBox("Please enter the " + tag.toStdString(),
                                              styleExclamation, "Required information");
-            m_boxes[i]->setFocus();
+            box->setFocus();
             return;
         }
         done = true;
