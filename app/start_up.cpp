@@ -18,7 +18,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QTimer>
 
 #include <memory>
 
@@ -41,17 +40,6 @@ bool guardInstance(SingleInstance& instance, const QString& drawing, StdMessageB
                                   " cannot start as a previous instance is still running",
                               styleExclamation, usualTitle);
     return false;
-}
-
-// Opens the drawing as one from the list of recent ones, when the window has come to rest. A dialog
-// that waits for an answer is not pushed aside.
-void openLater(FrmMain& window, const QString& drawing) {
-    if (drawing.isEmpty())
-        return;
-    QTimer::singleShot(0, &window, [&window, drawing] {
-        if (QApplication::activeModalWidget() == nullptr)
-            window.ReadFile(pathFromUtf8(drawing.toStdString()));
-    });
 }
 
 } // namespace
@@ -92,14 +80,18 @@ int runDesktop(const QString& drawing) {
         {.showHelp = showHelp, .showAbout = [&] { showAboutBox(window); }, .Shutdown = shutdown});
     window = &frmMain;
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
+    const auto open = [&frmMain](const QString& named) {
+        if (!named.isEmpty())
+            frmMain.ReadFileLater(pathFromUtf8(named.toStdString()));
+    };
     QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain,
-                     [&frmMain](const QString& asked) {
+                     [&frmMain, open](const QString& asked) {
                          frmMain.bringToFront();
-                         openLater(frmMain, asked);
+                         open(asked);
                      });
     ToolDataLoad(workshop.tools, *registry, logger);
     frmMain.show();
-    openLater(frmMain, path);
+    open(path);
     return QApplication::exec();
 }
 

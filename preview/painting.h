@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: MIT
-// From the preview's plain points and colours to those of the painter, and the white image that
+// From the preview's plain points to those of the painter, and the white image that
 // both pictures are painted into.
 #pragma once
 
+#include "preview/colour.h"
 #include "preview/outlines.h"
 
-#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QPolygonF>
 
-#include <cstdint>
-
 namespace torvik {
-
-// From 0x00BBGGRR.
-inline QColor colourOf(std::int32_t colour) {
-    return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
-}
 
 // Fills `polygon` with the points; it is handed in so that its memory serves again.
 inline const QPolygonF& polygonOf(const Points& points, QPolygonF& polygon) {

@@ -4,6 +4,7 @@
 #include "base/files.h"
 #include "base/std_message_box.h"
 #include "gcode/dialects.h"
+#include "prepare/dialog/file_choice.h"
 #include "tools/registry.h"
 #include "wizard/program_folder.h"
 
@@ -37,24 +38,13 @@ QString startFolder(const Registry& registry, const char* setting) {
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
-// The filter takes every letter case, also where the system's own dialog tells them apart. What the
-// user reads of it is "KIND files (*.EXTENSION)".
+// What the user reads of it is "KIND files (*.EXTENSION)".
 QString filterText(const QString& kind, const QString& extension) {
-    QString anyCase;
-    for (const QChar letter : extension)
-        anyCase += QStringLiteral("[%1%2]").arg(letter.toLower(), letter.toUpper());
-#ifdef Q_OS_WIN
-    anyCase = extension;
-#endif
-    return QStringLiteral("%1 files (*.%2) (*.%3)").arg(kind, extension, anyCase);
+    return fileFilter(kind + QStringLiteral(" files"), {extension});
 }
 
 void rememberFolder(Registry& registry, const char* setting, const QString& folder) {
     registry.RegistryValuePut(setting, QDir::toNativeSeparators(folder).toStdString());
-}
-
-QString chosenFile(const QFileDialog& dialog) {
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
 } // namespace
@@ -76,7 +66,7 @@ std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     const bool chosen = dialog.exec() == QDialog::Accepted;
     rememberPlotFolder(registry, dialog.directory().absolutePath());
-    return chosen ? pathFromUtf8(chosenFile(dialog).toStdString()) : std::filesystem::path();
+    return chosen ? chosenFile(dialog) : std::filesystem::path();
 }
 
 std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messages,
@@ -92,8 +82,7 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
     dialog.setDefaultSuffix(kind.extension);
     dialog.selectFile(QString::fromStdString(proposedName));
     while (dialog.exec() == QDialog::Accepted) {
-        const QString name = chosenFile(dialog);
-        auto path = pathFromUtf8(name.toStdString());
+        auto path = chosenFile(dialog);
         std::error_code error;
         if (std::filesystem::equivalent(path, drawing, error)) {
             messages.intStdMsgBox(
@@ -102,7 +91,8 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
             continue;
         }
         rememberFolder(registry, kind.folderSetting,
-                       QFileInfo(name).absolutePath() + QStringLiteral("/"));
+                       QFileInfo(QString::fromStdString(utf8FromPath(path))).absolutePath() +
+                           QStringLiteral("/"));
         return path;
     }
     return {};

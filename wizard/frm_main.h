@@ -44,6 +44,8 @@ public:
     void ReadFile();
     // The same for a drawing that is named already (recent, dropped).
     void ReadFile(const std::filesystem::path& drawing);
+    // The same when the running event has ended; a dialog that waits then is not pushed aside.
+    void ReadFileLater(const std::filesystem::path& drawing);
     // Opens the dialog that makes drawings of other programs readable, with the one that is named
     // (dropped) or else the drawing that is open, and afterwards the drawing that was saved there,
     // where the user wants it.

@@ -62,9 +62,7 @@ void FrmMain::fillRecentMenu() {
     for (qsizetype i = 0; i < names.size(); ++i) {
         QAction* const action = m_recent->addAction(
             tr("&%1  %2").arg(i + 1).arg(QFileInfo(names[i]).fileName().replace('&', "&&")), this,
-            [this, name = names[i]] {
-                later([this, name] { ReadFile(pathFromUtf8(name.toStdString())); });
-            });
+            [this, name = names[i]] { ReadFileLater(pathFromUtf8(name.toStdString())); });
         action->setToolTip(names[i]);
     }
     m_recent->setEnabled(!names.isEmpty());

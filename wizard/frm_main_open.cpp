@@ -41,6 +41,10 @@ void FrmMain::ReadFile(const std::filesystem::path& drawing) {
     });
 }
 
+void FrmMain::ReadFileLater(const std::filesystem::path& drawing) {
+    later([this, drawing] { ReadFile(drawing); });
+}
+
 bool FrmMain::agreesToOpen() {
     return !m_workshop.job.gblnUnsaved ||
            m_workshop.messages.intStdMsgBox("Are you sure you want to open a file\n"
@@ -104,13 +108,11 @@ void FrmMain::dropEvent(QDropEvent* event) {
     if (name.isEmpty())
         return;
     event->acceptProposedAction();
-    later([this, name] {
-        const auto drawing = pathFromUtf8(name.toStdString());
-        if (isPlotFile(name))
-            ReadFile(drawing);
-        else
-            PrepareDrawing(drawing);
-    });
+    const auto drawing = pathFromUtf8(name.toStdString());
+    if (isPlotFile(name))
+        ReadFileLater(drawing);
+    else
+        later([this, drawing] { PrepareDrawing(drawing); });
 }
 
 } // namespace torvik

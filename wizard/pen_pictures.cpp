@@ -2,6 +2,7 @@
 #include "wizard/pen_pictures.h"
 
 #include "job/job.h"
+#include "preview/colour.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -25,8 +26,7 @@ Picture pictureOf(std::int16_t image) {
 }
 
 QColor penColour(const Job& job, std::int16_t pen) {
-    const std::int32_t colour = job.gudtPens[pen].lngColour; // 0x00BBGGRR
-    return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
+    return colourOf(job.gudtPens[pen].lngColour);
 }
 
 void drawTile(QPainter& painter) {

@@ -6,11 +6,11 @@
 #include "base/files.h"
 #include "prepare/dialog/before_after.h"
 #include "prepare/dialog/dragged_source.h"
+#include "prepare/dialog/file_choice.h"
 #include "prepare/dialog/option_panel.h"
 #include "prepare/dialog/pen_list.h"
 #include "prepare/files/drawing_files.h"
 
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLabel>
@@ -25,29 +25,6 @@ namespace fs = std::filesystem;
 
 QString named(const fs::path& path) {
     return QString::fromStdString(utf8FromPath(path));
-}
-
-fs::path chosenFile(const QFileDialog& dialog) {
-    const QString name = dialog.selectedFiles().constFirst();
-    return pathFromUtf8(QDir::toNativeSeparators(name).toStdString());
-}
-
-// "HPGL and SVG drawings (*.plt *.hpgl …)", in every letter case also where the system tells them
-// apart.
-QString filterText(const QString& what, const QStringList& kinds) {
-    QStringList patterns;
-    for (const QString& kind : kinds) {
-        QString anyCase = QStringLiteral("*.");
-#ifdef Q_OS_WIN
-        anyCase += kind;
-#else
-        for (const QChar letter : kind)
-            anyCase += QStringLiteral("[%1%2]").arg(letter, letter.toUpper());
-#endif
-        patterns += anyCase;
-    }
-    return QStringLiteral("%1 (*.%2) (%3)")
-        .arg(what, kinds.join(QStringLiteral(" *.")), patterns.join(u' '));
 }
 
 } // namespace
@@ -68,7 +45,7 @@ void FrmPrepare::dropEvent(QDropEvent* event) {
 void FrmPrepare::chooseSource() {
     const fs::path folder = m_source.empty() ? m_surroundings.startFolder : m_source.parent_path();
     QFileDialog dialog(this, tr("Select the drawing to prepare"), named(folder),
-                       filterText(tr("HPGL and SVG drawings"), sourceKinds()));
+                       fileFilter(tr("HPGL and SVG drawings"), sourceKinds()));
     dialog.setObjectName(QStringLiteral("dlgPrepareOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -170,7 +147,7 @@ void FrmPrepare::showState(State state, const QString& text) {
 
 void FrmPrepare::save() {
     QFileDialog dialog(this, tr("Save the prepared drawing"), named(m_source.parent_path()),
-                       filterText(tr("HPGL drawings"), {QStringLiteral("plt")}));
+                       fileFilter(tr("HPGL drawings"), {QStringLiteral("plt")}));
     dialog.setObjectName(QStringLiteral("dlgPrepareSave"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::HideNameFilterDetails);

@@ -3,6 +3,7 @@
 
 #include "job/job.h"
 #include "job/pens.h"
+#include "preview/colour.h"
 
 #include <QPainter>
 
@@ -21,9 +22,8 @@ std::array<PenLook, penCount> makeLooks() {
     SetColourDefinitions(job);
     std::array<PenLook, penCount> looks;
     for (int pen = 1; pen <= penCount; ++pen) {
-        const std::int32_t colour = job.gudtPens[pen].lngColour; // 0x00BBGGRR
         looks[static_cast<std::size_t>(pen - 1)] = {
-            QColor(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF),
+            colourOf(job.gudtPens[pen].lngColour),
             QStringLiteral("%1 %2").arg(pen).arg(
                 QString::fromStdString(job.gudtPens[pen].strColour))};
     }
