@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
 
+#include "answers/program_folder.h"
 #include "app/about_box.h"
 #include "app/help_key.h"
 #include "app/help_window.h"
@@ -13,7 +14,6 @@
 #include "tools/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
-#include "wizard/program_folder.h"
 
 #include <QApplication>
 #include <QFileInfo>

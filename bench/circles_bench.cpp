@@ -18,7 +18,7 @@ void recogniseCircles(benchmark::State& state) {
     readInstructions(job, circleDrawing(state.range(0), sizes), "drawing", logger);
     for (auto _ : state)
         SetUpPens(job, logger);
-    if (job.gudtPens[1].intRadiusCount != sizes)
+    if (job.answers.gudtPens[1].intRadiusCount != sizes)
         state.SkipWithError("the sizes were not found");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }

@@ -33,10 +33,10 @@ public:
     Preview(std::string drawing, bool drilled, std::int64_t pixelRatio) {
         readInstructions(m_job, std::move(drawing), "drawing", m_logger);
         SetUpPens(m_job, m_logger);
-        m_job.gudtPens[1].blnDrill = drilled;
-        for (Settings& settings : m_job.gudtSettings) {
+        m_job.answers.gudtPens[1].blnDrill = drilled;
+        for (Settings& settings : m_job.answers.gudtSettings) {
             settings.intTool = 1;
-            settings.sngDepth = static_cast<float>(&settings - &m_job.gudtSettings[1]) + 1;
+            settings.sngDepth = static_cast<float>(&settings - &m_job.answers.gudtSettings[1]) + 1;
         }
         m_tools.gudtTools.append({1, "Slot drill", drilled ? drill : cutter});
         m_tools.gintToolCount = 1;

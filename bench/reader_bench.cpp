@@ -13,7 +13,7 @@ namespace torvik {
 namespace {
 
 void count(benchmark::State& state, const std::string& drawing, const Job& job) {
-    if (job.gintPathCount != state.range(0))
+    if (job.drawing.gintPathCount != state.range(0))
         state.SkipWithError("the drawing was not read");
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(drawing.size()));
     state.SetItemsProcessed(state.iterations() * state.range(0));

@@ -16,13 +16,15 @@ void sortPaths(benchmark::State& state) {
     Logger logger;
     Job job;
     readInstructions(job, lineDrawing(state.range(0)), "drawing", logger);
-    for (std::int16_t i = 1; i <= job.gintPathCount; ++i)
-        job.gudtPaths[i].sngSortKey = static_cast<float>(i * 5 % penCount);
+    for (std::int16_t i = 1; i <= job.drawing.gintPathCount; ++i)
+        job.drawing.gudtPaths[i].sngSortKey = static_cast<float>(i * 5 % penCount);
     for (auto _ : state)
         SortPaths(job, logger);
-    if (!std::is_sorted(job.gintPathOrder.begin(), job.gintPathOrder.end(), [&](auto a, auto b) {
-            return job.gudtPaths[a].sngSortKey < job.gudtPaths[b].sngSortKey;
-        }))
+    if (!std::is_sorted(job.drawing.gintPathOrder.begin(), job.drawing.gintPathOrder.end(),
+                        [&](auto a, auto b) {
+                            return job.drawing.gudtPaths[a].sngSortKey <
+                                   job.drawing.gudtPaths[b].sngSortKey;
+                        }))
         state.SkipWithError("the paths were not sorted");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }

@@ -30,7 +30,7 @@ Job jobInTenPasses(std::string drawing, Logger& logger) {
     Job job;
     readInstructions(job, std::move(drawing), "drawing", logger);
     SetUpPens(job, logger);
-    Settings& settings = job.gudtSettings[job.gudtPens[1].intSettings];
+    Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
     settings.intTool = 1;
     settings.sngFeedHorizontal = 600;
     settings.sngFeedVertical = 150;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "convert/converter.h"
 
+#include "answers/import_drawing.h"
+#include "answers/program_folder.h"
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
 #include "base/text.h"
-#include "convert/drawing_run.h"
+#include "commands/drawing_run.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
@@ -15,8 +17,6 @@
 #include "job/job.h"
 #include "tools/settings_file_reader.h"
 #include "tools/tool_store.h"
-#include "wizard/import_drawing.h"
-#include "wizard/program_folder.h"
 
 #include <memory>
 #include <ostream>
@@ -78,8 +78,8 @@ private:
         loadTools();
         Job job;
         import(job, drawing);
-        if (trimBlanks(job.gstrHeader[headerDate]).empty())
-            job.gstrHeader[headerDate] = m_options.date;
+        if (trimBlanks(job.answers.gstrHeader[headerDate]).empty())
+            job.answers.gstrHeader[headerDate] = m_options.date;
         requireTools(job, drawing);
 
         const auto output = m_options.outputPath(i);
@@ -124,7 +124,7 @@ private:
         if (!result.imported)
             throw Failure{ExitCode::job, takeLastReport()};
         const std::string answers =
-            m_options.answers ? utf8FromPath(*m_options.answers) : job.gstrSavedFile;
+            m_options.answers ? utf8FromPath(*m_options.answers) : job.answers.gstrSavedFile;
         switch (result.saved.outcome) {
         case SavedOutcome::taken:
             break;
@@ -151,7 +151,7 @@ private:
     // A program, and the text beside it, may take the place of nothing that this run reads.
     void refuseOverwritingInput(const std::filesystem::path& output, const Job& job) const {
         auto inputs = m_options.drawings;
-        inputs.push_back(pathFromUtf8(job.gstrSavedFile));
+        inputs.push_back(pathFromUtf8(job.answers.gstrSavedFile));
         inputs.push_back(m_options.tools.value_or(userSettingsFile()));
         for (const auto& input : inputs) {
             std::error_code error;

@@ -19,7 +19,7 @@ struct Counts {
 // The elements of a pen, or of the whole drawing for pen 0.
 Counts countElements(const Job& job, std::int16_t pen) {
     Counts counts;
-    for (const Path& path : job.gudtPaths) {
+    for (const Path& path : job.drawing.gudtPaths) {
         if (pen != 0 && path.intPen != pen)
             continue;
         if (path.intType == straightLine)
@@ -47,7 +47,7 @@ std::string range(double low, double high) {
 
 std::string extentsText(const Job& job) {
     Extents extents = noExtents();
-    for (const Path& path : job.gudtPaths)
+    for (const Path& path : job.drawing.gudtPaths)
         includePath(extents, path);
     if (extents.empty())
         return "Extents: none\n";
@@ -56,7 +56,7 @@ std::string extentsText(const Job& job) {
 }
 
 std::string penText(const Job& job, std::int16_t number) {
-    const Pen& pen = job.gudtPens[number];
+    const Pen& pen = job.answers.gudtPens[number];
     std::string text = "Pen " + formatInteger(number) + " " + pen.strColour + ": " +
                        countsText(countElements(job, number)) + "\n";
     if (pen.intRadiusCount == 0)
@@ -78,7 +78,7 @@ std::string skippedText(const Job& job, std::string_view bytes) {
     std::string text = "Skipped: " + amount(all, "instruction");
     if (skipped.harmful > 0)
         text += ", " + formatInteger(skipped.harmful) + " with effect on the drawing; " +
-                "torvik-prepare " + asArgument(job.gstrPlotFile) +
+                "torvik-prepare " + asArgument(job.drawing.gstrPlotFile) +
                 " makes one that is read completely";
     else if (all > 0)
         text += ", none with effect on the drawing";
@@ -88,10 +88,10 @@ std::string skippedText(const Job& job, std::string_view bytes) {
 } // namespace
 
 std::string describeDrawing(const Job& job, std::string_view bytes) {
-    std::string text = "Drawing: " + job.gstrPlotFile + "\n" +
+    std::string text = "Drawing: " + job.drawing.gstrPlotFile + "\n" +
                        "Elements: " + countsText(countElements(job, 0)) + "\n" + extentsText(job);
     for (std::int16_t pen = 1; pen <= penCount; ++pen)
-        if (job.gudtPens[pen].blnUsed)
+        if (job.answers.gudtPens[pen].blnUsed)
             text += penText(job, pen);
     return text + skippedText(job, bytes);
 }

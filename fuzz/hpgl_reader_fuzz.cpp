@@ -34,7 +34,7 @@ void checkPath(const Path& path) {
 void checkPens(const Job& job) {
     long groups = 0;
     std::int16_t used = 0;
-    for (const Pen& pen : job.gudtPens) {
+    for (const Pen& pen : job.answers.gudtPens) {
         holds(pen.sngRadii.count() == pen.intRadiusCount, "the radii are counted");
         const auto& radii = pen.sngRadii;
         holds(std::adjacent_find(radii.begin(), radii.end(), std::greater_equal<>()) == radii.end(),
@@ -47,25 +47,29 @@ void checkPens(const Job& job) {
               "a pen of circles has sizes, no other has");
         groups = pen.intSettings + pen.intRadiusCount;
     }
-    holds(used == job.gintPenCount, "the used pens are counted");
-    holds(job.gudtSettings.count() == job.gintSettingsCount, "the groups are counted");
-    holds(groups <= job.gintSettingsCount, "every pen and size has a group");
-    holds(job.gudtColourTree.size() == static_cast<std::size_t>(used), "a node for each used pen");
+    holds(used == job.answers.gintPenCount, "the used pens are counted");
+    holds(job.answers.gudtSettings.count() == job.answers.gintSettingsCount,
+          "the groups are counted");
+    holds(groups <= job.answers.gintSettingsCount, "every pen and size has a group");
+    holds(job.position.gudtColourTree.size() == static_cast<std::size_t>(used),
+          "a node for each used pen");
 }
 
 void checkOrder(const Job& job) {
-    std::vector<std::int16_t> order(job.gintPathOrder.begin(), job.gintPathOrder.end());
+    std::vector<std::int16_t> order(job.drawing.gintPathOrder.begin(),
+                                    job.drawing.gintPathOrder.end());
     holds(std::is_sorted(order.begin(), order.end(),
                          [&](std::int16_t a, std::int16_t b) {
-                             const float keyA = job.gudtPaths[a].sngSortKey;
-                             const float keyB = job.gudtPaths[b].sngSortKey;
+                             const float keyA = job.drawing.gudtPaths[a].sngSortKey;
+                             const float keyB = job.drawing.gudtPaths[b].sngSortKey;
                              return keyA < keyB || (keyA == keyB && a < b);
                          }),
           "paths ascend by key, and by place where keys are equal");
     std::sort(order.begin(), order.end());
     for (std::size_t i = 0; i < order.size(); ++i)
         holds(order[i] == static_cast<std::int16_t>(i + 1), "every path stands once in the order");
-    holds(order.size() == static_cast<std::size_t>(job.gintPathCount), "no path is left out");
+    holds(order.size() == static_cast<std::size_t>(job.drawing.gintPathCount),
+          "no path is left out");
 }
 
 void read(std::string bytes) {
@@ -77,8 +81,8 @@ void read(std::string bytes) {
         holds(error.line() > 0, "a refusal names the line");
         return;
     }
-    holds(job.gudtPaths.count() == job.gintPathCount, "the paths are counted");
-    for (Path& path : job.gudtPaths) {
+    holds(job.drawing.gudtPaths.count() == job.drawing.gintPathCount, "the paths are counted");
+    for (Path& path : job.drawing.gudtPaths) {
         checkPath(path);
         path.sngSortKey = path.sngRadius;
     }

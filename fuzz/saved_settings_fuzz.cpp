@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The reader of kept answers, for a drawing with a pen of lines and a pen of two circle sizes:
 // any bytes are refused with a FileError or give answers whose text reads back to the same.
+#include "answers/saved_text.h"
 #include "base/errors.h"
 #include "fuzz/invariant.h"
-#include "wizard/saved_text.h"
 
 #include <cstdint>
 

@@ -39,7 +39,7 @@ CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedW
     const Path* before = nullptr;
     StatementText words;
     for (const std::int16_t subscript : paths) {
-        Path& path = job.gudtPaths[subscript];
+        Path& path = job.drawing.gudtPaths[subscript];
         if (path.intType != straightLine && !isArc(path))
             continue;
         words.clear();

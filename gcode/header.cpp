@@ -35,7 +35,7 @@ constexpr std::array<HeaderLabel, 9> labels{{{"Date - ", ""},
 std::vector<std::int16_t> toolsInUse(const Job& job) {
     std::vector<std::int16_t> places;
     visitMachinedGroups(job, [&](const MachinedGroup& group) {
-        const std::int16_t place = job.gudtSettings[group.settings].intTool;
+        const std::int16_t place = job.answers.gudtSettings[group.settings].intTool;
         if (places.empty() || places.back() != place)
             places.push_back(place);
     });
@@ -57,11 +57,12 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
     const std::vector<std::int16_t> places = toolsInUse(job);
     for (std::size_t i = 0; i < places.size(); ++i) {
         const long position = static_cast<long>(i) + 1;
-        if (position > decltype(Job::gstrOrdinal)::high())
+        if (position > decltype(Output::gstrOrdinal)::high())
             throw InvalidCall("the program changes to " +
                               formatInteger(static_cast<long>(places.size())) +
                               " tools, the header names the first sixteen only");
-        const std::string name = places.size() == 1 ? "Tool" : job.gstrOrdinal[position] + " tool";
+        const std::string name =
+            places.size() == 1 ? "Tool" : job.output.gstrOrdinal[position] + " tool";
         output.WriteLine(opener + name + " - " + toolLine(toolAt(tools, places[i])) + closer);
     }
 }
@@ -76,7 +77,7 @@ bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, Progr
 
 void HeaderLine(Job& job, std::string_view labelledOpener, std::string_view unit,
                 std::string_view closer, std::int16_t index, ProgramOutput& output) {
-    std::string& value = job.gstrHeader[index];
+    std::string& value = job.answers.gstrHeader[index];
     value = std::string(trimBlanks(value));
     if (!value.empty())
         output.WriteLine(std::string(labelledOpener) + latin1Line(value) + std::string(unit) +

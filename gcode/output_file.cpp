@@ -32,15 +32,15 @@ void writeOpening(Job& job, std::span<const Statement> statements, std::int16_t 
 
 std::string absolutePlotFile(const Job& job) {
     std::error_code error;
-    const auto path = std::filesystem::absolute(pathFromUtf8(job.gstrPlotFile), error);
-    return error ? job.gstrPlotFile : utf8FromPath(path);
+    const auto path = std::filesystem::absolute(pathFromUtf8(job.drawing.gstrPlotFile), error);
+    return error ? job.drawing.gstrPlotFile : utf8FromPath(path);
 }
 
 } // namespace
 
 bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
                   ByteSink& sink, Logger& logger) {
-    job.gintLineNumber = 0;
+    job.output.gintLineNumber = 0;
     ProgramOutput output(sink);
     writeOpening(job, dialect.opening, number, output);
     if (!dialect.commentOpener.empty())

@@ -8,8 +8,8 @@
 namespace torvik {
 
 PathIndex::PathIndex(const Job& job) : m_job(job) {
-    for (long i = 1; i <= job.gintPathCount; ++i) {
-        const std::int16_t pen = job.gudtPaths[i].intPen;
+    for (long i = 1; i <= job.drawing.gintPathCount; ++i) {
+        const std::int16_t pen = job.drawing.gudtPaths[i].intPen;
         if (pen >= 1 && pen <= penCount)
             m_ofPen[static_cast<std::size_t>(pen)].push_back(static_cast<std::int16_t>(i));
     }
@@ -20,7 +20,7 @@ const PathSubscripts& PathIndex::ofPen(std::int16_t pen) const {
 }
 
 PathSubscripts PathIndex::ofRadius(std::int16_t pen, float radius) {
-    const auto radiusOf = [this](std::int16_t i) { return m_job.gudtPaths[i].sngRadius; };
+    const auto radiusOf = [this](std::int16_t i) { return m_job.drawing.gudtPaths[i].sngRadius; };
     auto& sorted = m_byRadius[static_cast<std::size_t>(pen)];
     if (sorted.empty()) {
         sorted = ofPen(pen);

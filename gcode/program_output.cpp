@@ -94,11 +94,11 @@ void ProgramOutput::CommandLine(Job& job, std::string_view text) {
 }
 
 void ProgramOutput::writeBlock(Job& job, std::string_view line) {
-    ++job.gintLineNumber;
-    if (job.gintLineNumber > lastBlockNumber)
-        job.gintLineNumber = 1;
+    ++job.output.gintLineNumber;
+    if (job.output.gintLineNumber > lastBlockNumber)
+        job.output.gintLineNumber = 1;
     char* const out = room(BlockNumber::maxSize + line.size());
-    use(put(m_blockNumber.put(out, job.gintLineNumber), line));
+    use(put(m_blockNumber.put(out, job.output.gintLineNumber), line));
 }
 
 void ProgramOutput::flush() {

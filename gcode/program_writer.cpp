@@ -36,22 +36,23 @@ class BodyWriter {
 public:
     BodyWriter(Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
         : m_job(job), m_dialect(dialect), m_output(output), m_paths(job),
-          m_z(job.gsngToolChangeHeight) {
+          m_z(job.answers.gsngToolChangeHeight) {
         m_values.tools = &tools;
-        m_values.toolChangeHeight = job.gsngToolChangeHeight;
+        m_values.toolChangeHeight = job.answers.gsngToolChangeHeight;
         m_values.dwellDecimals = dialect.dwellDecimals;
     }
 
     void write() {
         visitMachinedGroups(m_job, [this](const MachinedGroup& group) {
-            const Settings& settings = m_job.gudtSettings[group.settings];
+            const Settings& settings = m_job.answers.gudtSettings[group.settings];
             prepareTool(settings);
             if (group.radius == 0)
                 cut(group.pen, settings);
             else
-                drill(group.pen, m_job.gudtPens[group.pen].sngRadii[group.radius], settings);
+                drill(group.pen, m_job.answers.gudtPens[group.pen].sngRadii[group.radius],
+                      settings);
         });
-        rapidToHeight(m_job.gsngSafeHeight);
+        rapidToHeight(m_job.answers.gsngSafeHeight);
         put(m_dialect.end);
     }
 
@@ -93,8 +94,8 @@ private:
 
     // The same at the safe height.
     void rapidAbove(float x, float y) {
-        if (m_z != m_job.gsngSafeHeight)
-            rapidToHeight(m_job.gsngSafeHeight);
+        if (m_z != m_job.answers.gsngSafeHeight)
+            rapidToHeight(m_job.answers.gsngSafeHeight);
         rapidTo(x, y);
     }
 
@@ -107,22 +108,22 @@ private:
     }
 
     void prepareTool(const Settings& settings) {
-        const float safe = m_job.gsngSafeHeight;
+        const float safe = m_job.answers.gsngSafeHeight;
         if (settings.intTool == m_tool) {
             if (settings.sngSpindleSpeed == m_speed)
                 return;
             rapidToHeight(safe);
-            rapidToHeight(m_job.gsngToolChangeHeight);
+            rapidToHeight(m_job.answers.gsngToolChangeHeight);
             setSpindle(settings);
             rapidToHeight(safe);
             return;
         }
         m_tool = settings.intTool;
-        if (m_z <= m_job.gsngRapidDownTo)
+        if (m_z <= m_job.answers.gsngRapidDownTo)
             rapidToHeight(safe);
         if (m_z == safe && !m_dialect.retract.empty()) {
             put(m_dialect.retract);
-            m_z = m_job.gsngToolChangeHeight;
+            m_z = m_job.answers.gsngToolChangeHeight;
         }
         m_values.toolPlace = settings.intTool;
         if (m_toolLoaded)
@@ -162,18 +163,18 @@ private:
         const auto& cuts = words.cuts();
         for (const CutWords::Cut& cut : cuts) {
             if (!cut.connected) {
-                const Path& path = m_job.gudtPaths[cut.path];
+                const Path& path = m_job.drawing.gudtPaths[cut.path];
                 if (&cut != &cuts.front() || !isAt(path.sngStartX, path.sngStartY))
                     rapidAbove(path.sngStartX, path.sngStartY);
             }
-            if (m_z > m_job.gsngRapidDownTo)
-                rapidToHeight(m_job.gsngRapidDownTo);
+            if (m_z > m_job.answers.gsngRapidDownTo)
+                rapidToHeight(m_job.answers.gsngRapidDownTo);
             if (m_z > z)
                 feedToHeight(z, feedDown);
             m_output.writeBlock(m_job, words.text(cut));
         }
         if (!cuts.empty()) {
-            const Path& last = m_job.gudtPaths[cuts.back().path];
+            const Path& last = m_job.drawing.gudtPaths[cuts.back().path];
             m_x = last.sngEndX;
             m_y = last.sngEndY;
         }
@@ -181,13 +182,13 @@ private:
 
     void drill(std::int16_t pen, float radius, const Settings& settings) {
         for (const std::int16_t subscript : m_paths.ofRadius(pen, radius)) {
-            const Path& path = m_job.gudtPaths[subscript];
-            if (m_z != m_job.gsngSafeHeight)
-                rapidToHeight(m_job.gsngSafeHeight);
+            const Path& path = m_job.drawing.gudtPaths[subscript];
+            if (m_z != m_job.answers.gsngSafeHeight)
+                rapidToHeight(m_job.answers.gsngSafeHeight);
             if (!isAt(path.sngCentreX, path.sngCentreY))
                 rapidTo(path.sngCentreX, path.sngCentreY);
-            if (m_z > m_job.gsngRapidDownTo)
-                rapidToHeight(m_job.gsngRapidDownTo);
+            if (m_z > m_job.answers.gsngRapidDownTo)
+                rapidToHeight(m_job.answers.gsngRapidDownTo);
             peck(settings);
         }
     }
@@ -205,7 +206,7 @@ private:
                 m_values.dwell = settings.sngDwell * m_dialect.dwellFactor;
                 put(m_dialect.dwell);
             }
-            rapidToHeight(m_job.gsngRapidDownTo);
+            rapidToHeight(m_job.answers.gsngRapidDownTo);
         }
     }
 

@@ -8,7 +8,7 @@
 namespace torvik {
 
 ColourNode colourNode(const Job& job, std::int16_t number) {
-    const Pen& pen = job.gudtPens[number];
+    const Pen& pen = job.answers.gudtPens[number];
     std::int16_t run = imageCut;
     if (pen.blnOmit)
         run = imageOmitted;
@@ -25,7 +25,7 @@ ColourNode colourNode(const Job& job, std::int16_t number) {
                                  false,
                                  {}});
     if (pen.intRadiusCount > 0) {
-        const bool isCut = !pen.blnDrill && job.gudtSettings[pen.intSettings].blnComplete;
+        const bool isCut = !pen.blnDrill && job.answers.gudtSettings[pen.intSettings].blnComplete;
         if (isCut)
             node.image = image(imageCut);
         node.expanded = !isCut;
@@ -35,10 +35,10 @@ ColourNode colourNode(const Job& job, std::int16_t number) {
 
 void CreateTree(Job& job, Logger& logger) {
     withErrorTrap(logger, {"CreateTree", "modHpgl"}, [&] {
-        job.gudtColourTree.clear();
+        job.position.gudtColourTree.clear();
         for (std::int16_t pen = 1; pen <= penCount; ++pen)
-            if (job.gudtPens[pen].blnUsed)
-                job.gudtColourTree.push_back(colourNode(job, pen));
+            if (job.answers.gudtPens[pen].blnUsed)
+                job.position.gudtColourTree.push_back(colourNode(job, pen));
     });
 }
 

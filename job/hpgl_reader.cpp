@@ -99,10 +99,10 @@ private:
         if (m_pen < 1 || m_pen > penCount)
             throw RunTimeError("pen " + std::to_string(m_pen) +
                                " draws here, but a drawing may use the pens 1 to 8 only");
-        if (m_job.gintPathCount == std::numeric_limits<std::int16_t>::max())
+        if (m_job.drawing.gintPathCount == std::numeric_limits<std::int16_t>::max())
             throw RunTimeError("the drawing has more than 32767 lines, arcs and circles");
-        m_job.gudtPaths.append(path);
-        ++m_job.gintPathCount;
+        m_job.drawing.gudtPaths.append(path);
+        ++m_job.drawing.gintPathCount;
         m_x = path.sngEndX;
         m_y = path.sngEndY;
     }
@@ -196,8 +196,8 @@ private:
 
 void readInstructions(Job& job, std::string bytes, std::string_view fileName, Logger& logger) {
     constexpr long shortElement = 5; // "PD1,;", few are shorter
-    job.gudtPaths.reserve(std::min(static_cast<long>(bytes.size()) / shortElement,
-                                   long{std::numeric_limits<std::int16_t>::max()}));
+    job.drawing.gudtPaths.reserve(std::min(static_cast<long>(bytes.size()) / shortElement,
+                                           long{std::numeric_limits<std::int16_t>::max()}));
     Plotter plotter(job, logger);
     LineSplitter lines(bytes);
     for (long number = 1; !lines.atEnd() && !plotter.stopped(); ++number) {
@@ -211,16 +211,17 @@ void readInstructions(Job& job, std::string bytes, std::string_view fileName, Lo
 
 bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger) {
     const bool read = withErrorTrap(logger, {"blnGetCommands", "modHpgl"}, [&] {
-        job.gblnUnsaved = false;
+        job.output.gblnUnsaved = false;
         ClearData(job);
-        job.gstrPlotFile = utf8FromPath(file);
-        readInstructions(job, readWholeFile(file, maxDrawingBytes), job.gstrPlotFile, logger);
+        job.drawing.gstrPlotFile = utf8FromPath(file);
+        readInstructions(job, readWholeFile(file, maxDrawingBytes), job.drawing.gstrPlotFile,
+                         logger);
     });
     if (read) {
-        job.gblnUnsaved = true;
+        job.output.gblnUnsaved = true;
     } else {
         ClearData(job);
-        job.gstrPlotFile.clear();
+        job.drawing.gstrPlotFile.clear();
     }
     return read;
 }

@@ -26,46 +26,64 @@ enum HeaderField : std::int16_t {
     headerBilletZ,
 };
 
-struct Job {
+// What was read from the file.
+struct Drawing {
     std::string gstrPlotFile; // full path, UTF-8
-    bool gblnUnsaved = false; // imported, and no program written yet
+    std::string gstrDigest;   // of the file's bytes, lower-case hexadecimal
 
     OneBasedArray<Path> gudtPaths; // in file order
     std::int16_t gintPathCount = 0;
     OneBasedArray<std::int16_t> gintPathOrder; // in drawing order, see SortPaths
+};
 
+// What is asked for, pen by pen and for the whole part: set up for a drawing, then given by the
+// user or taken from those kept for it.
+struct Answers {
     BoundedArray<Pen, 1, penCount> gudtPens;
     std::int16_t gintPenCount = 0; // pens that are used
 
     OneBasedArray<Settings> gudtSettings;
     std::int16_t gintSettingsCount = 0;
 
-    std::int16_t gintCurrentPen = 0;      // whose page the wizard shows, 0 before the first
-    std::int16_t gintLastPen = 0;         // whose page Back on the order page returns to
-    std::int16_t gintCurrentRadius = 0;   // hole size on show, 0 for the pen as a whole
-    std::int16_t gintCurrentSettings = 0; // settings group on show
-
     BoundedArray<std::int16_t, 1, penCount> gintOrder; // pens as machined, 0 = none
     std::int16_t gintOrderCount = 0;
     bool gblnOrderSet = false;
 
-    float gsngToolChangeHeight = 50;
+    float gsngToolChangeHeight = 50; // mm, as the other heights
     float gsngSafeHeight = 0;
     float gsngRapidDownTo = 2;
     float gsngFeedFactor = 0; // 1 for mm/min, 60 for mm/sec, 0 before the first choice
     std::string gstrFeedUnits;
 
     BoundedArray<std::string, 0, 8> gstrHeader; // UTF-8, see HeaderField
-    BoundedArray<std::string, 1, 16> gstrOrdinal;
 
-    std::int16_t gintLineNumber = 0; // last block number written, 1 to 9999
-    std::int16_t gintWizardStep = 1; // 1 to 6
-
-    std::string gstrDigest;      // of the drawing, lower-case hexadecimal
     std::string gstrSavedFile;   // where the drawing's answers are kept
     bool gblnSavedFound = false; // the answers were taken over from there
+};
+
+// Which page of the pens is on show.
+struct Position {
+    std::int16_t gintCurrentPen = 0;      // 0 before the first
+    std::int16_t gintLastPen = 0;         // whose page Back on the order page returns to
+    std::int16_t gintCurrentRadius = 0;   // hole size, 0 for the pen as a whole
+    std::int16_t gintCurrentSettings = 0; // settings group
 
     std::vector<ColourNode> gudtColourTree;
+};
+
+// How far the written program is.
+struct Output {
+    bool gblnUnsaved = false;        // imported, and no program written yet
+    std::int16_t gintLineNumber = 0; // last block number written, 1 to 9999
+    BoundedArray<std::string, 1, 16> gstrOrdinal;
+};
+
+struct Job {
+    Drawing drawing;
+    Answers answers;
+    Position position;
+    Output output;
+    std::int16_t gintWizardStep = 1; // 1 to 6
 };
 
 // Empties the job before an import: paths, pens, settings, tree, order, header and the wizard's

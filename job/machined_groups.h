@@ -19,10 +19,10 @@ struct MachinedGroup {
 // Raises SubscriptOutOfRange at a pen above 8, after the groups before it.
 template <typename Visit>
 void visitMachinedGroups(const Job& job, Visit visit) {
-    for (const std::int16_t number : job.gintOrder) {
+    for (const std::int16_t number : job.answers.gintOrder) {
         if (number <= 0)
             continue;
-        const Pen& pen = job.gudtPens[number];
+        const Pen& pen = job.answers.gudtPens[number];
         if (!pen.blnDrill) {
             visit(MachinedGroup{number, 0, pen.intSettings});
             continue;

@@ -39,11 +39,11 @@ constexpr std::array<std::string_view, 16> ordinals{
     "Ninth", "Tenth",  "Eleventh", "Twelfth", "Thirteenth", "Fourteenth", "Fifteenth", "Sixteenth"};
 
 void appendSettingsGroup(Job& job) {
-    if (job.gintSettingsCount == std::numeric_limits<std::int16_t>::max())
-        throw FileError(job.gstrPlotFile,
+    if (job.answers.gintSettingsCount == std::numeric_limits<std::int16_t>::max())
+        throw FileError(job.drawing.gstrPlotFile,
                         "the pens and their circle sizes are more than 32767 together");
-    ++job.gintSettingsCount;
-    job.gudtSettings.append({});
+    ++job.answers.gintSettingsCount;
+    job.answers.gudtSettings.append({});
 }
 
 // The radii are ascending, so only those close to the new one are looked at.
@@ -63,9 +63,9 @@ void insertRadius(Pen& pen, float radius) {
 }
 
 void checkForCircles(Job& job, std::int16_t number) {
-    Pen& pen = job.gudtPens[number];
+    Pen& pen = job.answers.gudtPens[number];
     bool circles = true;
-    for (Path& path : job.gudtPaths) {
+    for (Path& path : job.drawing.gudtPaths) {
         if (path.intPen != number)
             continue;
         circles = isClosedCircle(path);
@@ -87,22 +87,22 @@ void checkForCircles(Job& job, std::int16_t number) {
 
 void setUpPens(Job& job) {
     BoundedArray<bool, 1, penCount> used;
-    for (const Path& path : job.gudtPaths)
+    for (const Path& path : job.drawing.gudtPaths)
         used[path.intPen] = true;
 
-    job.gintSettingsCount = 0;
-    job.gudtSettings.erase();
-    job.gintPenCount = 0;
-    job.gudtPens.fill({});
+    job.answers.gintSettingsCount = 0;
+    job.answers.gudtSettings.erase();
+    job.answers.gintPenCount = 0;
+    job.answers.gudtPens.fill({});
     SetColourDefinitions(job);
     for (std::int16_t number = 1; number <= penCount; ++number) {
         if (!used[number])
             continue;
-        ++job.gintPenCount;
-        Pen& pen = job.gudtPens[number];
+        ++job.answers.gintPenCount;
+        Pen& pen = job.answers.gudtPens[number];
         pen.blnUsed = true;
         appendSettingsGroup(job);
-        pen.intSettings = job.gintSettingsCount;
+        pen.intSettings = job.answers.gintSettingsCount;
         checkForCircles(job, number);
     }
 }
@@ -112,10 +112,10 @@ void setUpPens(Job& job) {
 void SetColourDefinitions(Job& job) {
     for (std::int16_t number = 1; number <= penCount; ++number) {
         const PenColour& colour = penColours[static_cast<std::size_t>(number - 1)];
-        job.gudtPens[number].lngColour = colour.colour;
-        job.gudtPens[number].strColour = colour.name;
+        job.answers.gudtPens[number].lngColour = colour.colour;
+        job.answers.gudtPens[number].strColour = colour.name;
     }
-    std::copy(ordinals.begin(), ordinals.end(), job.gstrOrdinal.begin());
+    std::copy(ordinals.begin(), ordinals.end(), job.output.gstrOrdinal.begin());
 }
 
 bool SetUpPens(Job& job, Logger& logger) {
@@ -129,25 +129,25 @@ bool CheckForCircles(Job& job, std::int16_t intPen, Logger& logger) {
 
 bool SortPaths(Job& job, Logger& logger) {
     return withErrorTrap(logger, {"SortPaths", "modHpgl"}, [&] {
-        auto& order = job.gintPathOrder;
-        order.resize(job.gintPathCount);
+        auto& order = job.drawing.gintPathOrder;
+        order.resize(job.drawing.gintPathCount);
         std::iota(order.begin(), order.end(), std::int16_t{1});
         std::stable_sort(order.begin(), order.end(), [&](std::int16_t a, std::int16_t b) {
-            return job.gudtPaths[a].sngSortKey < job.gudtPaths[b].sngSortKey;
+            return job.drawing.gudtPaths[a].sngSortKey < job.drawing.gudtPaths[b].sngSortKey;
         });
     });
 }
 
 void rebuildOrder(Job& job) {
-    job.gintOrder.fill(0);
-    job.gintOrderCount = 0;
+    job.answers.gintOrder.fill(0);
+    job.answers.gintOrderCount = 0;
     for (std::int16_t number = 1; number <= penCount; ++number)
         if (isMachined(job, number))
-            job.gintOrder[++job.gintOrderCount] = number;
+            job.answers.gintOrder[++job.answers.gintOrderCount] = number;
 }
 
 bool isMachined(const Job& job, std::int16_t pen) {
-    return job.gudtPens[pen].blnUsed && !job.gudtPens[pen].blnOmit;
+    return job.answers.gudtPens[pen].blnUsed && !job.answers.gudtPens[pen].blnOmit;
 }
 
 bool isClosedCircle(const Path& path) {

@@ -118,7 +118,8 @@ private:
         SetColourDefinitions(job);
         for (const Stroke& stroke : m_strokes) {
             if (report.pens.empty() || report.pens.back().pen != stroke.pen)
-                report.pens.push_back({stroke.pen, job.gudtPens[stroke.pen].strColour, 0, 0, 0});
+                report.pens.push_back(
+                    {stroke.pen, job.answers.gudtPens[stroke.pen].strColour, 0, 0, 0});
             PenUse& use = report.pens.back();
             for (const Segment& segment : stroke.segments)
                 ++(segment.kind == SegmentKind::line ? use.lines

@@ -33,7 +33,7 @@ std::int32_t lngPlotColour(float depth, float shallowest, float deepest) {
 }
 
 std::int32_t lngPenColour(const Job& job, std::int16_t pen) {
-    return job.gudtPens[pen].lngColour;
+    return job.answers.gudtPens[pen].lngColour;
 }
 
 std::string depthText(float depth) {

@@ -61,7 +61,7 @@ void paintLines(LinePainter&& painter, const Job& job, double width,
     for (std::size_t i = 0; i < shown.size(); ++i) {
         if (!shown[i])
             continue;
-        const Path& path = job.gudtPaths[static_cast<long>(i) + 1];
+        const Path& path = job.drawing.gudtPaths[static_cast<long>(i) + 1];
         painter.setColour(lngPenColour(job, path.intPen));
         painter.groove(path, width);
     }
@@ -79,15 +79,15 @@ void paintLines(QImage& image, const Job& job, const PictureView& view,
 
 std::vector<bool> machinedPaths(const Job& job) {
     std::vector<bool> machined;
-    machined.reserve(static_cast<std::size_t>(job.gudtPaths.count()));
-    for (const Path& path : job.gudtPaths)
-        machined.push_back(!job.gudtPens[path.intPen].blnOmit);
+    machined.reserve(static_cast<std::size_t>(job.drawing.gudtPaths.count()));
+    for (const Path& path : job.drawing.gudtPaths)
+        machined.push_back(!job.answers.gudtPens[path.intPen].blnOmit);
     return machined;
 }
 
 std::size_t flagOf(const Job& job, std::int16_t path) {
-    if (path < 1 || path > job.gudtPaths.count())
-        throw SubscriptOutOfRange(path, 1, job.gudtPaths.count());
+    if (path < 1 || path > job.drawing.gudtPaths.count())
+        throw SubscriptOutOfRange(path, 1, job.drawing.gudtPaths.count());
     return static_cast<std::size_t>(path - 1);
 }
 

@@ -28,18 +28,18 @@ std::int16_t holeSizeOf(const Pen& pen, const Path& path) {
 }
 
 const Settings& settingsAt(const Job& job, const Pen& pen, std::int16_t holeSize) {
-    return job.gudtSettings[pen.intSettings + holeSize];
+    return job.answers.gudtSettings[pen.intSettings + holeSize];
 }
 
 } // namespace
 
 const Settings& settingsOf(const Job& job, const Path& path) {
-    const Pen& pen = job.gudtPens[path.intPen];
+    const Pen& pen = job.answers.gudtPens[path.intPen];
     return settingsAt(job, pen, holeSizeOf(pen, path));
 }
 
 MachinedPath machinedPath(const Job& job, const ToolList& tools, const Path& path) {
-    const Pen& pen = job.gudtPens[path.intPen];
+    const Pen& pen = job.answers.gudtPens[path.intPen];
     const std::int16_t holeSize = holeSizeOf(pen, path);
     const Settings& settings = settingsAt(job, pen, holeSize);
     if (settings.intTool < 1 || settings.intTool > tools.gintToolCount)
@@ -48,7 +48,7 @@ MachinedPath machinedPath(const Job& job, const ToolList& tools, const Path& pat
 }
 
 bool sortPathsByDepth(Job& job, Logger& logger) {
-    for (Path& path : job.gudtPaths)
+    for (Path& path : job.drawing.gudtPaths)
         path.sngSortKey = settingsOf(job, path).sngDepth;
     return SortPaths(job, logger);
 }

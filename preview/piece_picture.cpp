@@ -27,9 +27,9 @@ DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const J
     const auto setColour = [&](float depth) {
         painter.setColour(lngPlotColour(depth, piece.sngShallowest, piece.sngDeepest));
     };
-    for (const std::int16_t number : job.gintPathOrder) {
-        const Path& path = job.gudtPaths[number];
-        if (job.gudtPens[path.intPen].blnOmit)
+    for (const std::int16_t number : job.drawing.gintPathOrder) {
+        const Path& path = job.drawing.gudtPaths[number];
+        if (job.answers.gudtPens[path.intPen].blnOmit)
             continue;
         const MachinedPath machined = machinedPath(job, tools, path);
         const double width = view.toolWidth(machined.sngDiameter);

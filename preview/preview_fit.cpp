@@ -54,7 +54,7 @@ PictureBox pictureBox(const Extents& extents, const PreviewFit& fit, FrameSize f
 }
 
 void includeMachined(PieceScale& piece, const Job& job, const ToolList& tools, const Path& path) {
-    if (job.gudtPens[path.intPen].blnOmit) {
+    if (job.answers.gudtPens[path.intPen].blnOmit) {
         includePath(piece.extents, path);
         return;
     }
@@ -75,7 +75,7 @@ bool GetScale(const Job& job, FrameSize frame, LineScale& scale, Logger& logger)
     scale.picture = pictureBox(scale.extents, scale.fit, frame);
     return withErrorTrap(logger, {"GetScale", "modHpgl"}, [&] {
         LineScale found;
-        for (const Path& path : job.gudtPaths)
+        for (const Path& path : job.drawing.gudtPaths)
             includePath(found.extents, path);
         found.extents = stored(found.extents);
         refit(found, frame);
@@ -87,7 +87,7 @@ bool GetPieceScale(const Job& job, const ToolList& tools, FrameSize frame, Piece
                    Logger& logger) {
     return withErrorTrap(logger, {"GetPieceScale", "modHpgl"}, [&] {
         PieceScale found;
-        for (const Path& path : job.gudtPaths)
+        for (const Path& path : job.drawing.gudtPaths)
             includeMachined(found, job, tools, path);
         found.extents = stored(found.extents);
         refit(found, frame);

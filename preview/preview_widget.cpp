@@ -2,6 +2,7 @@
 #include "preview/preview_widget.h"
 
 #include "base/error_trap.h"
+#include "forms/help_key.h"
 #include "job/job.h"
 #include "preview/machined_path.h"
 #include "preview/piece_picture.h"
@@ -55,7 +56,7 @@ PreviewWidget::PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QW
     m_picPlot = new Sheet(image, m_picBack);
     m_picPlot->setObjectName(QStringLiteral("picPlot"));
     m_picPlot->setAccessibleName(QStringLiteral("Preview of the drawing"));
-    m_picPlot->setProperty("helpContext", helpPreview);
+    m_picPlot->setProperty(helpContextProperty, helpPreview);
 
     setFrameShape(QFrame::StyledPanel);
     setPalette(paper());

@@ -37,7 +37,7 @@ double SharpLines::Axis::shiftOf(double place) const {
 
 SharpLines::SharpLines(const Job& job, const PictureView& view, int width, int height)
     : m_columns(width), m_rows(height) {
-    for (const Path& path : job.gudtPaths) {
+    for (const Path& path : job.drawing.gudtPaths) {
         if (path.intType != straightLine)
             continue;
         const ScreenPoint start = view.point(path.sngStartX, path.sngStartY);

@@ -33,7 +33,7 @@ ColourTreeView::ColourTreeView(QWidget* parent) : QTreeWidget(parent) {
 
 void ColourTreeView::showTree(const Job& job) {
     setUpdatesEnabled(false);
-    const std::vector<ColourNode>& tree = job.gudtColourTree;
+    const std::vector<ColourNode>& tree = job.position.gudtColourTree;
     const bool sameNodes = haveSameKeys(tree, m_shown);
     if (!sameNodes)
         buildNodes(tree);

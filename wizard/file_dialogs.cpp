@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/file_dialogs.h"
 
+#include "answers/program_folder.h"
 #include "base/files.h"
 #include "base/std_message_box.h"
 #include "gcode/dialects.h"
 #include "prepare/dialog/file_choice.h"
 #include "tools/registry.h"
-#include "wizard/program_folder.h"
 
 #include <QDir>
 #include <QFileDialog>

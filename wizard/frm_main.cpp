@@ -9,8 +9,8 @@
 #include "wizard/globals_page.h"
 #include "wizard/header_page.h"
 #include "wizard/order_page.h"
-#include "wizard/output_page.h"
-#include "wizard/pen_page.h"
+#include "wizard/output/output_page.h"
+#include "wizard/pens/pen_page.h"
 #include "wizard/step_list.h"
 
 #include <QApplication>

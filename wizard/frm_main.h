@@ -3,8 +3,8 @@
 // here stands what joins them.
 #pragma once
 
+#include "answers/kept_answers.h"
 #include "wizard/frame_services.h"
-#include "wizard/kept_answers.h"
 #include "wizard/wizard_host.h"
 #include "wizard/workshop.h"
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The menu, help, the keys that the form sees first, and closing.
 #include "base/files.h"
+#include "forms/help_key.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/frm_main.h"
 #include "wizard/order_page.h"
-#include "wizard/pen_controls.h"
+#include "wizard/pens/pen_controls.h"
 #include "wizard/recent_drawings.h"
 
 #include <QCloseEvent>
@@ -128,7 +129,7 @@ void FrmMain::closeEvent(QCloseEvent* event) {
 }
 
 bool FrmMain::CheckClose() {
-    if (m_workshop.job.gblnUnsaved &&
+    if (m_workshop.job.output.gblnUnsaved &&
         m_workshop.messages.intStdMsgBox("Are you sure you want to close without saving\n"
                                          "the current file as G-codes?",
                                          styleQuestion, "Exit from Torvik") != buttonYes)

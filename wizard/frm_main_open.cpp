@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Opening a drawing: the question, the file dialog, the import and the layout after it.
+#include "answers/import_drawing.h"
+#include "answers/program_folder.h"
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "prepare/dialog/dragged_source.h"
@@ -8,8 +10,6 @@
 #include "wizard/file_dialogs.h"
 #include "wizard/frm_main.h"
 #include "wizard/globals_page.h"
-#include "wizard/import_drawing.h"
-#include "wizard/program_folder.h"
 #include "wizard/recent_drawings.h"
 
 #include <QDragEnterEvent>
@@ -46,7 +46,7 @@ void FrmMain::ReadFileLater(const std::filesystem::path& drawing) {
 }
 
 bool FrmMain::agreesToOpen() {
-    return !m_workshop.job.gblnUnsaved ||
+    return !m_workshop.job.output.gblnUnsaved ||
            m_workshop.messages.intStdMsgBox("Are you sure you want to open a file\n"
                                             "without saving the current file as G-codes?",
                                             styleQuestion, "Open file") == buttonYes;
@@ -78,20 +78,20 @@ void FrmMain::layOutImported() {
     PlotLines();
     m_globals->RestoreGlobals();
     m_globals->enter();
-    if (m_workshop.job.gintPathCount == 0)
+    if (m_workshop.job.drawing.gintPathCount == 0)
         warnOfEmptyDrawing();
 }
 
 void FrmMain::warnOfEmptyDrawing() {
     m_workshop.messages.intStdMsgBox("This drawing holds nothing that can be milled:\n" +
-                                         m_workshop.job.gstrPlotFile,
+                                         m_workshop.job.drawing.gstrPlotFile,
                                      styleExclamation, usualTitle);
 }
 
 void FrmMain::returnToStart() {
     Job& job = m_workshop.job;
     ClearData(job);
-    job.gstrPlotFile.clear();
+    job.drawing.gstrPlotFile.clear();
     setWindowTitle(QString::fromUtf8(usualTitle));
     updateTree();
     clearPreview();

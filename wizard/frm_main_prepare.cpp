@@ -3,12 +3,13 @@
 // that points to it where a drawing was opened without it.
 #include "base/error_trap.h"
 #include "base/files.h"
+#include "forms/help_key.h"
 #include "job/hpgl_reader.h"
 #include "prepare/dialog/frm_prepare.h"
 #include "prepare/source/skipped.h"
 #include "wizard/file_dialogs.h"
 #include "wizard/frm_main.h"
-#include "wizard/pen_controls.h"
+#include "wizard/pens/pen_controls.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -43,7 +44,7 @@ void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
         if (!source.empty())
             dialog.openSource(source);
         else if (m_workshop.job.gintWizardStep > 1)
-            dialog.openSource(pathFromUtf8(m_workshop.job.gstrPlotFile));
+            dialog.openSource(pathFromUtf8(m_workshop.job.drawing.gstrPlotFile));
         dialog.exec();
         if (!toOpen.empty())
             ReadFile(toOpen);

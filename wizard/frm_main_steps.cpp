@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 // The state machine of the six steps.
+#include "answers/tool_changes.h"
 #include "base/error_trap.h"
 #include "gcode/tool_check.h"
 #include "preview/preview_widget.h"
-#include "tools/frm_tool_select.h"
+#include "tools/dialogs/frm_tool_select.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/frm_main.h"
 #include "wizard/globals_page.h"
 #include "wizard/header_page.h"
 #include "wizard/order_page.h"
-#include "wizard/output_page.h"
-#include "wizard/output_step.h"
-#include "wizard/pen_page.h"
+#include "wizard/output/output_page.h"
+#include "wizard/output/output_step.h"
+#include "wizard/pens/pen_page.h"
 #include "wizard/step_list.h"
-#include "wizard/tool_changes.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -68,13 +68,13 @@ void FrmMain::fromStep2(std::int16_t direction) {
         });
         return;
     }
-    if (job.gintPathCount == 0) {
+    if (job.drawing.gintPathCount == 0) {
         warnOfEmptyDrawing();
         return;
     }
     if (!m_globals->blnGlobalsValid())
         return;
-    job.gintCurrentPen = 0;
+    job.position.gintCurrentPen = 0;
     showStep(3);
     m_pens->ShowPen(1);
 }
@@ -84,7 +84,8 @@ void FrmMain::fromStep3(std::int16_t direction) {
     const bool stored = m_pens->SaveDetails();
     if (stored && direction < 0)
         m_pens->ShowPen(-1);
-    else if (stored && (job.gudtPens[job.gintCurrentPen].blnOmit || m_pens->blnInputValid()))
+    else if (stored &&
+             (job.answers.gudtPens[job.position.gintCurrentPen].blnOmit || m_pens->blnInputValid()))
         m_pens->ShowPen(1);
     // A page that stays goes on blinking.
     if (job.gintWizardStep == 3 && !m_flash.isActive())
@@ -96,7 +97,7 @@ void FrmMain::fromStep4(std::int16_t direction) {
     m_order->readOrder();
     if (direction < 0) {
         showStep(3);
-        job.gintCurrentPen = job.gintLastPen;
+        job.position.gintCurrentPen = job.position.gintLastPen;
         m_pens->ShowPen(0);
         return;
     }
@@ -155,7 +156,7 @@ void FrmMain::leavePensBackward() {
 }
 
 void FrmMain::leavePensForward() {
-    m_workshop.job.gintLastPen = m_workshop.job.gintCurrentPen;
+    m_workshop.job.position.gintLastPen = m_workshop.job.position.gintCurrentPen;
     showStep(4);
     m_order->ShowOrder(1);
 }
@@ -182,7 +183,7 @@ void FrmMain::selectTool() {
 void FrmMain::warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen) {
     // The group on show gets the tool that was just chosen.
     const std::int16_t passedOver =
-        chosen > 0 ? m_workshop.job.gintCurrentSettings : std::int16_t{0};
+        chosen > 0 ? m_workshop.job.position.gintCurrentSettings : std::int16_t{0};
     std::string text;
     for (const std::string& group :
          before.changedSince(m_workshop.job, m_workshop.tools, passedOver))

@@ -5,9 +5,10 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "base/picture.h"
-#include "wizard/form_fields.h"
-#include "wizard/pen_controls.h"
-#include "wizard/pen_number_box.h"
+#include "forms/form_fields.h"
+#include "forms/help_key.h"
+#include "forms/number_box.h"
+#include "wizard/pens/pen_controls.h"
 #include "wizard/wizard_host.h"
 #include "wizard/workshop.h"
 
@@ -30,22 +31,22 @@ struct Height {
     std::string_view name;
     const char* caption;
     const char* tip;
-    float Job::*field;
+    float Answers::*field;
 };
 
 constexpr std::array<Height, 3> heights{{
     {"Tool Change Height", QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool is changed, well above the work and its clamps"),
-     &Job::gsngToolChangeHeight},
+     &Answers::gsngToolChangeHeight},
     {"Safe Height for Rapids", QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool travels quickly across the work without touching anything"),
-     &Job::gsngSafeHeight},
+     &Answers::gsngSafeHeight},
     {"Rapid Down To", QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "How far the tool comes down quickly; the rest it goes at its feed"),
-     &Job::gsngRapidDownTo},
+     &Answers::gsngRapidDownTo},
 }};
 
 } // namespace
@@ -104,14 +105,15 @@ void GlobalsPage::SaveGlobals() {
         Job& job = m_workshop.job;
         for (std::size_t i = 0; i < heights.size(); ++i) {
             try {
-                job.*heights[i].field = toSingle(leadingNumber(m_heights[i]->text().toStdString()));
+                job.answers.*heights[i].field =
+                    toSingle(leadingNumber(m_heights[i]->text().toStdString()));
             } catch (const Overflow&) {
                 // blnGlobalsValid names the box; the job keeps the height it had.
             }
         }
         const bool minutes = m_units[0]->isChecked();
-        job.gstrFeedUnits = minutes ? "(mm/min)" : "(mm/sec)";
-        job.gsngFeedFactor = minutes ? perMinute : perSecond;
+        job.answers.gstrFeedUnits = minutes ? "(mm/min)" : "(mm/sec)";
+        job.answers.gsngFeedFactor = minutes ? perMinute : perSecond;
     });
 }
 
@@ -119,11 +121,11 @@ void GlobalsPage::RestoreGlobals() {
     withErrorTrap(m_workshop.logger, {"RestoreGlobals", "modHpgl"}, [&] {
         const Job& job = m_workshop.job;
         for (std::size_t i = 0; i < heights.size(); ++i) {
-            const float height = job.*heights[i].field;
+            const float height = job.answers.*heights[i].field;
             m_heights[i]->setText(height == 0 ? QString()
                                               : QString::fromStdString(formatFixed(height, 0)));
         }
-        m_units[job.gsngFeedFactor == perMinute ? 0 : 1]->setChecked(true);
+        m_units[job.answers.gsngFeedFactor == perMinute ? 0 : 1]->setChecked(true);
     });
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/header_page.h"
 
+#include "answers/saved_names.h"
 #include "base/error_trap.h"
 #include "base/text.h"
-#include "tools/dialog_places.h"
-#include "wizard/form_fields.h"
-#include "wizard/saved_names.h"
+#include "forms/form_fields.h"
+#include "tools/dialogs/dialog_places.h"
 #include "wizard/workshop.h"
 
 #include <QDate>
@@ -91,13 +91,13 @@ HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
 void HeaderPage::fill() {
     const Job& job = m_workshop.job;
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
-        m_boxes[i]->setText(QString::fromStdString(job.gstrHeader[static_cast<long>(i)]));
+        m_boxes[i]->setText(QString::fromStdString(job.answers.gstrHeader[static_cast<long>(i)]));
     if (trimmed(*m_boxes[headerDate]).isEmpty())
         m_boxes[headerDate]->setText(
             QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
     if (trimmed(*m_boxes[headerPartName]).isEmpty())
         m_boxes[headerPartName]->setText(
-            QString::fromStdString(proposedPartName(job.gstrPlotFile)));
+            QString::fromStdString(proposedPartName(job.drawing.gstrPlotFile)));
     for (QLineEdit* const box : m_boxes)
         replaceBrackets(*box);
     for (QLineEdit* const box : m_boxes) {
@@ -111,7 +111,7 @@ void HeaderPage::fill() {
 
 void HeaderPage::readBoxes() {
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
-        m_workshop.job.gstrHeader[static_cast<long>(i)] = m_boxes[i]->text().toStdString();
+        m_workshop.job.answers.gstrHeader[static_cast<long>(i)] = m_boxes[i]->text().toStdString();
 }
 
 bool HeaderPage::blnHeaderDone() {

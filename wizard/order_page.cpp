@@ -3,11 +3,12 @@
 
 #include "base/error_trap.h"
 #include "base/numbers.h"
+#include "forms/form_fields.h"
+#include "forms/help_key.h"
 #include "job/pens.h"
-#include "tools/dialog_places.h"
-#include "wizard/form_fields.h"
-#include "wizard/pen_controls.h"
+#include "tools/dialogs/dialog_places.h"
 #include "wizard/pen_pictures.h"
+#include "wizard/pens/pen_controls.h"
 #include "wizard/workshop.h"
 
 #include <QHBoxLayout>
@@ -87,12 +88,12 @@ void OrderPage::ShowOrder(std::int16_t /*direction*/) {
             delete row.frame;
         m_rows.clear();
         m_selectedRow = 0;
-        if (!job.gblnOrderSet)
+        if (!job.answers.gblnOrderSet)
             rebuildOrder(job);
-        job.gintOrderCount = 0;
-        for (const std::int16_t pen : job.gintOrder) {
+        job.answers.gintOrderCount = 0;
+        for (const std::int16_t pen : job.answers.gintOrder) {
             if (pen > 0) {
-                ++job.gintOrderCount;
+                ++job.answers.gintOrderCount;
                 addRow(pen);
             }
         }
@@ -123,7 +124,7 @@ void OrderPage::addRow(std::int16_t pen) {
 
 void OrderPage::showPen(const Row& row, std::int16_t pen) {
     const Job& job = m_workshop.job;
-    const QString colour = QString::fromStdString(job.gudtPens[pen].strColour);
+    const QString colour = QString::fromStdString(job.answers.gudtPens[pen].strColour);
     row.picOrd->setPixmap(penPicture(static_cast<std::int16_t>(imageCut + pen), job)
                               .pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
     row.picOrd->setAccessibleName(colour);
@@ -195,11 +196,11 @@ void OrderPage::KeyCheck(int keyCode) {
 void OrderPage::readOrder() {
     withErrorTrap(m_workshop.logger, {"readOrder", "modHpgl"}, [&] {
         Job& job = m_workshop.job;
-        job.gintOrder.fill(0);
-        job.gintOrderCount = static_cast<std::int16_t>(m_rows.size());
-        for (std::int16_t i = 1; i <= job.gintOrderCount; ++i)
-            job.gintOrder[i] = penOf(*m_rows[static_cast<std::size_t>(i - 1)].lblOrd);
-        job.gblnOrderSet = true;
+        job.answers.gintOrder.fill(0);
+        job.answers.gintOrderCount = static_cast<std::int16_t>(m_rows.size());
+        for (std::int16_t i = 1; i <= job.answers.gintOrderCount; ++i)
+            job.answers.gintOrder[i] = penOf(*m_rows[static_cast<std::size_t>(i - 1)].lblOrd);
+        job.answers.gblnOrderSet = true;
     });
 }
 

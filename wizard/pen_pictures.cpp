@@ -26,7 +26,7 @@ Picture pictureOf(std::int16_t image) {
 }
 
 QColor penColour(const Job& job, std::int16_t pen) {
-    return colourOf(job.gudtPens[pen].lngColour);
+    return colourOf(job.answers.gudtPens[pen].lngColour);
 }
 
 void drawTile(QPainter& painter) {

@@ -3,7 +3,7 @@
 
 #include "base/errors.h"
 #include "base/files.h"
-#include "convert/drawing_run.h"
+#include "commands/drawing_run.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
 #include "prepare/files/drawing_files.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/help_key.h"
 #include "prepare/dialog/before_after.h"
 #include "prepare/dialog/frm_prepare.h"
 #include "prepare/dialog/option_panel.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr int restTime = 250;         // milliseconds
 constexpr QSize roomForFrame(16, 48); // what the window manager puts round the dialog
-constexpr const char* helpProperty = "helpContext";
 
 QPushButton* button(const char* name, const QString& caption, const QString& help) {
     auto* const result = new QPushButton(caption);
@@ -54,7 +54,7 @@ FrmPrepare::FrmPrepare(PrepareSurroundings surroundings, QWidget* parent)
     setObjectName(QStringLiteral("frmPrepare"));
     setWindowTitle(tr("Prepare a Drawing"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    setProperty(helpProperty, m_surroundings.helpContext);
+    setProperty(helpContextProperty, m_surroundings.helpContext);
     setAcceptDrops(true);
     m_rest.setObjectName(QStringLiteral("tmrRest"));
     m_rest.setSingleShot(true);

@@ -23,9 +23,9 @@ std::array<PenLook, penCount> makeLooks() {
     std::array<PenLook, penCount> looks;
     for (int pen = 1; pen <= penCount; ++pen) {
         looks[static_cast<std::size_t>(pen - 1)] = {
-            colourOf(job.gudtPens[pen].lngColour),
+            colourOf(job.answers.gudtPens[pen].lngColour),
             QStringLiteral("%1 %2").arg(pen).arg(
-                QString::fromStdString(job.gudtPens[pen].strColour))};
+                QString::fromStdString(job.answers.gudtPens[pen].strColour))};
     }
     return looks;
 }

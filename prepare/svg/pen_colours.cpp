@@ -60,7 +60,8 @@ int nearestPen(std::uint32_t colour) {
     int nearest = 1;
     double least = HUGE_VAL;
     for (int pen = 1; pen <= penCount; ++pen) {
-        const double d = squaredDistance(wanted, toLab(swapped(job.gudtPens[pen].lngColour)));
+        const double d =
+            squaredDistance(wanted, toLab(swapped(job.answers.gudtPens[pen].lngColour)));
         if (d < least) {
             least = d;
             nearest = pen;

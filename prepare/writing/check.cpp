@@ -67,10 +67,11 @@ void checkWritten(const std::string& text, std::span<const Stroke> strokes, doub
     for (const Stroke& stroke : strokes) {
         Point place = stroke.start;
         for (const Segment& segment : stroke.segments) {
-            const double off = element < static_cast<std::size_t>(job.gudtPaths.count())
-                                   ? difference(job.gudtPaths[static_cast<long>(element) + 1],
-                                                stroke.pen, place, segment)
-                                   : HUGE_VAL;
+            const double off =
+                element < static_cast<std::size_t>(job.drawing.gudtPaths.count())
+                    ? difference(job.drawing.gudtPaths[static_cast<long>(element) + 1], stroke.pen,
+                                 place, segment)
+                    : HUGE_VAL;
             ++element;
             if (!(off <= tolerance))
                 throw RunTimeError(
@@ -80,7 +81,7 @@ void checkWritten(const std::string& text, std::span<const Stroke> strokes, doub
             place = segment.end;
         }
     }
-    if (element != static_cast<std::size_t>(job.gudtPaths.count()))
+    if (element != static_cast<std::size_t>(job.drawing.gudtPaths.count()))
         throw RunTimeError("the prepared drawing was not written, because more elements are read "
                            "back than there are");
 }

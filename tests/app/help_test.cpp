@@ -4,7 +4,7 @@
 #include "app/resources.h"
 #include "base/files.h"
 #include "tests/app/app_fixture.h"
-#include "tools/frm_tool_select.h"
+#include "tools/dialogs/frm_tool_select.h"
 #include "wizard/frm_main.h"
 
 #include <QApplication>
@@ -113,7 +113,7 @@ protected:
         window.show();
         QApplication::setActiveWindow(&window);
         window.ReadFile(pathFromUtf8(TORVIK_SAMPLES "/nameplate.plt"));
-        workshop.job.gsngSafeHeight = 5;
+        workshop.job.answers.gsngSafeHeight = 5;
         press("txtGlob1", Qt::Key_5);
         window.Wizard(1);
         ASSERT_EQ(workshop.job.gintWizardStep, 3);

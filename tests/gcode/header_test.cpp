@@ -30,19 +30,20 @@ TEST(WriteHeader, WritesFieldsAndTools) {
         {"a tool that comes back stands again", [](JobToWrite& w) { w.of(2).intTool = 2; }, "*",
          "*First tool - T1 6.0mm Slot drill;*Second tool - T7 3.0mm Drill;"
          "*Third tool - T1 6.0mm Slot drill;"},
-        {"an empty order has no tool", [](JobToWrite& w) { w.job.gintOrder.fill(0); }, "", ""},
+        {"an empty order has no tool", [](JobToWrite& w) { w.job.answers.gintOrder.fill(0); }, "",
+         ""},
         {"values are trimmed of blanks, tool types are not",
          [](JobToWrite& w) {
-             w.job.gstrHeader[0] = "  \t1 May  ";
-             w.job.gstrHeader[5] = "   ";
-             w.job.gstrHeader[6] = " 100";
+             w.job.answers.gstrHeader[0] = "  \t1 May  ";
+             w.job.answers.gstrHeader[5] = "   ";
+             w.job.answers.gstrHeader[6] = " 100";
              w.tools.gudtTools[1].strType = " Drill ";
              w.tools.gudtTools[1].sngDiameter = 6.25F;
          },
          "(", "(Date -  1 May);(Billet Length X - 100mm);(Tool - T1 6.3mm  Drill );"},
         {"line breaks are blanks, letters ISO 8859-1 or question marks, brackets stand",
          [](JobToWrite& w) {
-             w.job.gstrHeader[2] = "M\xC3\xBCller\r\n(\xCE\xA9)";
+             w.job.answers.gstrHeader[2] = "M\xC3\xBCller\r\n(\xCE\xA9)";
              w.tools.gudtTools[1].strType = "Fr\xC3\xA4ser\n8";
          },
          "(", "(Teacher - M\xFCller (?));(Tool - T1 6.0mm Fr\xE4ser 8);"},
@@ -54,9 +55,9 @@ TEST(WriteHeader, WritesFieldsAndTools) {
         EXPECT_TRUE(work.whole) << row.says;
     }
     JobToWrite work(threePens);
-    work.job.gstrHeader[8] = " 12 ";
+    work.job.answers.gstrHeader[8] = " 12 ";
     header(work, "");
-    EXPECT_EQ(work.job.gstrHeader[8], "12");
+    EXPECT_EQ(work.job.answers.gstrHeader[8], "12");
 }
 
 TEST(WriteHeader, StopsWhereItCannotGoOn) {
@@ -73,7 +74,7 @@ TEST(WriteHeader, StopsWhereItCannotGoOn) {
     EXPECT_NE(holes.body(3).find("%;"), std::string::npos);
 
     JobToWrite pens(threePens);
-    pens.job.gintOrder[3] = 9;
+    pens.job.answers.gintOrder[3] = 9;
     EXPECT_EQ(header(pens, "("), "") << "a pen above 8 leaves no tool line";
     JobToWrite missing(threePens);
     missing.of(2).intTool = 4;

@@ -18,10 +18,10 @@ namespace torvik {
 
 struct JobToWrite {
     explicit JobToWrite(std::string drawing) : job(setUpDrawing(std::move(drawing))) {
-        job.gsngSafeHeight = 5;
-        for (Settings& settings : job.gudtSettings)
+        job.answers.gsngSafeHeight = 5;
+        for (Settings& settings : job.answers.gudtSettings)
             settings = {1, 1000, 300, 0, 100, 1, 0, 0, 0, false, false};
-        for (Pen& pen : job.gudtPens)
+        for (Pen& pen : job.answers.gudtPens)
             pen.blnDrill = pen.blnCircles;
         rebuildOrder(job);
         tools.gudtTools = {{1, "Slot drill", 6}, {7, "Drill", 3}, {16385, "Drill", 1}};
@@ -31,7 +31,9 @@ struct JobToWrite {
     }
 
     // The settings of a pen, or of its k-th hole size.
-    Settings& of(int pen, int k = 0) { return job.gudtSettings[job.gudtPens[pen].intSettings + k]; }
+    Settings& of(int pen, int k = 0) {
+        return job.answers.gudtSettings[job.answers.gudtPens[pen].intSettings + k];
+    }
     // Changes settings, "PEN.NAME=VALUE" or "PEN/K.NAME=VALUE", and heights, "NAME=VALUE".
     void change(const std::string& changes) {
         const std::map<std::string, float Settings::*> fields{
@@ -43,10 +45,10 @@ struct JobToWrite {
             {"step", &Settings::sngDepthPerPass},
             {"final", &Settings::sngFinalPassDepth},
             {"dwell", &Settings::sngDwell}};
-        const std::map<std::string, float Job::*> heights{
-            {"toolChange", &Job::gsngToolChangeHeight},
-            {"safe", &Job::gsngSafeHeight},
-            {"down", &Job::gsngRapidDownTo}};
+        const std::map<std::string, float Answers::*> heights{
+            {"toolChange", &Answers::gsngToolChangeHeight},
+            {"safe", &Answers::gsngSafeHeight},
+            {"down", &Answers::gsngRapidDownTo}};
         std::istringstream words(changes);
         for (std::string word; words >> word;) {
             const auto equals = word.find('=');
@@ -54,7 +56,7 @@ struct JobToWrite {
             const auto dot = word.substr(0, equals).find('.');
             const std::string name = word.substr(dot + 1, equals - dot - 1);
             if (dot == std::string::npos) {
-                job.*heights.at(name) = value;
+                job.answers.*heights.at(name) = value;
                 continue;
             }
             Settings& settings = of(word[0] - '0', dot == 3 ? word[2] - '0' : 0);

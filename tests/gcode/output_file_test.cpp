@@ -24,8 +24,8 @@ TEST(WriteFile, WritesProgramAndTextBesideIt) {
 #else
     const std::string folderOfDrawing = "/drawings/";
 #endif
-    work.job.gstrPlotFile = folderOfDrawing + "Ha\xC3\xBC\xCE\xA9.plt";
-    work.job.gintLineNumber = 70;
+    work.job.drawing.gstrPlotFile = folderOfDrawing + "Ha\xC3\xBC\xCE\xA9.plt";
+    work.job.output.gintLineNumber = 70;
     ASSERT_EQ(WriteFile(work.job, work.tools, targetWinCam, 12, program, work.logger),
               WriteOutcome::written);
     EXPECT_EQ(contents(program), "%MPF12\r\nN1 G54\r\nN2 G97 G94\r\nN3 G58 X0 Y0 Z0\r\n"
@@ -55,7 +55,7 @@ TEST(WriteFile, ReportsAFailureOnce) {
     for (const auto& row : rows)
         for (const std::int16_t target : {targetWinNc, targetMaskor}) {
             JobToWrite work(row.drawing);
-            work.job.gstrHeader[headerPartName] = std::string(row.nameLength, 'x');
+            work.job.answers.gstrHeader[headerPartName] = std::string(row.nameLength, 'x');
             EXPECT_EQ(WriteFile(work.job, work.tools, target, 1, "/dev/full", work.logger),
                       WriteOutcome::failed)
                 << row.says;
@@ -83,7 +83,7 @@ TEST(WriteFile, TellsWhichFileFails) {
 #ifndef _WIN32
     std::filesystem::create_symlink("/dev/full", folder.path() / "oprg2.txt");
     work.reports.clear();
-    work.job.gstrHeader[headerPartName] = std::string(300000, 'x');
+    work.job.answers.gstrHeader[headerPartName] = std::string(300000, 'x');
     EXPECT_EQ(WriteFile(work.job, work.tools, targetWinNc, 2, folder.path() / "oprg2", work.logger),
               WriteOutcome::failed);
     EXPECT_EQ(std::count(work.reports.begin(), work.reports.end(), ';'), 1) << work.reports;

@@ -87,8 +87,8 @@ TEST(WriteGcodes, ChangesToolsAndSpeeds) {
     expectBodies(rows);
 
     JobToWrite work(twoLines);
-    work.job.gintOrder[1] = -3;
-    work.job.gintOrder[8] = 9;
+    work.job.answers.gintOrder[1] = -3;
+    work.job.answers.gintOrder[8] = 9;
     expectBody({"empty entries are skipped, a pen above 8 ends after those before it", "", "",
                 targetMaskor, start + secondLine.substr(9),
                 "there is no entry number 9 (the list runs from 1 to 8);"},
@@ -132,14 +132,14 @@ TEST(WriteGcodes, CutsPaths) {
     expectBodies(rows);
 
     JobToWrite other("SP1;PU400,400;PD0,400;PU0,0;PD400,0");
-    other.job.gudtPaths[1].intType = 4;
+    other.job.drawing.gudtPaths[1].intType = 4;
     expectBody({"paths of another kind are passed over, their moves too", "", "", targetMaskor,
                 start + cutLine + end},
                other);
     JobToWrite arcs("SP1;PU400,0;AA0,0,-90;AA0,0,90");
     arcs.body(targetMaskor);
-    EXPECT_EQ(arcs.job.gudtPaths[1].sngOffsetI, -10);
-    EXPECT_EQ(arcs.job.gudtPaths[2].sngOffsetJ, 10);
+    EXPECT_EQ(arcs.job.drawing.gudtPaths[1].sngOffsetI, -10);
+    EXPECT_EQ(arcs.job.drawing.gudtPaths[2].sngOffsetJ, 10);
 }
 
 TEST(WriteGcodes, DrillsHoles) {
@@ -174,7 +174,7 @@ TEST(WriteGcodes, DrillsHoles) {
     };
     for (const auto& size : sizes) {
         JobToWrite work(twoHoles);
-        work.job.gudtPens[1].sngRadii = {size.first, size.second};
+        work.job.answers.gudtPens[1].sngRadii = {size.first, size.second};
         expectBody({size.says, "", "", targetMaskor, start + size.holes + end}, work);
     }
 }

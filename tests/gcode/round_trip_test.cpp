@@ -97,11 +97,11 @@ TEST_P(RoundTrip, GivesThePathsOfEachPass) {
     for (std::size_t i = 0; i < cuts.size(); ++i) {
         EXPECT_EQ(cuts[i].z, levels[i / 90]);
         EXPECT_EQ(cuts[i].words.at('F') / cuts[0].words.at('F'), i / 90 == 3 ? 6 : 1);
-        expectPath(cuts[i], work.job.gudtPaths[static_cast<long>(i % 90) + 1]);
+        expectPath(cuts[i], work.job.drawing.gudtPaths[static_cast<long>(i % 90) + 1]);
     }
     ASSERT_EQ(bottoms.size(), 20U);
     for (long i = 0; i < 20; ++i) {
-        const Path& circle = work.job.gudtPaths[i < 10 ? 91 + 2 * i : 72 + 2 * i];
+        const Path& circle = work.job.drawing.gudtPaths[i < 10 ? 91 + 2 * i : 72 + 2 * i];
         EXPECT_NEAR(bottoms[static_cast<std::size_t>(i)].x, circle.sngCentreX, near);
         EXPECT_NEAR(bottoms[static_cast<std::size_t>(i)].y, circle.sngCentreY, near);
     }

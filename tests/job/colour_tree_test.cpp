@@ -39,14 +39,14 @@ TEST(CreateTree, ShowsEachUsedPenAndItsHoleSizes) {
     for (const auto& row : rows) {
         // Diameters of 3.05 mm, which as a single is a little more than a half, and of 10 mm.
         Job job = setUpDrawing("SP4;PD1,1;SP1;CI200;CI61");
-        for (Pen* pen : {&job.gudtPens[1], &job.gudtPens[4]}) {
+        for (Pen* pen : {&job.answers.gudtPens[1], &job.answers.gudtPens[4]}) {
             pen->blnOmit = row.omit;
             pen->blnDrill = row.drill;
-            job.gudtSettings[pen->intSettings].blnComplete = row.complete;
+            job.answers.gudtSettings[pen->intSettings].blnComplete = row.complete;
         }
-        job.gudtColourTree.emplace_back();
+        job.position.gudtColourTree.emplace_back();
         CreateTree(job, logger);
-        EXPECT_EQ(described(job.gudtColourTree), row.tree) << row.says;
+        EXPECT_EQ(described(job.position.gudtColourTree), row.tree) << row.says;
     }
 }
 

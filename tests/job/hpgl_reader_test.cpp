@@ -26,7 +26,7 @@ std::string point(float x, float y) {
 // "PEN START>END; ..." and for arcs "PEN START>END ccw CENTRE r RADIUS FROM..TO; ..." (or "cw").
 std::string described(const Job& job) {
     std::string text;
-    for (const Path& path : job.gudtPaths) {
+    for (const Path& path : job.drawing.gudtPaths) {
         text += text.empty() ? "" : "; ";
         text += std::to_string(path.intPen) + " " + point(path.sngStartX, path.sngStartY) + ">" +
                 point(path.sngEndX, path.sngEndY);
@@ -135,12 +135,12 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
         ASSERT_TRUE(read("SP1;PD40,40"));
         EXPECT_FALSE(read(row.drawing));
         EXPECT_EQ(causes.back(), name + row.cause);
-        EXPECT_EQ(job.gintPathCount + job.gudtPaths.count(), 0);
-        EXPECT_EQ(job.gstrPlotFile, "");
-        EXPECT_FALSE(job.gblnUnsaved);
+        EXPECT_EQ(job.drawing.gintPathCount + job.drawing.gudtPaths.count(), 0);
+        EXPECT_EQ(job.drawing.gstrPlotFile, "");
+        EXPECT_FALSE(job.output.gblnUnsaved);
     }
     EXPECT_TRUE(read(full));
-    EXPECT_EQ(job.gintPathCount, 32767);
+    EXPECT_EQ(job.drawing.gintPathCount, 32767);
     std::filesystem::remove(name);
     EXPECT_FALSE(blnGetCommands(job, name, logger));
     EXPECT_EQ(causes.back(), name + ": the file does not exist");
@@ -149,22 +149,29 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
 
 TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
     job = setUpDrawing("SP3;CI40;SP4;PD1,1");
-    job.gudtPens[3].blnDrill = job.gudtPens[4].blnOmit = job.gblnOrderSet = true;
-    job.gsngToolChangeHeight = job.gsngSafeHeight = job.gsngRapidDownTo = job.gsngFeedFactor = 60;
-    job.gintLineNumber = job.gintCurrentPen = job.gintOrder[1] = job.gintOrderCount = 3;
-    job.gstrHeader[headerDesigner] = "Ada";
-    job.gudtColourTree.emplace_back();
+    job.answers.gudtPens[3].blnDrill = job.answers.gudtPens[4].blnOmit = job.answers.gblnOrderSet =
+        true;
+    job.answers.gsngToolChangeHeight = job.answers.gsngSafeHeight = job.answers.gsngRapidDownTo =
+        job.answers.gsngFeedFactor = 60;
+    job.output.gintLineNumber = job.position.gintCurrentPen = job.answers.gintOrder[1] =
+        job.answers.gintOrderCount = 3;
+    job.answers.gstrHeader[headerDesigner] = "Ada";
+    job.position.gudtColourTree.emplace_back();
     ASSERT_TRUE(read("SP1;CI;CI40;SP0"));
-    EXPECT_EQ(job.gstrPlotFile, name);
-    EXPECT_TRUE(job.gblnUnsaved);
-    EXPECT_EQ(job.gintPathCount, 2);
-    EXPECT_EQ(std::tuple(job.gsngToolChangeHeight, job.gsngSafeHeight, job.gsngRapidDownTo,
-                         job.gsngFeedFactor),
+    EXPECT_EQ(job.drawing.gstrPlotFile, name);
+    EXPECT_TRUE(job.output.gblnUnsaved);
+    EXPECT_EQ(job.drawing.gintPathCount, 2);
+    EXPECT_EQ(std::tuple(job.answers.gsngToolChangeHeight, job.answers.gsngSafeHeight,
+                         job.answers.gsngRapidDownTo, job.answers.gsngFeedFactor),
               std::tuple(50, 0, 2, 0));
-    EXPECT_EQ(job.gintLineNumber + job.gintCurrentPen + job.gintOrder[1] + job.gintOrderCount, 0);
-    EXPECT_FALSE(job.gudtPens[3].blnDrill || job.gudtPens[4].blnOmit || job.gblnOrderSet);
-    EXPECT_EQ(job.gintSettingsCount + job.gudtSettings.count(), 0);
-    EXPECT_TRUE(job.gstrHeader[headerDesigner].empty() && job.gudtColourTree.empty());
+    EXPECT_EQ(job.output.gintLineNumber + job.position.gintCurrentPen + job.answers.gintOrder[1] +
+                  job.answers.gintOrderCount,
+              0);
+    EXPECT_FALSE(job.answers.gudtPens[3].blnDrill || job.answers.gudtPens[4].blnOmit ||
+                 job.answers.gblnOrderSet);
+    EXPECT_EQ(job.answers.gintSettingsCount + job.answers.gudtSettings.count(), 0);
+    EXPECT_TRUE(job.answers.gstrHeader[headerDesigner].empty() &&
+                job.position.gudtColourTree.empty());
     EXPECT_TRUE(causes.empty());
     EXPECT_NE(readWholeFile(folder.path() / "log", 10000)
                   .find("error sngArcCos (modHpgl): a number was divided by zero"),

@@ -12,7 +12,7 @@ namespace {
 std::string described(const Job& job) {
     std::string text;
     for (std::int16_t number = 1; number <= penCount; ++number) {
-        const Pen& pen = job.gudtPens[number];
+        const Pen& pen = job.answers.gudtPens[number];
         if (!pen.blnUsed)
             continue;
         text += std::to_string(number) + "@" + std::to_string(pen.intSettings);
@@ -21,7 +21,7 @@ std::string described(const Job& job) {
             text += " " + formatFixed(pen.sngRadii[k], 3);
         text += "; ";
     }
-    return text + std::to_string(job.gudtSettings.count());
+    return text + std::to_string(job.answers.gudtSettings.count());
 }
 
 TEST(SetUpPens, MakesAGroupForEachPenAndEachOfItsCircleSizes) {
@@ -52,21 +52,23 @@ TEST(SetUpPens, MakesAGroupForEachPenAndEachOfItsCircleSizes) {
     for (const auto& row : rows)
         EXPECT_EQ(described(setUpDrawing(row.drawing)), row.pens) << row.says;
     const Job job = setUpDrawing("SP1;PU4,0;AA0,0,90;SP2;PU4,0;PD0,0;AA1,0,90");
-    EXPECT_EQ(job.gintPenCount, 2);
-    EXPECT_EQ(job.gudtPaths[1].sngAngleTo, job.gudtPaths[1].sngAngleFrom) << "a full turn";
-    EXPECT_NE(job.gudtPaths[3].sngAngleTo, job.gudtPaths[3].sngAngleFrom) << "not looked at";
+    EXPECT_EQ(job.answers.gintPenCount, 2);
+    EXPECT_EQ(job.drawing.gudtPaths[1].sngAngleTo, job.drawing.gudtPaths[1].sngAngleFrom)
+        << "a full turn";
+    EXPECT_NE(job.drawing.gudtPaths[3].sngAngleTo, job.drawing.gudtPaths[3].sngAngleFrom)
+        << "not looked at";
 }
 
 TEST(SetUpPens, StopsAtAPenOutside1To8) {
     Job job = setUpDrawing("SP1;CI40;SP2;PD1,1");
-    job.gudtPaths[2].intPen = 9;
+    job.drawing.gudtPaths[2].intPen = 9;
     std::string said;
     Logger logger({}, [&](const ErrorReport& report) { said = report.message(); });
     EXPECT_FALSE(SetUpPens(job, logger));
     EXPECT_EQ(said, "An error has occurred in SetUpPens (modHpgl):\n"
                     "there is no entry number 9 (the list runs from 1 to 8).");
     EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "as it was";
-    job.gudtPaths[2].intPen = 2;
+    job.drawing.gudtPaths[2].intPen = 2;
     EXPECT_TRUE(SetUpPens(job, logger));
     EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "a second time from the start";
 }
@@ -74,34 +76,34 @@ TEST(SetUpPens, StopsAtAPenOutside1To8) {
 TEST(SetUpPens, StopsWhereTheGroupsExceed16Bits) {
     Job job;
     for (std::int16_t i = 0; i < 32767; ++i)
-        job.gudtPaths.append(
+        job.drawing.gudtPaths.append(
             {.intType = arcCounterClockwise, .intPen = 1, .sngRadius = 1 + static_cast<float>(i)});
-    job.gintPathCount = 32767;
+    job.drawing.gintPathCount = 32767;
     Logger logger;
     EXPECT_FALSE(SetUpPens(job, logger));
-    EXPECT_EQ(job.gudtSettings.count(), 32767);
+    EXPECT_EQ(job.answers.gudtSettings.count(), 32767);
 }
 
 TEST(SortPaths, KeepsFileOrderAmongEqualKeys) {
     Job job = readDrawing("SP1;PD1,1;PD2,2;PD3,3;PD4,4;PD5,5");
     const float keys[] = {3, 1, 2, 1, 3};
     for (std::int16_t i = 1; i <= 5; ++i)
-        job.gudtPaths[i].sngSortKey = keys[i - 1];
+        job.drawing.gudtPaths[i].sngSortKey = keys[i - 1];
     Logger logger;
     EXPECT_TRUE(SortPaths(job, logger));
-    EXPECT_EQ(job.gintPathOrder, (OneBasedArray<std::int16_t>{2, 4, 3, 1, 5}));
+    EXPECT_EQ(job.drawing.gintPathOrder, (OneBasedArray<std::int16_t>{2, 4, 3, 1, 5}));
     ClearData(job);
     EXPECT_TRUE(SortPaths(job, logger));
-    EXPECT_EQ(job.gintPathOrder.count(), 0);
+    EXPECT_EQ(job.drawing.gintPathOrder.count(), 0);
 }
 
 TEST(RebuildOrder, HoldsTheMachinedPensInPenOrder) {
     Job job = setUpDrawing("SP7;PD1,1;SP5;PD1,2;SP2;PD1,1");
-    job.gudtPens[5].blnOmit = true;
-    job.gintOrder.fill(7);
+    job.answers.gudtPens[5].blnOmit = true;
+    job.answers.gintOrder.fill(7);
     rebuildOrder(job);
-    EXPECT_EQ(job.gintOrderCount, 2);
-    EXPECT_EQ(std::vector(job.gintOrder.begin(), job.gintOrder.end()),
+    EXPECT_EQ(job.answers.gintOrderCount, 2);
+    EXPECT_EQ(std::vector(job.answers.gintOrder.begin(), job.answers.gintOrder.end()),
               (std::vector<std::int16_t>{2, 7, 0, 0, 0, 0, 0, 0}));
 }
 

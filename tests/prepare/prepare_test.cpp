@@ -36,7 +36,7 @@ std::vector<Element> read(const std::string& text) {
     Logger logger;
     readInstructions(job, text, "", logger);
     std::vector<Element> elements;
-    for (const Path& path : job.gudtPaths) {
+    for (const Path& path : job.drawing.gudtPaths) {
         Element element{path.intPen, {path.sngStartX, path.sngStartY}, {}};
         element.segment = lineSegment({path.sngEndX, path.sngEndY});
         if (path.intType != straightLine) {

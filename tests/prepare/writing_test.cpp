@@ -56,13 +56,13 @@ TEST(Writer, IsReadBackByTheJobsReaderToTheLastInstruction) {
     Job job;
     Logger logger;
     readInstructions(job, text, "", logger);
-    ASSERT_EQ(job.gintPathCount, 5);
-    EXPECT_FLOAT_EQ(job.gudtPaths[1].sngCentreX, 2.5F);
-    EXPECT_FLOAT_EQ(job.gudtPaths[1].sngStartY, 200.1234F / 40 + 12.5F / 40);
+    ASSERT_EQ(job.drawing.gintPathCount, 5);
+    EXPECT_FLOAT_EQ(job.drawing.gudtPaths[1].sngCentreX, 2.5F);
+    EXPECT_FLOAT_EQ(job.drawing.gudtPaths[1].sngStartY, 200.1234F / 40 + 12.5F / 40);
     // After the circle the reader stands at its top: the next stroke begins at its own place.
-    EXPECT_FLOAT_EQ(job.gudtPaths[2].sngStartX, 10.5F / 40);
-    EXPECT_FLOAT_EQ(job.gudtPaths[4].sngStartX, 130.0F / 40);
-    EXPECT_FLOAT_EQ(job.gudtPaths[5].sngStartY, 50.0F / 40);
+    EXPECT_FLOAT_EQ(job.drawing.gudtPaths[2].sngStartX, 10.5F / 40);
+    EXPECT_FLOAT_EQ(job.drawing.gudtPaths[4].sngStartX, 130.0F / 40);
+    EXPECT_FLOAT_EQ(job.drawing.gudtPaths[5].sngStartY, 50.0F / 40);
 }
 
 // Single precision drifts along many arcs; the reader is led back before it can be seen.

@@ -35,7 +35,7 @@ TEST_P(LinePictureTest, ALineErasedAndDrawnAgainLeavesThePictureAsItWas) {
 
 TEST_P(LinePictureTest, HiddenPathsLeaveNoTraceAndNoGap) {
     Job others = job;
-    others.gudtPens[1].blnOmit = true; // never drawn at all
+    others.answers.gudtPens[1].blnOmit = true; // never drawn at all
     LinePicture expected;
     const int side = static_cast<int>(200 * GetParam());
     expected.PlotLines(others, plainView(4, 200, GetParam()), {side, side});

@@ -33,8 +33,8 @@ struct Group {
 inline Job machinedDrawing(std::string text, const std::vector<Group>& groups) {
     Job job = setUpDrawing(std::move(text));
     for (long i = 1; i <= static_cast<long>(groups.size()); ++i) {
-        job.gudtSettings[i].intTool = groups[static_cast<std::size_t>(i - 1)].tool;
-        job.gudtSettings[i].sngDepth = groups[static_cast<std::size_t>(i - 1)].depth;
+        job.answers.gudtSettings[i].intTool = groups[static_cast<std::size_t>(i - 1)].tool;
+        job.answers.gudtSettings[i].sngDepth = groups[static_cast<std::size_t>(i - 1)].depth;
     }
     return job;
 }

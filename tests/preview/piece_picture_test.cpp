@@ -76,11 +76,11 @@ TEST(DrawPiece, ShowsJustWhatTheToolTouches) {
     for (const ShapeCase& row : cases) {
         SCOPED_TRACE(row.name);
         Job job = machinedDrawing(row.drawing, {{1, 2}});
-        for (Settings& settings : job.gudtSettings)
-            settings = job.gudtSettings[1];
-        job.gudtPens[1].blnDrill = row.drill;
+        for (Settings& settings : job.answers.gudtSettings)
+            settings = job.answers.gudtSettings[1];
+        job.answers.gudtPens[1].blnDrill = row.drill;
         const Painted painted = paint(job, tools);
-        const Path& path = job.gudtPaths[1];
+        const Path& path = job.drawing.gudtPaths[1];
         int wrong = 0;
         for (int y = 0; y < side; y += 3)
             for (int x = 0; x < side; x += 3) {
@@ -101,7 +101,7 @@ TEST(DrawPiece, DeeperWorkLiesOverShallowerAndHolesKeepTheirRims) {
     // Holes 1 mm deep, on one of which a line 5 mm deep ends; drawn first in the file.
     Job job = machinedDrawing("SP1;PU400,1000;PD1000,1000;SP2;PU1000,1000;CI200;PU1600,1600;CI200",
                               {{1, 5}, {0, 0}, {2, 1}});
-    job.gudtPens[2].blnDrill = true;
+    job.answers.gudtPens[2].blnDrill = true;
     const Painted painted = paint(job, toolsOf({2, 10}));
     EXPECT_EQ(painted.at(25, 25), grey(16));      // the line's end within the hole
     EXPECT_EQ(painted.at(27, 27.5), grey(208));   // the hole beside it
@@ -139,7 +139,7 @@ TEST(DrawPiece, AToolThinnerThanAPixelStillShows) {
 TEST(DrawPiece, LeftOutPensAreNeitherDrawnNorInTheLegend) {
     Job job =
         machinedDrawing("SP1;PU200,1000;PD1800,1000;SP2;PU1000,200;PD1000,1800", {{1, 3}, {1, 7}});
-    job.gudtPens[2].blnOmit = true;
+    job.answers.gudtPens[2].blnOmit = true;
     const Painted painted = paint(job, toolsOf({2}));
     EXPECT_EQ(painted.at(25, 10), white);
     EXPECT_EQ(painted.at(10, 25), grey(0xC0));

@@ -114,8 +114,8 @@ TEST(GetPieceScale, WidensEachPathByItsTool) {
     Job job = machinedDrawing("SP1;PU400,400;PD4400,2400;SP2;PU400,400;PD8000,2400;"
                               "SP4;PU200,2000;CI400",
                               {{1, 4}, {0, 9}, {0, 0}, {2, 2.5F}});
-    job.gudtPens[2].blnOmit = true;
-    job.gudtPens[4].blnDrill = true;
+    job.answers.gudtPens[2].blnOmit = true;
+    job.answers.gudtPens[4].blnDrill = true;
     Logger logger;
     PieceScale piece;
     ASSERT_TRUE(GetPieceScale(job, toolsOf({6, 3}), frame, piece, logger));
@@ -131,7 +131,7 @@ TEST(GetPieceScale, WidensEachPathByItsTool) {
 
 TEST(GetPieceScale, NamesTheGroupWithoutATool) {
     Job job = machinedDrawing("SP4;PU2000,2000;CI200;CI100", {{0, 0}, {2, 1}, {1, 1}});
-    job.gudtPens[4].blnDrill = true;
+    job.answers.gudtPens[4].blnDrill = true;
     std::string message;
     Logger logger({}, [&](const ErrorReport& report) { message = report.message(); });
     PieceScale piece;

@@ -162,7 +162,7 @@ TEST_F(PreviewWidgetTest, WhatWasClearedStaysEmptyAtAnySize) {
 TEST_F(PreviewWidgetTest, AGroupWithoutAToolIsReportedAndLeavesTheFrameEmpty) {
     read(plate, {{1, 2}});
     preview.DrawPiece();
-    job.gudtSettings[1].intTool = 0;
+    job.answers.gudtSettings[1].intTool = 0;
     preview.DrawPiece();
     ASSERT_EQ(reports.size(), 1U);
     EXPECT_EQ(reports[0], "An error has occurred in GetPieceScale (modHpgl):\n"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/tools/tool_dialogs_fixture.h"
+#include "tests/tools/dialogs/tool_dialogs_fixture.h"
 #include "tools/tool_edits.h"
 
 namespace torvik {

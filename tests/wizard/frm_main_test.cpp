@@ -77,7 +77,7 @@ TEST_F(FrmMainTest, EveryRoadFromStepOneOpensTheFileDialogAfterItsEvent) {
         window->Wizard(-1);
         settle();
     }
-    EXPECT_FALSE(job.gblnUnsaved);
+    EXPECT_FALSE(job.output.gblnUnsaved);
 }
 
 TEST_F(FrmMainTest, ADrawingWithItsAnswersPassesByNextAloneAndBackAgain) {
@@ -152,8 +152,8 @@ TEST_F(FrmMainTest, BackFromStepTwoKeepsAllAnswersForTheSameDrawingAlone) {
         click("cmdNext");
         type("txtDet0", "4000");
         click("optCut1"); // left out, with what was typed
-        job.gintOrder[1] = 4;
-        job.gstrHeader[headerDesigner] = "Jo";
+        job.answers.gintOrder[1] = 4;
+        job.answers.gstrHeader[headerDesigner] = "Jo";
         click("cmdBack");
         messages.answers = {buttonYes};
         answers.expect("dlgOpen", DialogAnswers::cancel);
@@ -162,7 +162,7 @@ TEST_F(FrmMainTest, BackFromStepTwoKeepsAllAnswersForTheSameDrawingAlone) {
                                    "saving the current file as G-codes?");
         EXPECT_EQ(shown(), "picOpening Start");
         EXPECT_FALSE(find<QLabel>("lblColours").isVisible());
-        EXPECT_TRUE(job.gblnUnsaved);
+        EXPECT_TRUE(job.output.gblnUnsaved);
 
         if (then == Then::changed)
             folder.file("drawing.plt", std::string(threePens) + "PD10,10;");
@@ -175,13 +175,13 @@ TEST_F(FrmMainTest, BackFromStepTwoKeepsAllAnswersForTheSameDrawingAlone) {
         messages.take();
         const bool kept = then == Then::same;
         EXPECT_EQ(text("txtGlob1"), kept ? "5" : "");
-        EXPECT_EQ(job.gudtPens[1].blnOmit, kept);
-        EXPECT_EQ(job.gudtSettings[1].sngSpindleSpeed, kept ? 4000 : 0);
-        EXPECT_EQ(job.gintOrder[1], kept ? 4 : 0);
-        EXPECT_EQ(job.gstrHeader[headerDesigner], kept ? "Jo" : "");
+        EXPECT_EQ(job.answers.gudtPens[1].blnOmit, kept);
+        EXPECT_EQ(job.answers.gudtSettings[1].sngSpindleSpeed, kept ? 4000 : 0);
+        EXPECT_EQ(job.answers.gintOrder[1], kept ? 4 : 0);
+        EXPECT_EQ(job.answers.gstrHeader[headerDesigner], kept ? "Jo" : "");
         EXPECT_EQ(find<QTreeWidget>("tvwColours").topLevelItem(0)->toolTip(0),
                   kept ? "Black: left out" : "Black: lines to cut");
-        job.gblnUnsaved = false;
+        job.output.gblnUnsaved = false;
     }
 }
 
@@ -192,8 +192,8 @@ TEST_F(FrmMainTest, ARefusedDrawingLeavesNothingBehind) {
     EXPECT_EQ(std::exchange(errors, {}).size(), 1U);
     EXPECT_EQ(shown() + caption(), "picOpening StartTorvik");
     EXPECT_EQ(treeRows(), 0);
-    EXPECT_FALSE(job.gblnUnsaved);
-    EXPECT_EQ(job.gstrPlotFile, "");
+    EXPECT_FALSE(job.output.gblnUnsaved);
+    EXPECT_EQ(job.drawing.gstrPlotFile, "");
     window->resize(1300, 900);
     settle();
     EXPECT_FALSE(showsPicture());
@@ -225,7 +225,7 @@ TEST_F(FrmMainTest, OpenLeavesThePageAloneUntilAnotherDrawingIsIn) {
         openFromMenu(buttonYes, DialogAnswers::cancel);
         EXPECT_EQ(shown(), before);
         EXPECT_EQ(isFlashing(), step == 3);
-        EXPECT_EQ(job.gstrPlotFile, drawing.string());
+        EXPECT_EQ(job.drawing.gstrPlotFile, drawing.string());
         EXPECT_TRUE(step != 3 || text("txtDet0") == "3456");
         openFromMenu(buttonYes, DialogAnswers::file(other));
         EXPECT_EQ(shown(), "picGlobals Back -Next");
@@ -241,15 +241,15 @@ TEST_F(FrmMainTest, RecentDrawingsAreOfferedNewestFirstWhileTheyExist) {
     const auto second = folder.file("second.plt", "SP1;PD40,40;");
     start();
     for (const auto& name : {first, second, first}) {
-        job.gblnUnsaved = false;
+        job.output.gblnUnsaved = false;
         window->ReadFile(name);
     }
     ASSERT_EQ(recent().size(), 2);
     EXPECT_EQ(recent()[0]->text(), "&1  Nuts && bolts.plt");
-    job.gblnUnsaved = false;
+    job.output.gblnUnsaved = false;
     recent()[1]->trigger();
     settle();
-    EXPECT_EQ(job.gstrPlotFile, second.string());
+    EXPECT_EQ(job.drawing.gstrPlotFile, second.string());
     std::filesystem::remove(second);
     EXPECT_EQ(recent().size(), 1);
 }
@@ -283,7 +283,7 @@ TEST_F(FrmMainTest, ADroppedDrawingIsOpenedUnlessADialogWaits) {
     click("cmdStart");
     EXPECT_EQ(shown(), "picOpening Start");
     EXPECT_TRUE(drop({drawing}));
-    EXPECT_EQ(job.gstrPlotFile, drawing.string());
+    EXPECT_EQ(job.drawing.gstrPlotFile, drawing.string());
     answers.expect("frmPrepare", [](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLabel*>("lblSource")->text(), "Part.HPGL");
         dialog.reject();
@@ -340,8 +340,8 @@ TEST_F(FrmMainTest, APreparedDrawingIsOpenedTheOrdinaryWay) {
               "Drawing saved|36|The prepared drawing is saved as\n" + prepared.string() +
                   "\n\nDo you want to open it now?Open file|36|Are you sure you want to open a "
                   "file\nwithout saving the current file as G-codes?");
-    EXPECT_EQ(job.gstrPlotFile, prepared.string());
-    EXPECT_EQ(job.gintPathCount, 2);
+    EXPECT_EQ(job.drawing.gstrPlotFile, prepared.string());
+    EXPECT_EQ(job.drawing.gintPathCount, 2);
     EXPECT_FALSE(find<QPushButton>("cmdSkipped").isVisible());
 }
 
@@ -351,7 +351,7 @@ TEST_F(FrmMainTest, ClosingAsksWhileNothingIsWritten) {
                                           [&] { find<QAction>("mnuFileExit").trigger(); },
                                           [&] { key(Qt::Key_Q, Qt::ControlModifier); }};
     for (const auto& close : ways) {
-        job.gblnUnsaved = true;
+        job.output.gblnUnsaved = true;
         messages.answers = {buttonNo};
         close();
         settle();
@@ -365,7 +365,7 @@ TEST_F(FrmMainTest, ClosingAsksWhileNothingIsWritten) {
     messages.take();
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(shutdowns, 1);
-    job.gblnUnsaved = false; // nothing to lose, nothing to ask
+    job.output.gblnUnsaved = false; // nothing to lose, nothing to ask
     EXPECT_TRUE(window->CheckClose());
     EXPECT_EQ(shutdowns, 2);
 }
@@ -384,7 +384,7 @@ TEST_F(FrmMainTest, ArrowKeysMoveTheOrderWhateverHasTheFocus) {
     key(Qt::Key_Up);
     EXPECT_EQ(order() + focus(), "Blue Red BlackcmdNext");
     click("cmdNext");
-    EXPECT_EQ(job.gintOrder[1], 4);
+    EXPECT_EQ(job.answers.gintOrder[1], 4);
 }
 
 TEST_F(FrmMainTest, AMachinedGroupWithoutAToolIsNamedBeforeThePiece) {

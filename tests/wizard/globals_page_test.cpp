@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/wizard/pen_page_fixture.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/globals_page.h"
 
 namespace torvik {
@@ -63,13 +63,13 @@ TEST_F(GlobalsPageTest, HeightsAreStoredAsTypedAndShownAsWholeMillimetres) {
         {"a comma is discarded", "1,5", 15, "15"},
         {"what can be read counts", "7.2.3-1", 7.2F, "7"},
     };
-    float Job::*const heights[] = {&Job::gsngToolChangeHeight, &Job::gsngSafeHeight,
-                                   &Job::gsngRapidDownTo};
+    float Answers::*const heights[] = {&Answers::gsngToolChangeHeight, &Answers::gsngSafeHeight,
+                                       &Answers::gsngRapidDownTo};
     for (const Row& row : rows) {
         for (const int i : {0, 1, 2}) {
             type(i, row.typed);
             page.SaveGlobals();
-            EXPECT_EQ(job.*heights[i], row.stored) << row.name;
+            EXPECT_EQ(job.answers.*heights[i], row.stored) << row.name;
             page.RestoreGlobals();
             EXPECT_EQ(box(i).text(), row.shown) << row.name;
         }
@@ -82,13 +82,13 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
     for (const auto& [option, factor, caption] : rows) {
         choose(option);
         page.SaveGlobals();
-        EXPECT_EQ(job.gsngFeedFactor, factor);
-        EXPECT_EQ(job.gstrFeedUnits, caption);
+        EXPECT_EQ(job.answers.gsngFeedFactor, factor);
+        EXPECT_EQ(job.answers.gstrFeedUnits, caption);
         choose(1 - option);
         page.RestoreGlobals();
         EXPECT_TRUE(unit(option).isChecked());
     }
-    job.gsngFeedFactor = 0; // before the first choice
+    job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);
     page.RestoreGlobals();
     EXPECT_TRUE(unit(1).isChecked());

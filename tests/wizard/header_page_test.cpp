@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/wizard/pen_page_fixture.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/header_page.h"
 
 #include <QClipboard>
@@ -13,7 +13,7 @@ using Texts = std::array<const char*, 9>;
 class HeaderPageTest : public testing::Test {
 protected:
     HeaderPageTest() {
-        job.gstrPlotFile = "/drawings/old.parts/Gear wheel.plt";
+        job.drawing.gstrPlotFile = "/drawings/old.parts/Gear wheel.plt";
         page.show();
         QApplication::setActiveWindow(&page);
     }
@@ -22,7 +22,7 @@ protected:
     }
     void fillJob(const Texts& texts) {
         for (std::size_t i = 0; i < texts.size(); ++i)
-            job.gstrHeader[static_cast<long>(i)] = texts[i];
+            job.answers.gstrHeader[static_cast<long>(i)] = texts[i];
         page.fill();
     }
 
@@ -84,7 +84,7 @@ TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnes) {
     EXPECT_EQ(box(3).text(), "[9b] and [9c]");
     fillJob({"1 (May)", "", "", "", "", "", "", "", ""}); // from answers kept by another program
     page.readBoxes();
-    EXPECT_EQ(job.gstrHeader[0] + job.gstrHeader[4], "1 [May]Gear wheel");
+    EXPECT_EQ(job.answers.gstrHeader[0] + job.answers.gstrHeader[4], "1 [May]Gear wheel");
 }
 
 } // namespace

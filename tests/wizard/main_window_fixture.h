@@ -5,7 +5,7 @@
 
 #include "tests/base/temporary_folder.h"
 #include "tests/tools/ini_registry.h"
-#include "tests/wizard/pen_page_fixture.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
 

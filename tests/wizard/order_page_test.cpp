@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/wizard/pen_page_fixture.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/order_page.h"
 
 namespace torvik {
@@ -10,7 +10,7 @@ protected:
     void show(std::initializer_list<int> machined) {
         SetColourDefinitions(job);
         for (const int pen : machined)
-            job.gudtPens[pen].blnUsed = true;
+            job.answers.gudtPens[pen].blnUsed = true;
         job.gintWizardStep = 4;
         page.resize(400, 500);
         page.show();
@@ -29,7 +29,8 @@ protected:
         for (int i = 1; row(i) != nullptr; ++i) {
             const std::string caption = row(i)->text().toStdString();
             text += row(i)->autoFillBackground() ? "[" + caption + "] " : caption + " ";
-            EXPECT_EQ(caption, job.gudtPens[row(i)->property("Tag").toString().toInt()].strColour);
+            EXPECT_EQ(caption,
+                      job.answers.gudtPens[row(i)->property("Tag").toString().toInt()].strColour);
             EXPECT_EQ(picture(i)->accessibleName(), row(i)->text());
         }
         text += button("cmdUp").isEnabled() ? "up " : "";
@@ -38,7 +39,7 @@ protected:
     std::string order() {
         page.readOrder();
         std::string text;
-        for (const std::int16_t pen : job.gintOrder)
+        for (const std::int16_t pen : job.answers.gintOrder)
             text += std::to_string(pen);
         return text;
     }
@@ -52,23 +53,23 @@ protected:
 };
 
 TEST_F(OrderPageTest, AChosenOrderStaysUntilAPenIsSwitched) {
-    job.gintOrder.fill(2); // stale
+    job.answers.gintOrder.fill(2); // stale
     show({1, 3, 4});
     EXPECT_EQ(rows(), "[Black] Green Blue down");
     click(row(3));
     click(&button("cmdUp"));
     EXPECT_EQ(order(), "14300000");
-    EXPECT_TRUE(job.gblnOrderSet);
+    EXPECT_TRUE(job.answers.gblnOrderSet);
     page.ShowOrder(-1);
     EXPECT_EQ(rows(), "[Black] Blue Green down");
-    job.gudtPens[1].blnOmit = true;
-    job.gblnOrderSet = false;
+    job.answers.gudtPens[1].blnOmit = true;
+    job.answers.gblnOrderSet = false;
     page.ShowOrder(1);
     EXPECT_EQ(rows(), "[Green] Blue down");
     EXPECT_EQ(order(), "34000000");
-    EXPECT_EQ(job.gintOrderCount, 2);
-    job.gintOrder.fill(0);
-    job.gintOrder[2] = 4; // behind an entry without a pen
+    EXPECT_EQ(job.answers.gintOrderCount, 2);
+    job.answers.gintOrder.fill(0);
+    job.answers.gintOrder[2] = 4; // behind an entry without a pen
     page.ShowOrder(1);
     EXPECT_EQ(order(), "40000000");
 }

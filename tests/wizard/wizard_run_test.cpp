@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Whole runs from an opened drawing to the written programs, once with the mouse and once with keys
 // alone. What was written is what the answers kept beside it say.
+#include "answers/import_drawing.h"
 #include "base/files.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_output.h"
 #include "tests/wizard/main_window_fixture.h"
-#include "wizard/import_drawing.h"
 
 #include <QTableWidget>
 
@@ -19,7 +19,7 @@ protected:
     void startFresh(const std::string& name) {
         startSample(name);
         std::filesystem::remove(folder.path() / "PlotSave" / (name + ".plx"));
-        job.gblnUnsaved = false;
+        job.output.gblnUnsaved = false;
         window->ReadFile(drawing);
         settle();
     }
@@ -121,7 +121,7 @@ TEST_F(WizardRunTest, ADrawingWithCutDrilledAndLeftOutPensGoesToAllTargets) {
         EXPECT_EQ(written, expected(target, 9)) << target;
         EXPECT_EQ(written.find("T5"), std::string::npos) << "the left-out pen's tool";
     }
-    EXPECT_FALSE(job.gblnUnsaved);
+    EXPECT_FALSE(job.output.gblnUnsaved);
 
     // The same drawing again: everything is there.
     answers.expect("dlgSave", DialogAnswers::file(folder.path() / "c.iso"));
@@ -129,7 +129,7 @@ TEST_F(WizardRunTest, ADrawingWithCutDrilledAndLeftOutPensGoesToAllTargets) {
     click("cmdNext");
     open(drawing);
     go(6);
-    EXPECT_TRUE(job.gudtPens[4].blnOmit);
+    EXPECT_TRUE(job.answers.gudtPens[4].blnOmit);
     answers.expect("dlgSave", DialogAnswers::file(folder.path() / "d.iso"));
     answers.expect("frmMenu", DialogAnswers::press("cmdClose"));
     click("cmdNext");
@@ -191,7 +191,7 @@ TEST_F(WizardRunTest, ADrawingGoesThroughByKeysAlone) {
     });
     key(Qt::Key_Return);
     EXPECT_EQ(readWholeFile(folder.path() / "nameplate.mxc", 1 << 20), expected(targetMaskor, 0));
-    EXPECT_EQ(job.gintOrder[1], 2);
+    EXPECT_EQ(job.answers.gintOrder[1], 2);
     EXPECT_EQ(shown(), "picOutput Back Next");
 }
 

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "answers/pen_checks.h"
+
+#include "answers/pen_values.h"
+#include "base/picture.h"
+
+#include <cmath>
+
+namespace torvik {
+namespace {
+
+constexpr const char* usualFinalPass = "0.15"; // mm
+
+void closeRow(PenBoxes& boxes, std::size_t row) {
+    boxes.text[row].clear();
+    boxes.enabled[row] = false;
+}
+
+void openRow(PenBoxes& boxes, std::size_t row, const std::string& usual) {
+    boxes.enabled[row] = true;
+    if (boxes.text[row].empty())
+        boxes.text[row] = usual;
+}
+
+std::optional<InputFault> relationFault(const PenBoxes& boxes, PenForm form) {
+    const auto less = [&](std::size_t row, std::size_t than) {
+        return boxNumber(boxes.text[row]) < boxNumber(boxes.text[than]);
+    };
+    if (form == PenForm::drilling) {
+        if (less(rowHoleDepth, rowPeck))
+            return InputFault{rowPeck,
+                              "The Peck Distance may not be greater than the Depth of Hole"};
+        return std::nullopt;
+    }
+    if (less(rowDepth, rowPass))
+        return InputFault{rowPass,
+                          "The Maximum Depth per Pass may not be greater than the Final Depth"};
+    if (less(rowPass, rowFinalPass))
+        return InputFault{
+            rowFinalPass,
+            "The Final Pass Depth of Cut may not be greater than the Maximum Depth per Pass"};
+    return std::nullopt;
+}
+
+} // namespace
+
+void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor) {
+    const auto number = [&](std::size_t row) { return boxNumber(boxes.text[row]); };
+    const auto feed = [&](double value) { return formatFixed(value, feedDecimals(feedFactor)); };
+    const bool cutting = form == PenForm::cutting;
+    const double cuttingFeed = number(rowFeed);
+    if (cutting && index == rowFeed && cuttingFeed > 0 && std::isfinite(cuttingFeed))
+        boxes.text[rowFeedVertical] = feed(cuttingFeed / 4);
+
+    const double depth = number(rowDepth);
+    const double pass = number(rowPass);
+    if (!(depth > 0 && pass > 0 && pass != depth)) {
+        closeRow(boxes, rowFinalPass);
+        closeRow(boxes, rowFinalPassFeed);
+        return;
+    }
+    if (!cutting)
+        return;
+    openRow(boxes, rowFinalPass, usualFinalPass);
+    if (number(rowFinalPass) == 0)
+        closeRow(boxes, rowFinalPassFeed);
+    else
+        openRow(boxes, rowFinalPassFeed, std::isfinite(cuttingFeed) ? feed(cuttingFeed / 2) : "");
+}
+
+bool allEditableFilled(const PenBoxes& boxes) {
+    for (std::size_t i = 0; i < penRowCount; ++i)
+        if (boxes.enabled[i] && boxes.text[i].empty())
+            return false;
+    return true;
+}
+
+std::optional<InputFault> inputFault(const PenBoxes& boxes, PenForm form, bool storedPeck) {
+    auto rows = penRows(form);
+    if (form == PenForm::drilling && !storedPeck)
+        rows = rows.first(rowPeck);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (!boxes.enabled[i])
+            continue;
+        const double number = boxNumber(boxes.text[i]);
+        if (number < 0 && rows[i].mayBeZero)
+            return InputFault{i, "The " + std::string(rows[i].name) + " may not be negative"};
+        if (number <= 0 && !rows[i].mayBeZero)
+            return InputFault{i, "The " + std::string(rows[i].name) + " may not be zero"};
+    }
+    return relationFault(boxes, form);
+}
+
+} // namespace torvik

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// The checks of a pen page and the numbers that follow from others while the user types. They know
+// the boxes only as texts that can or cannot be edited.
+#pragma once
+
+#include "answers/pen_rows.h"
+
+#include <optional>
+#include <string>
+
+namespace torvik {
+
+struct PenBoxes {
+    PenTexts text;
+    std::array<bool, penRowCount> enabled{};
+};
+
+// FinalDepth's work on the boxes after row `index` was edited or left, which asks for:
+// - an edited cutting feed sets the vertical feed to a quarter of it (cutting form);
+// - rows 5 and 6 are empty and closed where no final pass is possible; where one is (cutting form),
+//   an empty row 5 becomes 0.15 mm and an empty row 6 half the cutting feed, and a final pass of 0
+//   closes row 6.
+void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor);
+
+// Whether each box that can be edited holds something.
+bool allEditableFilled(const PenBoxes& boxes);
+
+// Why the page may not be left, and which box is to blame.
+struct InputFault {
+    std::size_t row;
+    std::string message;
+};
+
+// The first fault: a zero (or less) where none may stand, row by row, then depths that contradict
+// each other. storedPeck is the group's own mark, which says whether the peck row counts.
+std::optional<InputFault> inputFault(const PenBoxes& boxes, PenForm form, bool storedPeck);
+
+} // namespace torvik

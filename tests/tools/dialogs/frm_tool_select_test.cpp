@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/dialogs/tool_dialogs_fixture.h"
+#include "tools/dialogs/frm_tool_data.h"
+#include "tools/dialogs/frm_tool_select.h"
+#include "tools/dialogs/tool_grid.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <memory>
+
+namespace torvik {
+namespace {
+
+class FrmToolSelectTest : public ToolDialogsTest {
+protected:
+    void show(ToolList list) {
+        tools = std::move(list);
+        form = std::make_unique<FrmToolSelect>(tools, registry, logger, messages);
+        form->setToolTitle("6.0 mm diam. holes");
+        open(*form);
+    }
+    ToolGrid& grid() { return find<ToolGrid>(*form, "grdTools"); }
+    std::string actions() {
+        std::string all;
+        for (const char* name : {"cmdOk", "cmdEdit", "cmdDelete"})
+            all += canPress(*form, name) ? name : "";
+        return all;
+    }
+    std::string row(int at) {
+        std::string all;
+        for (int column = 0; column <= columnPlace; ++column)
+            all += grid().item(at, column)->text().toStdString() + "|";
+        return all;
+    }
+    void clickRow(int at, bool twice = false) {
+        const QPoint middle = grid().visualRect(grid().model()->index(at, columnType)).center();
+        QTest::mouseClick(grid().viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+        if (twice)
+            QTest::mouseDClick(grid().viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+    }
+    // Opens the tool's form, types, and leaves it with the key; with Escape if that is refused.
+    void enter(const char* opener, const char* number, const char* type, const char* diameter,
+               Qt::Key leave = Qt::Key_Return) {
+        inDialog<FrmToolData>(*form, opener, [&](FrmToolData& dialog) {
+            find<QLineEdit>(dialog, "txtToolNumber").setText(number);
+            find<QComboBox>(dialog, "cboToolType").setCurrentText(type);
+            find<QLineEdit>(dialog, "txtToolDiam").setText(diameter);
+            QTest::keyClick(&dialog, leave);
+            if (dialog.isVisible())
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+    }
+
+    std::unique_ptr<FrmToolSelect> form;
+};
+
+constexpr const char* allActions = "cmdOkcmdEditcmdDelete";
+
+TEST_F(FrmToolSelectTest, AnEmptyLibraryGetsItsFirstTool) {
+    show({});
+    EXPECT_EQ(form->windowTitle().toStdString(), "Select the Tool for the 6.0 mm diam. holes");
+    clickRow(0);
+    EXPECT_EQ(actions(), "");
+    enter("cmdAdd", "012", "Reamer", "2.5");
+    EXPECT_EQ(row(0), "012|Reamer|2.500|1|");
+    EXPECT_EQ(actions(), allActions);
+    EXPECT_EQ(registry.strRegistryValueGet("ToolCount", "none"), "none");
+    press(*form, "cmdOk");
+    EXPECT_EQ(registry.strRegistryValueGet("Tool01", ""), "12|Reamer|2.500|-2000.000");
+    EXPECT_EQ(tag(*form), "1");
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(FrmToolSelectTest, TheNinthToolComesLastWithAScrollBar) {
+    show(drills(8));
+    const int width = grid().width();
+    enter("cmdAdd", "5", "End mill", "6"); // the number is in use
+    enter("cmdAdd", "0", "End mill", "6"); // never complete
+    EXPECT_EQ(tools.gintToolCount, 8);
+    enter("cmdAdd", "11", "End mill", "6");
+    enter("cmdAdd", "10", "End mill", "7");
+    EXPECT_EQ(grid().width(), width + 16);
+    EXPECT_EQ(grid().selectedRow(), 9);
+    EXPECT_EQ(row(8) + row(9), "11|End mill|6.000|9|10|End mill|7.000|10|");
+    EXPECT_EQ(grid().rowAt(0), 2);
+    EXPECT_EQ(grid().rowAt(grid().viewport()->height() - 1), 9);
+    clickRow(2);
+    press(*form, "cmdDelete");
+    clickRow(0);
+    press(*form, "cmdDelete");
+    EXPECT_EQ(grid().width(), width);
+    EXPECT_EQ(row(7), "11|End mill|6.000|7|");
+}
+
+TEST_F(FrmToolSelectTest, AnEditedToolKeepsItsFourthNumber) {
+    show(drills(2));
+    tools.gudtTools[2].sngReserved = 15.5F;
+    clickRow(1);
+    enter("cmdEdit", "5", "Slot drill", "6");
+    enter("cmdEdit", "8", "Reamer", "9", Qt::Key_Escape);
+    EXPECT_EQ(row(1), "5|Slot drill|6.000|2|");
+    EXPECT_EQ(tools.gudtTools[2].sngReserved, 15.5F);
+    EXPECT_EQ(grid().selectedRow(), 1);
+    press(*form, "cmdCancel");
+    EXPECT_EQ(tag(*form), "");
+    EXPECT_EQ(registry.strRegistryValueGet("ToolCount", "none"), "none");
+    EXPECT_EQ(tools.gudtTools[2].intNumber, 5); // for the next confirmed selection
+}
+
+TEST_F(FrmToolSelectTest, ADeletionAsksFirst) {
+    show(drills(2));
+    clickRow(0);
+    messages.answer = buttonNo;
+    press(*form, "cmdDelete");
+    EXPECT_EQ(messages.take(), "Tool Deletion|260|Are you sure you want to delete:\n"
+                               "Tool no. 1\n(Drill  1.000 mm)?\n");
+    EXPECT_EQ(grid().selectedRow(), 0);
+    EXPECT_FALSE(form->hasDeleted());
+    messages.answer = buttonYes;
+    press(*form, "cmdDelete");
+    EXPECT_TRUE(form->hasDeleted());
+    EXPECT_EQ(row(0), "2|Drill|2.000|1|");
+    EXPECT_EQ(grid().selectedRow(), -1);
+    EXPECT_EQ(actions(), "cmdOk");
+    press(*form, "cmdOk"); // stores the deletion, chooses nothing
+    EXPECT_EQ(form->chosenPosition(), 0);
+    EXPECT_EQ(registry.strRegistryValueGet("ToolCount", ""), "1");
+}
+
+TEST_F(FrmToolSelectTest, AListThatWasNotReadToItsEndCannotGrowOrShrink) {
+    show(drills(2));
+    tools.gintToolCount = 4;
+    enter("cmdAdd", "9", "Reamer", "9");
+    clickRow(0);
+    press(*form, "cmdDelete");
+    EXPECT_EQ(row(0) + row(1), "1|Drill|1.000|1|2|Drill|2.000|2|");
+    ASSERT_EQ(errors.size(), 2U);
+    EXPECT_TRUE(errors[0].starts_with("An error has occurred in cmdAdd_Click (frmToolSelect):"));
+    EXPECT_TRUE(errors[1].starts_with("An error has occurred in cmdDelete_Click (frmToolSelect):"));
+    errors.clear();
+}
+
+TEST_F(FrmToolSelectTest, AHeaderButtonLiesOverItsHeaderAndSorts) {
+    show(drills(3));
+    for (int column = 0; column < shownColumns; ++column) {
+        const auto& header = find<QPushButton>(*form, ("cmdSort" + std::to_string(column)).c_str());
+        EXPECT_EQ(header.geometry(), QRect(3 + grid().columnViewportPosition(column), 3,
+                                           grid().columnWidth(column), grid().viewport()->y() - 3));
+    }
+    press(*form, "cmdSort0");
+    EXPECT_EQ(row(0), "3|Drill|3.000|3|");
+    QTest::keyClick(form.get(), Qt::Key_M, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return row(0) == "1|Drill|1.000|1|"; }));
+}
+
+TEST_F(FrmToolSelectTest, AHeaderButtonDoesNotKeepTheFocus) {
+    show(drills(1)); // nothing to sort
+    auto& header = find<QPushButton>(*form, "cmdSort1");
+    QTest::mousePress(&header, Qt::LeftButton);
+    QTest::qWait(120);
+    EXPECT_TRUE(header.hasFocus()); // a slow click is not cut off
+    QTest::mouseRelease(&header, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid().hasFocus(); }));
+}
+
+TEST_F(FrmToolSelectTest, AToolIsChosenByADoubleClickOrByKeysAlone) {
+    show(drills(3));
+    clickRow(5, true); // an empty row
+    EXPECT_TRUE(form->isVisible());
+    clickRow(1, true);
+    EXPECT_EQ(form->chosenPosition(), 2);
+    show(drills(3));
+    QTest::keyClick(&grid(), Qt::Key_Return);
+    EXPECT_TRUE(form->isVisible()); // none is selected
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    QTest::keyClick(&grid(), Qt::Key_Return);
+    EXPECT_EQ(form->chosenPosition(), 1);
+}
+
+} // namespace
+} // namespace torvik

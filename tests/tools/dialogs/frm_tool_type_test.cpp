@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/dialogs/tool_dialogs_fixture.h"
+#include "tools/dialogs/frm_tool_type.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <memory>
+
+namespace torvik {
+namespace {
+
+class FrmToolTypeTest : public ToolDialogsTest {
+protected:
+    void show(std::initializer_list<const char*> types) {
+        int count = 0;
+        for (const char* type : types)
+            registry.RegistryValuePut("ToolType0" + std::to_string(++count), type);
+        registry.RegistryValuePut("ToolTypes", std::to_string(count));
+        tools.gudtTools = {{1, "Spot", 3}};
+        tools.gintToolCount = 1;
+        form = std::make_unique<FrmToolType>(tools, registry, logger, messages);
+        open(*form);
+    }
+    QListWidget& list(const char* name) { return find<QListWidget>(*form, name); }
+    QLineEdit& name() { return find<QLineEdit>(*form, "txtNewType"); }
+    // The items as "text:place", the selected one in brackets.
+    std::string items(const char* which) {
+        std::string all;
+        for (int row = 0; row < list(which).count(); ++row) {
+            const QListWidgetItem& item = *list(which).item(row);
+            const std::string text =
+                item.text().toStdString() + ":" + item.data(Qt::UserRole).toString().toStdString();
+            all += (row == 0 ? "" : " ") + (item.isSelected() ? "[" + text + "]" : text);
+        }
+        return all;
+    }
+    std::string selected() {
+        std::string all;
+        for (const char* which : {"lstTypeStandard", "lstTypeUser", "lstTypeUserNew"})
+            for (const QListWidgetItem* item : list(which).selectedItems())
+                all += item->text().toStdString() + " ";
+        for (const char* action : {"cmdAdd", "cmdDelete"})
+            all += canPress(*form, action) ? action : "";
+        return all;
+    }
+    std::string types() {
+        std::string all;
+        for (int i = 1; i <= tools.gintUserToolTypeCount; ++i)
+            all += tools.gstrUserToolTypes[i] + " ";
+        return all;
+    }
+    void clickItem(const char* which, int row) {
+        QListWidget& in = list(which);
+        QTest::mouseClick(in.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          in.visualItemRect(in.item(row)).center());
+    }
+
+    std::unique_ptr<FrmToolType> form;
+};
+
+TEST_F(FrmToolTypeTest, TypesInUseStandApart) {
+    show({"Fly", "Spot", "SPOT", "Engraver"});
+    EXPECT_EQ(list("lstTypeStandard").count(), 7);
+    EXPECT_EQ(items("lstTypeUser"), "Spot:2");
+    EXPECT_EQ(items("lstTypeUserNew"), "Engraver:4 SPOT:3 Fly:1");
+    EXPECT_EQ(selected(), "");
+}
+
+TEST_F(FrmToolTypeTest, OneItemOfThreeListsIsSelected) {
+    show({"Fly", "Spot", "Engraver"});
+    clickItem("lstTypeUserNew", 1);
+    EXPECT_EQ(selected(), "Fly cmdDelete");
+    clickItem("lstTypeStandard", 2);
+    EXPECT_EQ(selected(), "Drill ");
+    clickItem("lstTypeUser", 0);
+    EXPECT_EQ(selected(), "Spot ");
+    list("lstTypeUserNew").setFocus();
+    QTest::keyClick(&list("lstTypeUserNew"), Qt::Key_Down);
+    EXPECT_EQ(selected(), "Engraver cmdDelete");
+}
+
+TEST_F(FrmToolTypeTest, ANameThatIsThereCannotBeAdded) {
+    show({"Fly", "Spot", "Fräser"});
+    const struct {
+        const char* name;
+        const char* text;
+        const char* state;
+    } rows[] = {
+        {"blanks are no name", "  ", ""},
+        {"a new name", "Tap", "cmdAdd"},
+        {"a standard type in another case", "REAMER", "Reamer "},
+        {"a type in use between blanks", " spot ", "Spot "},
+        {"a type not in use", "FLY", "Fly cmdDelete"},
+        {"umlauts have cases too", "FRÄSER", "Fräser cmdDelete"},
+        {"part of a name is another name", "Fl", "cmdAdd"},
+    };
+    for (const auto& row : rows) {
+        name().clear();
+        list("lstTypeStandard").clearSelection();
+        name().setText(row.text);
+        EXPECT_EQ(selected(), row.state) << row.name;
+        const bool isKnown = std::string_view(row.state).find(' ') != std::string_view::npos;
+        EXPECT_EQ(name().selectedText(), isKnown ? row.text : "") << row.name;
+    }
+}
+
+TEST_F(FrmToolTypeTest, ANewTypeIsAddedAsTyped) {
+    show({"Spot"});
+    name().setText(" Tap|M3 ");
+    QTest::keyClick(&name(), Qt::Key_Return); // adds, and does not close
+    EXPECT_EQ(items("lstTypeUserNew"), "[ Tap|M3 :2]");
+    EXPECT_EQ(tools.gstrUserToolTypes[2], " Tap|M3 ");
+    EXPECT_EQ(name().text(), "");
+    QTest::keyClick(&name(), Qt::Key_Return);
+    EXPECT_EQ(tag(*form), "Ok");
+    EXPECT_EQ(registry.strRegistryValueGet("ToolTypes", ""), "1"); // whoever opened it stores
+}
+
+TEST_F(FrmToolTypeTest, ANameThatCannotBeStoredIsRefused) {
+    show({});
+    name().setText(QString(80, u'x'));
+    press(*form, "cmdAdd");
+    EXPECT_EQ(messages.take(), "Tool type|48|The tool type is too long to be stored\n"
+                               "Please enter a shorter name");
+    EXPECT_EQ(name().selectedText().size(), 80);
+    name().setText(QString(79, u'x'));
+    press(*form, "cmdAdd");
+    EXPECT_EQ(tools.gintUserToolTypeCount, 1);
+}
+
+TEST_F(FrmToolTypeTest, ADeletedTypeLeavesTheOthersPlacesAlone) {
+    show({"A", "B", "Spot", "D"});
+    clickItem("lstTypeUserNew", 1);
+    press(*form, "cmdDelete");
+    EXPECT_EQ(types(), "A Spot D ");
+    EXPECT_EQ(items("lstTypeUserNew"), "D:4 A:1");
+    EXPECT_EQ(selected(), "");
+    clickItem("lstTypeUserNew", 0); // its place lies behind the end by now
+    press(*form, "cmdDelete");
+    EXPECT_EQ(types(), "A Spot ");
+    name().setText("E");
+    press(*form, "cmdAdd");
+    EXPECT_EQ(items("lstTypeUserNew"), "A:1 [E:3]");
+    EXPECT_EQ(types(), "A Spot E ");
+}
+
+TEST_F(FrmToolTypeTest, EscapeCancelsAndClosingSaysNothing) {
+    show({});
+    form->close();
+    EXPECT_EQ(tag(*form), "");
+    open(*form);
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_EQ(tag(*form), "Cancel");
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tools/dialogs/tool_dialogs_fixture.h"
+#include "tools/dialogs/tool_grid.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace torvik {
+namespace {
+
+class ToolGridTest : public ToolDialogsTest {
+protected:
+    void fill(const ToolList& list) { ToolDataShow(grid, list, logger); }
+    void fill(const OneBasedArray<Tool>& list) {
+        tools.gudtTools = list;
+        tools.gintToolCount = static_cast<std::int16_t>(list.count());
+        fill(tools);
+    }
+    // A column from top to bottom, "-" for an empty cell.
+    std::string column(int at) {
+        std::string all;
+        for (int row = 0; row < grid.rowCount(); ++row) {
+            const QTableWidgetItem* const cell = grid.item(row, at);
+            all += (row == 0 ? "" : " ") + (cell == nullptr ? "-" : cell->text().toStdString());
+        }
+        return all;
+    }
+    std::string directions() {
+        std::string all;
+        for (int at = 0; at < shownColumns; ++at)
+            all += grid.sortText(at).toStdString() + "/";
+        return all;
+    }
+
+    ToolGrid grid;
+};
+
+TEST_F(ToolGridTest, IsFilledSortedByNumberAboveEmptyRows) {
+    fill(OneBasedArray<Tool>{{10, "Drill", 6.25F}, {9, "End mill", 10}, {2, "Drill", 0.0005F}});
+    EXPECT_EQ(column(columnNumber), "2 9 10 - - - - -");
+    EXPECT_EQ(column(columnPlace), "3 2 1 - - - - -");
+    EXPECT_EQ(column(columnDiameter), "0.001 10.000 6.250 - - - - -");
+    EXPECT_EQ(directions(), "Asc///");
+    EXPECT_TRUE(grid.isColumnHidden(columnPlace));
+    fill(drills(9));
+    EXPECT_EQ(column(columnNumber), "1 2 3 4 5 6 7 8 9");
+    fill(drills(1));
+    EXPECT_EQ(directions(), "///"); // one tool needs no sorting
+    tools = drills(1);
+    tools.gintToolCount = 30; // the loading broke off
+    fill(tools);
+    EXPECT_EQ(column(columnNumber), "1 - - - - - - -");
+}
+
+TEST_F(ToolGridTest, EachHeaderKeepsItsDirection) {
+    fill(OneBasedArray<Tool>{
+        {1, "drill", 10}, {2, "Drill", 9}, {3, "Reamer", 10}, {4, "Drill", 100}});
+    GridSort(grid, columnNumber, logger);
+    EXPECT_EQ(column(columnNumber), "4 3 2 1 - - - -");
+    EXPECT_EQ(directions(), "Desc///");
+    GridSort(grid, columnType, logger); // capitals first; equal types stay as they were
+    EXPECT_EQ(column(columnNumber), "4 2 3 1 - - - -");
+    EXPECT_EQ(directions(), "Desc/Asc//");
+    GridSort(grid, columnDiameter, logger);
+    EXPECT_EQ(column(columnNumber), "2 3 1 4 - - - -");
+    GridSort(grid, columnDiameter, logger);
+    EXPECT_EQ(column(columnNumber), "4 3 1 2 - - - -");
+    GridSort(grid, columnNumber, logger); // another column begins ascending
+    EXPECT_EQ(column(columnNumber), "1 2 3 4 - - - -");
+    EXPECT_EQ(directions(), "Asc/Asc/Desc/");
+}
+
+TEST_F(ToolGridTest, TheSelectedToolStaysSelectedAndInSight) {
+    fill(drills(20));
+    grid.fitSize();
+    open(grid);
+    grid.selectRow(1);
+    GridSort(grid, columnDiameter, logger);
+    GridSort(grid, columnDiameter, logger);
+    EXPECT_EQ(grid.selectedRow(), 18);
+    EXPECT_EQ(grid.placeAt(18), 2);
+    EXPECT_GT(grid.rowAt(0), 8);
+    EXPECT_TRUE(grid.hasFocus());
+    grid.selectPlace(0);
+    GridSort(grid, columnNumber, logger);
+    EXPECT_EQ(grid.selectedRow(), -1);
+}
+
+TEST_F(ToolGridTest, ShowsEightRowsAndMakesRoomForTheScrollBar) {
+    fill(drills(8));
+    grid.fitSize();
+    open(grid);
+    int columns = 0;
+    for (const char* header : {"  Tool Number  ", "    Tool Type    ", "  Tool Diameter (mm)  "})
+        columns += grid.fontMetrics().horizontalAdvance(QString::fromUtf8(header));
+    EXPECT_EQ(grid.width(), columns + 6);
+    EXPECT_EQ(grid.viewport()->width(), columns);
+    EXPECT_EQ(grid.viewport()->height(), 8 * grid.rowHeight(0));
+    EXPECT_FALSE(grid.verticalScrollBar()->isVisible());
+    fill(drills(9));
+    grid.fitSize();
+    EXPECT_EQ(grid.width(), columns + 22);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid.verticalScrollBar()->isVisible(); }));
+    EXPECT_GE(grid.viewport()->width(), columns);
+}
+
+} // namespace
+} // namespace torvik

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+// From the output page to the written file and the menu behind it.
+#include "base/files.h"
+#include "tests/wizard/main_window_fixture.h"
+#include "wizard/output/drive_a.h"
+
+#include <QMessageBox>
+
+namespace torvik {
+namespace {
+
+class OutputTest : public MainWindowTest {
+protected:
+    // On step 6 of the bracket, with a folder for drive A.
+    void SetUp() override {
+        std::filesystem::create_directory(drive);
+        registry.RegistryValuePut("Drive A Path", drive.string());
+        startSample("bracket");
+        go(6);
+        std::filesystem::remove(answersFile());
+    }
+    void choose(int target) { click("optOutput" + std::to_string(target)); }
+    static std::string firstBytes(const std::filesystem::path& file, std::size_t count) {
+        return readWholeFile(file, 1 << 20).substr(0, count);
+    }
+    std::filesystem::path answersFile() { return folder.path() / "PlotSave" / "bracket.plx"; }
+    void expectNothingWritten() {
+        EXPECT_TRUE(job.output.gblnUnsaved);
+        EXPECT_FALSE(std::filesystem::exists(answersFile()));
+        EXPECT_EQ(shown(), "picOutput Back Next");
+    }
+
+    std::filesystem::path drive = folder.path() / "floppy";
+};
+
+TEST_F(OutputTest, ANumberedProgramGoesToTheDisketteWithItsText) {
+    struct Row {
+        int target;
+        const char* number;
+        const char* name;
+        const char* caption;
+        std::string opening;
+    };
+    const Row rows[] = {
+        {1, "12", "%MPF12", "WinCAM Program Number",
+         "%MPF12\r\nN1 G54\r\nN2 G97 G94\r\nN3 G58 X0 Y0 Z0\r\n"},
+        {2, "7", "oprg7", "WinNC Program Number", "\x1B&HE:\x12%\r\n:0007\r\nN1 G54\r\n"},
+    };
+    for (const Row& row : rows) {
+        choose(row.target);
+        answers.expect("frmOutput", [&](QDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), row.caption);
+            EXPECT_EQ(dialog.findChild<QLabel*>("lblPrefix")->text() + row.number, row.name);
+            EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdOk")->isEnabled());
+            QTest::keyClicks(dialog.focusWidget(), "a -.");
+            DialogAnswers::number(row.number)(dialog);
+        });
+        answers.expect("frmMenu", [&](QDialog& dialog) {
+            EXPECT_NE(text(*dialog.findChild<QLabel*>("lblMenu"))
+                          .find("a:\\" + std::string(row.name) + "\n"),
+                      std::string::npos);
+            DialogAnswers::press("cmdSave")(dialog);
+        });
+        click("cmdNext");
+        const auto program = drive / row.name;
+        const std::string origin =
+            "Origin - " + drawing.string() + "\r\nFile - " + row.name + "\r\nDate - ";
+        EXPECT_EQ(firstBytes(program, row.opening.size()), row.opening);
+        EXPECT_EQ(firstBytes(program.string() + ".txt", origin.size()), origin);
+        EXPECT_TRUE(std::filesystem::exists(answersFile()));
+        EXPECT_FALSE(job.output.gblnUnsaved);
+        EXPECT_EQ(shown(), "picOutput Back Next");
+    }
+}
+
+TEST_F(OutputTest, ANumberThatIsNoneWritesNothing) {
+    choose(1);
+    struct Row {
+        const char* name;
+        DialogAnswers::Answer answer;
+        bool askedAgain;
+    };
+    const Row rows[] = {
+        {"cancelled", DialogAnswers::press("cmdCancel"), false},
+        {"closed", [](QDialog& dialog) { dialog.close(); }, false},
+        {"zero", DialogAnswers::number("00"), false},
+        {"more than a whole number holds", DialogAnswers::number("32768"), true},
+        {"more than any number holds", DialogAnswers::number(std::string(400, '9')), true},
+        {"pasted, less than nothing",
+         [](QDialog& dialog) {
+             dialog.findChild<QLineEdit*>("txtNumber")->setText("-3");
+             DialogAnswers::press("cmdOk")(dialog);
+         },
+         true},
+    };
+    for (const Row& row : rows) {
+        answers.expect("frmOutput", row.answer);
+        if (row.askedAgain)
+            answers.expect("frmOutput", DialogAnswers::cancel);
+        click("cmdNext");
+        EXPECT_EQ(messages.take(),
+                  row.askedAgain ? "Torvik|48|The program number may be 1 to 32767 only" : "")
+            << row.name;
+        EXPECT_TRUE(std::filesystem::is_empty(drive)) << row.name;
+    }
+    expectNothingWritten();
+}
+
+TEST_F(OutputTest, AMissingDisketteIsAskedForUntilItIsThereOrGivenUp) {
+    choose(1);
+    std::filesystem::remove(drive);
+    answers.expect("frmOutput", DialogAnswers::number("1"));
+    messages.answers = {buttonRetry, buttonCancel};
+    click("cmdNext");
+    const std::string told = "Torvik|53|Please put a diskette into Drive A:";
+    EXPECT_EQ(messages.take(), told + told);
+    expectNothingWritten();
+    EXPECT_FALSE(isDriveReady(drawing)); // a file is no drive
+    EXPECT_FALSE(isDriveReady({}));
+}
+
+TEST_F(OutputTest, AnExistingProgramIsOnlyReplacedAfterAYes) {
+    choose(2);
+    for (const char* name : {"oprg1", "oprg2"})
+        std::ofstream(drive / name) << "old";
+    answers.expect("frmOutput", DialogAnswers::number("1"));
+    answers.expect("frmOutput", DialogAnswers::number("2"));
+    answers.expect("frmMenu", DialogAnswers::cancel);
+    messages.answers = {buttonNo, buttonYes};
+    click("cmdNext");
+    const std::string exists = " already exists on the diskette\nDo you want to overwrite it?";
+    EXPECT_EQ(messages.take(),
+              "Torvik|36|A file named oprg1" + exists + "Torvik|36|A file named oprg2" + exists);
+    EXPECT_EQ(firstBytes(drive / "oprg1", 9), "old");
+    EXPECT_EQ(firstBytes(drive / "oprg2", 1), "\x1B");
+    EXPECT_EQ(shown(), "picOutput Back Next"); // the menu was left without a choice
+}
+
+TEST_F(OutputTest, TheFileDialogProposesTheDrawingsNameAndRemembersItsFolder) {
+    struct Row {
+        int target;
+        const char* title;
+        const char* proposed;
+        const char* setting;
+        const char* chosen;
+        const char* written; // the extension is added where there is none
+    };
+    const Row rows[] = {
+        {3, "Select the destination Maskor file", "bracket.mxc", "CNC File Path", "gear",
+         "gear.mxc"},
+        {4, "Select the destination Kestra file", "bracket.iso", "Kestra File Path", "gear.nc",
+         "gear.nc"},
+    };
+    const auto out = folder.path() / "out";
+    std::filesystem::create_directory(out);
+    for (const Row& row : rows) {
+        choose(row.target);
+        answers.expect("dlgSave", [&](QDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), row.title);
+            EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), row.proposed);
+            DialogAnswers::file(out / row.chosen)(dialog);
+        });
+        answers.expect("frmMenu", DialogAnswers::press("cmdSave"));
+        click("cmdNext");
+        EXPECT_EQ(firstBytes(out / row.written, 2), "%\r");
+        EXPECT_EQ(registry.strRegistryValueGet(row.setting, ""), out.string() + "/");
+        EXPECT_FALSE(std::filesystem::exists(out / (std::string(row.written) + ".txt")));
+    }
+}
+
+TEST_F(OutputTest, TheDrawingItselfIsNeverTheProgramsFile) {
+    choose(3);
+    const std::string before = readWholeFile(drawing, 1 << 20);
+    answers.expect("dlgSave", DialogAnswers::file(drawing));
+    answers.expect("", [](QDialog& replace) { // asked first, as of any file
+        dynamic_cast<QMessageBox&>(replace).button(QMessageBox::Yes)->click();
+    });
+    answers.expect("dlgSave", DialogAnswers::cancel);
+    click("cmdNext");
+    EXPECT_EQ(messages.take(), "Torvik|48|This is the drawing itself.\nPlease choose another name "
+                               "for the program.");
+    EXPECT_EQ(readWholeFile(drawing, 1 << 20), before);
+    expectNothingWritten();
+}
+
+TEST_F(OutputTest, AFileThatCannotBeOpenedCanBeTriedAgainAndAFailedWriteShowsNoMenu) {
+    choose(1);
+    std::filesystem::create_directory(drive / "%MPF3"); // no file takes its place
+    answers.expect("frmOutput", DialogAnswers::number("3"));
+    messages.answers = {buttonYes, buttonRetry, buttonCancel};
+    click("cmdNext");
+    const std::string told = "Torvik|53|Please make sure the diskette is writable";
+    EXPECT_TRUE(messages.take().ends_with(told + told));
+    expectNothingWritten();
+
+    std::filesystem::create_symlink("/dev/full", drive / "%MPF4");
+    answers.expect("frmOutput", DialogAnswers::number("4"));
+    messages.answers = {buttonYes};
+    click("cmdNext");
+    messages.take();
+    EXPECT_EQ(std::exchange(errors, {}).size(), 1U);
+    expectNothingWritten();
+}
+
+TEST_F(OutputTest, AGroupWithoutAToolIsNamedBeforeAnythingIsAsked) {
+    workshop.tools.gintToolCount = 6;
+    click("cmdNext");
+    EXPECT_EQ(messages.take(), "Torvik|48|Please choose a tool for the 8.0 mm Red holes");
+    expectNothingWritten();
+}
+
+TEST_F(OutputTest, TheMenuLeadsToAnotherFileOrEndsTheProgram) {
+    choose(1);
+    answers.expect("frmOutput", DialogAnswers::number("1"));
+    answers.expect("frmMenu", DialogAnswers::press("cmdOpen"));
+    click("cmdNext");
+    EXPECT_EQ(shown() + caption(), "picOpening StartTorvik");
+    EXPECT_TRUE(job.position.gudtColourTree.empty());
+    window->resize(1200, 900);
+    settle();
+    EXPECT_FALSE(find<QWidget>("picPlot").isVisible());
+
+    window.reset();
+    start();
+    open(drawing);
+    go(6);
+    EXPECT_TRUE(find<QRadioButton>("optOutput1").isChecked()); // the target used last
+    answers.expect("frmOutput", DialogAnswers::number("2"));
+    answers.expect("frmMenu", DialogAnswers::press("cmdClose"));
+    click("cmdNext");
+    EXPECT_EQ(shutdowns, 1);
+}
+
+TEST_F(OutputTest, ThePageShowsWhereDriveALeadsAndChangesIt) {
+    const auto chooseFolder = [&](const std::string& name) {
+        const auto chosen = folder.path() / name;
+        std::filesystem::create_directory(chosen);
+        answers.expect("dlgDriveA", DialogAnswers::file(chosen));
+        click("cmdDriveA");
+        return chosen.string();
+    };
+    EXPECT_EQ(label("lblDriveA"), "a:\\ is " + drive.string());
+    const std::string stick = chooseFolder("stick");
+    EXPECT_EQ(registry.strRegistryValueGet("Drive A Path", ""), stick);
+    const std::string tooLong = chooseFolder(std::string(80, 'x'));
+    EXPECT_EQ(messages.take(), "Torvik|48|The folder's name is too long to be remembered, please "
+                               "choose another:\n" +
+                                   tooLong);
+    answers.expect("dlgDriveA", DialogAnswers::cancel);
+    click("cmdDriveA");
+    EXPECT_EQ(label("lblDriveA"), "a:\\ is " + stick);
+}
+
+} // namespace
+} // namespace torvik

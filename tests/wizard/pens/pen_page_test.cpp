@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+// The settings of a pen page, driven through its controls.
+#include "tests/base/temporary_folder.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
+
+#include <QToolTip>
+
+namespace torvik {
+namespace {
+
+TEST_F(PenPageTest, CaptionsAndHelpFollowTheForm) {
+    const auto expectRows = [&](std::initializer_list<std::pair<const char*, int>> expected) {
+        for (int i = 0; i < 7; ++i) {
+            const QLabel& name = *find<QLabel>("lblDet", i);
+            const bool asked = i < static_cast<int>(expected.size());
+            EXPECT_EQ(name.isHidden() || box(i).isHidden(), !asked) << i;
+            if (!asked)
+                continue;
+            const auto& [caption, help] = expected.begin()[i];
+            EXPECT_EQ(name.text() + " " + box(i).accessibleName(), QString("%1 %1").arg(caption));
+            EXPECT_TRUE(name.text().endsWith("(" + find<QLabel>("lblUnit", i)->text() + ")"));
+            EXPECT_EQ(name.property("helpContext").toInt(), help) << caption;
+            EXPECT_EQ(box(i).property("helpContext").toInt(), help) << caption;
+            EXPECT_EQ(name.buddy(), &box(i)) << caption;
+        }
+    };
+    open();
+    expectRows({{"Spindle Speed (rpm)", 80},
+                {"Horizontal Feed Rate for Cutting (mm/min)", 90},
+                {"Vertical Feed Rate into Material (mm/min)", 100},
+                {"Final Depth (mm)", 110},
+                {"Maximum Depth per Pass (mm)", 120},
+                {"Final Pass Depth of Cut (mm)", 242},
+                {"Final Pass Horizontal Feed Rate (mm/min)", 244}});
+    EXPECT_TRUE(peck().isHidden());
+    EXPECT_EQ(option(0).text(), "&Cut the Black lines");
+    EXPECT_EQ(option(1).text(), "Do NO&T cut the Black lines");
+    EXPECT_EQ(option(0).property("helpContext").toInt(), 50);
+
+    job.answers.gudtPens[2].blnDrill = true;
+    useSeconds(true);
+    page.ShowPen(1);
+    page.ShowPen(1);
+    expectRows({{"Spindle Speed (rpm)", 80},
+                {"Drilling Feed Rate (mm/sec)", 95},
+                {"Depth of Hole (mm)", 105},
+                {"Dwell Time (s)", 115},
+                {"Peck Distance (mm)", 125}});
+    EXPECT_FALSE(peck().isHidden());
+    EXPECT_EQ(option(0).text(), "&Drill the Red holes");
+    EXPECT_EQ(option(1).text(), "Do NO&T drill the Red holes");
+    EXPECT_EQ(option(1).property("helpContext").toInt(), 52);
+}
+
+TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
+    open();
+    EXPECT_EQ(rows(), "~ ~ ~ ~ ~ (~) (~)");
+    EXPECT_EQ(state(), "- ");
+    page.SetTool(1);
+    EXPECT_EQ(state(), "machine 7 tool");
+    EXPECT_EQ(QApplication::focusWidget(), &box(0));
+    const struct {
+        const char* says;
+        int row;
+        const char* keys;
+        const char* rows;
+        bool next;
+    } steps[] = {
+        {"the speed has no followers", 0, "12000", "12000 ~ ~ ~ ~ (~) (~)", false},
+        {"the vertical feed is a quarter", 1, "600", "12000 600 150 ~ ~ (~) (~)", false},
+        {"it may be typed over", 2, "100", "12000 600 100 ~ ~ (~) (~)", false},
+        {"a new cutting feed overwrites it", 1, "800", "12000 800 200 ~ ~ (~) (~)", false},
+        {"one depth alone opens nothing", 3, "3", "12000 800 200 3 ~ (~) (~)", false},
+        {"one pass has no final pass", 4, "3", "12000 800 200 3 3 (~) (~)", true},
+        {"several have one, with half the feed", 4, "1", "12000 800 200 3 1 0.15 400", true},
+        {"a final pass of 0 needs no feed", 5, "0", "12000 800 200 3 1 0 (~)", true},
+        {"a feed of 0 has no quarter", 1, "0", "12000 0 200 3 1 0 (~)", true},
+        {"a final pass without a feed to halve", 5, "0.2", "12000 0 200 3 1 0.2 0", true},
+        {"an emptied speed closes Next", 0, "\b", "~ 0 200 3 1 0.2 0", false},
+        {"an emptied final pass is the usual one", 5, "\b", "~ 0 200 3 1 0.15 0", false},
+    };
+    for (const auto& [says, row, keys, expected, next] : steps) {
+        type(row, keys);
+        EXPECT_EQ(rows(), expected) << says;
+        EXPECT_EQ(host.next, next) << says;
+    }
+    EXPECT_EQ(box(5).selectedText(), "0.15"); // typing goes on over it
+    paste(1, "1e39");                         // has no quarter
+    EXPECT_EQ(rows(), "~ 1e39 200 3 1 0.15 0");
+    useSeconds(true);
+    type(1, "10.00");
+    EXPECT_EQ(box(2).text(), "2.50");
+}
+
+TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
+    open();
+    const struct {
+        const char* keys;
+        const char* text;
+        const char* hint;
+    } cases[] = {
+        {"12.5", "12.5", ""},
+        {"1,5", "15", "Use the point"},
+        {"-3", "3", "Only digits and the point"},
+        {"1e3", "13", "Only digits and the point"},
+        {"1.2.3", "1.2.3", ""},
+        {"12\b3", "13", ""},
+    };
+    for (const auto& [keys, text, hint] : cases) {
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        type(0, keys);
+        EXPECT_EQ(box(0).text(), text) << keys;
+        EXPECT_EQ(QToolTip::isVisible() ? QToolTip::text() : "", hint) << keys;
+    }
+    QKeyEvent deleteKey(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f");
+    box(0).setCursorPosition(0);
+    QApplication::sendEvent(&box(0), &deleteKey);
+    QInputMethodEvent composed;
+    composed.setCommitString("2,5");
+    QApplication::sendEvent(&box(0), &composed);
+    EXPECT_EQ(box(0).text(), "3");
+    EXPECT_EQ(QToolTip::text(), "Use the point");
+    NumberBox height(true);
+    QTest::keyClicks(&height, "-5x");
+    EXPECT_EQ(height.text(), "-5");
+}
+
+TEST_F(PenPageTest, LeavingABoxMeansGoingToAnotherControl) {
+    open();
+    page.SetTool(1);
+    fill({"12000", "600", "100"});
+    box(1).setFocus();
+    const auto leaveFor = [&](Qt::FocusReason reason) {
+        QFocusEvent event(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&box(1), &event);
+        return box(2).text().toStdString();
+    };
+    EXPECT_EQ(leaveFor(Qt::ActiveWindowFocusReason), "100");
+    EXPECT_EQ(leaveFor(Qt::PopupFocusReason), "100");
+    EXPECT_EQ(leaveFor(Qt::MenuBarFocusReason), "100");
+    QTest::keyClick(&box(1), Qt::Key_Tab);
+    EXPECT_EQ(box(2).text(), "150");
+    EXPECT_EQ(QApplication::focusWidget(), &box(2));
+}
+
+TEST_F(PenPageTest, HandlersRestOnOtherSteps) {
+    open();
+    page.SetTool(1);
+    fill({"12000", "600", "150", "3", "3"});
+    job.gintWizardStep = 4;
+    host.next = false;
+    host.interval = 0;
+    host.calls.clear();
+    type(1, "800");
+    choose(1);
+    QTest::mouseClick(&tool(), Qt::LeftButton);
+    page.FlashLines();
+    EXPECT_EQ(box(2).text(), "150");
+    EXPECT_FALSE(host.next || job.answers.gudtPens[1].blnOmit);
+    EXPECT_EQ(host.calls, "");
+    EXPECT_EQ(host.interval, 0);
+}
+
+TEST_F(PenPageTest, PeckingOpensAndEmptiesItsRow) {
+    open();
+    job.answers.gudtPens[2].blnDrill = true;
+    page.ShowPen(1);
+    page.ShowPen(1);
+    EXPECT_EQ(rows(), "~ ~ ~ ~ ~"); // no tool yet: open, though pecking is off
+    type(3, "0");
+    page.SetTool(2);
+    EXPECT_EQ(rows(), "~ ~ ~ 0 (~)"); // what was typed stays ...
+    page.ShowPen(0);
+    EXPECT_EQ(rows(), "~ ~ ~ ~ (~)"); // ... but an unset zero is not shown
+    fill({"2000", "100", "8", "0"});
+    EXPECT_TRUE(host.next);
+    QTest::keyClick(&peck(), Qt::Key_Space);
+    EXPECT_EQ(rows(), "2000 100 8 0 ~");
+    EXPECT_FALSE(host.next);
+    type(4, "2");
+    EXPECT_TRUE(host.next && page.SaveDetails());
+    EXPECT_TRUE(job.answers.gudtSettings[3].blnPeck && job.answers.gudtSettings[3].blnComplete);
+    page.ShowPen(1);
+    page.ShowPen(-1);
+    EXPECT_EQ(rows(), "2000 100 8.00 0 2.00"); // no dwell, said by a complete group
+    EXPECT_TRUE(peck().isChecked());
+    QTest::keyClick(&peck(), Qt::Key_Space);
+    EXPECT_EQ(rows(), "2000 100 8.00 0 (~)");
+    EXPECT_TRUE(host.next);
+}
+
+TEST_F(PenPageTest, AFaultIsShownAtItsBox) {
+    open();
+    page.SetTool(1);
+    fill({"12000", "600", "150", "2", "3"});
+    EXPECT_TRUE(page.SaveDetails());
+    EXPECT_FALSE(page.blnInputValid());
+    EXPECT_EQ(messages.take(),
+              "Torvik|48|The Maximum Depth per Pass may not be greater than the Final Depth");
+    EXPECT_EQ(QApplication::focusWidget(), &box(4));
+    EXPECT_EQ(box(4).selectedText(), "3");
+    type(4, "2");
+    EXPECT_TRUE(page.blnInputValid());
+    EXPECT_EQ(messages.take(), "");
+}
+
+TEST_F(PenPageTest, ANumberThatCannotBeStoredStaysInItsBox) {
+    open();
+    page.SetTool(1);
+    fill({"12000", "600", "150", "3"});
+    paste(4, "1e39");
+    host.calls.clear();
+    const auto expectRefusal = [&](const char* says) {
+        EXPECT_EQ(messages.take(), "Torvik|48|The Maximum Depth per Pass is too large to be stored")
+            << says;
+        EXPECT_EQ(box(4).selectedText(), "1e39") << says;
+        EXPECT_EQ(state(), "machine 7 tool next") << says;
+        EXPECT_EQ(job.answers.gudtSettings[1].sngDepth, 0) << says;
+    };
+    EXPECT_FALSE(page.SaveDetails());
+    expectRefusal("leaving the page");
+    choose(1);
+    expectRefusal("leaving the pen out");
+    EXPECT_FALSE(job.answers.gudtPens[1].blnOmit);
+    QTest::mouseClick(&tool(), Qt::LeftButton);
+    expectRefusal("choosing another tool");
+    page.SetTool(2);
+    expectRefusal("another tool that comes all the same");
+    EXPECT_EQ(job.answers.gudtSettings[1].intTool, 1);
+    EXPECT_EQ(host.calls, "");
+    EXPECT_TRUE(errors.empty());
+}
+
+TEST_F(PenPageTest, AFailingBlinkGoesOnAndIsLoggedOnce) {
+    const TemporaryFolder folder;
+    logger = Logger(folder.path() / "test.log", [&](const ErrorReport&) { FAIL() << "a window"; });
+    open();
+    EXPECT_EQ(host.interval, 200); // hidden first, for a short beat
+    EXPECT_FALSE(host.shown);
+    EXPECT_EQ(host.blinking, (std::vector<std::int16_t>{1}));
+    host.blinkFails = true;
+    page.FlashLines();
+    EXPECT_EQ(host.interval, 1600);
+    page.FlashLines();
+    page.FlashLines();
+    std::ifstream log(folder.path() / "test.log");
+    std::string line;
+    std::getline(log, line);
+    EXPECT_NE(line.find("FlashLines (modHpgl): no picture"), std::string::npos) << line;
+    EXPECT_FALSE(std::getline(log, line)) << line;
+    host.blinkFails = false;
+    page.FlashLines();
+    page.FlashLines();
+    EXPECT_TRUE(host.shown);
+}
+
+TEST_F(PenPageTest, AFailureNamesItsProcedure) {
+    open();
+    job.position.gintCurrentSettings = 99;
+    page.ShowDetails();
+    EXPECT_FALSE(host.next);
+    EXPECT_FALSE(page.SaveDetails());
+    EXPECT_FALSE(page.blnInputValid());
+    page.SetTool(9);
+    std::string places;
+    for (const std::string& error : errors)
+        places += error.substr(25, error.find(':') - 25) + ", ";
+    EXPECT_EQ(places, "ShowDetails (modHpgl), SaveDetails (modHpgl), blnInputValid (modHpgl), "
+                      "SetTool (modHpgl), ");
+}
+
+} // namespace
+} // namespace torvik

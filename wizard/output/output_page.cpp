@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/output/output_page.h"
+
+#include "base/files.h"
+#include "forms/form_fields.h"
+#include "forms/help_key.h"
+#include "gcode/dialects.h"
+#include "wizard/output/drive_a.h"
+#include "wizard/own_settings.h"
+#include "wizard/pens/pen_controls.h"
+#include "wizard/workshop.h"
+
+#include <QButtonGroup>
+#include <QDir>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace torvik {
+namespace {
+
+constexpr int helpOutput = 6;
+const QString targetKey = QStringLiteral("OutputTarget");
+
+// What the target's program becomes: a numbered file on the diskette, or a file anywhere.
+QString whereItGoes(const Dialect& dialect) {
+    if (dialect.needsNumber())
+        return OutputPage::tr("on the diskette, as a:\\%1…")
+            .arg(QString::fromUtf8(dialect.diskettePrefix));
+    return OutputPage::tr("a file (.%1) where you choose")
+        .arg(QString::fromUtf8(dialect.extension));
+}
+
+} // namespace
+
+OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
+    : QWidget(parent), m_workshop(workshop) {
+    setObjectName(QStringLiteral("picOutput"));
+    setProperty(helpContextProperty, helpOutput);
+    auto* const box = new QGroupBox(tr("Write the program for"));
+    box->setObjectName(QStringLiteral("fraOutput"));
+    auto* const options = new QGridLayout(box);
+    options->setColumnStretch(1, 1);
+    options->setHorizontalSpacing(16);
+    m_targets = new QButtonGroup(this);
+    const int remembered = ownSettings()->value(targetKey, targetKestra).toInt();
+    for (const Dialect& dialect : dialects()) {
+        // The access key is the code: two names begin alike.
+        auto* const option = new QRadioButton(
+            QStringLiteral("&%1  %2").arg(dialect.code).arg(QString::fromUtf8(dialect.name)));
+        option->setObjectName(QStringLiteral("optOutput%1").arg(dialect.code));
+        option->setAccessibleName(QString::fromUtf8(dialect.name));
+        option->setToolTip(QString::fromUtf8(dialect.name) + QStringLiteral(": ") +
+                           whereItGoes(dialect));
+        m_targets->addButton(option, dialect.code);
+        option->setChecked(dialect.code == remembered || m_targets->checkedButton() == nullptr);
+        options->addWidget(option, dialect.code - 1, 0);
+        auto* const where = new QLabel(whereItGoes(dialect));
+        where->setWordWrap(true);
+        options->addWidget(where, dialect.code - 1, 1);
+    }
+    auto* const layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(makePageTitle(tr("Output")));
+    layout->addWidget(box);
+    layout->addWidget(buildDrive());
+    layout->addStretch(1);
+    showDrive();
+}
+
+QWidget* OutputPage::buildDrive() {
+    auto* const box = new QGroupBox(tr("Diskette drive"));
+    box->setObjectName(QStringLiteral("fraDriveA"));
+    m_drive = new QLabel;
+    m_drive->setObjectName(QStringLiteral("lblDriveA"));
+    m_drive->setTextFormat(Qt::PlainText);
+    m_drive->setWordWrap(true);
+    auto* const change = new QPushButton(tr("&Change…"));
+    change->setObjectName(QStringLiteral("cmdDriveA"));
+    change->setAccessibleName(tr("Change where drive A: leads"));
+    change->setToolTip(tr("Choose the folder that stands for the diskette drive, for example a "
+                          "memory stick"));
+    connect(change, &QPushButton::clicked, this, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { changeDrive(); }, Qt::QueuedConnection);
+    });
+    auto* const layout = new QHBoxLayout(box);
+    layout->addWidget(m_drive, 1);
+    layout->addWidget(change, 0, Qt::AlignTop);
+    return box;
+}
+
+void OutputPage::changeDrive() {
+    QFileDialog dialog(this, tr("Choose the folder that stands for drive A:"),
+                       QString::fromStdString(utf8FromPath(driveA(m_workshop.registry))));
+    dialog.setObjectName(QStringLiteral("dlgDriveA"));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::string folder =
+        QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
+    if (folder.size() > Registry::maxValueBytes) {
+        m_workshop.messages.intStdMsgBox("The folder's name is too long to be remembered, please "
+                                         "choose another:\n" +
+                                             folder,
+                                         styleExclamation, usualTitle);
+        return;
+    }
+    m_workshop.registry.RegistryValuePut(driveASetting, folder);
+    showDrive();
+}
+
+void OutputPage::showDrive() {
+    const QString folder = QString::fromStdString(utf8FromPath(driveA(m_workshop.registry)));
+    if (folder.isEmpty())
+        m_drive->setText(
+            tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for it."));
+    else if (folder == QStringLiteral("a:\\"))
+        m_drive->setText(tr("a:\\ is the diskette drive itself"));
+    else
+        m_drive->setText(tr("a:\\ is %1").arg(breakablePath(folder)));
+}
+
+std::int16_t OutputPage::target() const {
+    return static_cast<std::int16_t>(m_targets->checkedId());
+}
+
+void OutputPage::rememberTarget() {
+    ownSettings()->setValue(targetKey, target());
+}
+
+void OutputPage::enter() {
+    showDrive();
+    m_targets->checkedButton()->setFocus();
+}
+
+} // namespace torvik

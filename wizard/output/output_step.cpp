@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/output/output_step.h"
+
+#include "answers/program_folder.h"
+#include "answers/put_saved_data.h"
+#include "base/error_trap.h"
+#include "base/errors.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "gcode/dialects.h"
+#include "gcode/output_file.h"
+#include "gcode/tool_check.h"
+#include "wizard/file_dialogs.h"
+#include "wizard/output/drive_a.h"
+#include "wizard/output/frm_menu.h"
+#include "wizard/output/frm_output.h"
+#include "wizard/workshop.h"
+
+#include <QGuiApplication>
+
+namespace torvik {
+namespace {
+
+// The hour-glass while a program is written.
+class BusyPointer {
+public:
+    BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
+} // namespace
+
+AfterOutput OutputStep::run(std::int16_t target) {
+    AfterOutput after = AfterOutput::nothing;
+    withErrorTrap(m_workshop.logger, {"Wizard", "frmMain"}, [&] {
+        const std::string group = groupWithoutTool(m_workshop.job, m_workshop.tools);
+        if (!group.empty()) {
+            m_workshop.messages.intStdMsgBox("Please choose a tool for " + group, styleExclamation,
+                                             usualTitle);
+            return;
+        }
+        const Dialect& dialect = dialectFor(target);
+        if (!dialect.needsNumber()) {
+            after = WriteFile(target, 0);
+            return;
+        }
+        for (;;) {
+            const std::int16_t number = askForNumber(dialect);
+            if (number == 0 || !waitForDiskette())
+                return;
+            if (mayOverwrite(proposedFileName(dialect, {}, number))) {
+                after = WriteFile(target, number);
+                return;
+            }
+        }
+    });
+    return after;
+}
+
+std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
+    for (;;) {
+        FrmOutput dialog(dialect, &m_window);
+        dialog.exec();
+        try {
+            const std::int16_t number = toInt16(leadingNumber(dialog.tag()));
+            if (number >= 0)
+                return number;
+        } catch (const Overflow&) {
+            // Told below, as a number that is less than nothing.
+        }
+        m_workshop.messages.intStdMsgBox("The program number may be 1 to 32767 only",
+                                         styleExclamation, usualTitle);
+    }
+}
+
+bool OutputStep::blnDisketteReady() const {
+    bool ready = false;
+    withErrorTrap(m_workshop.logger, {"blnDisketteReady", "modHpgl"},
+                  [&] { ready = isDriveReady(driveA(m_workshop.registry)); });
+    return ready;
+}
+
+bool OutputStep::waitForDiskette() {
+    while (!blnDisketteReady())
+        if (m_workshop.messages.intStdMsgBox("Please put a diskette into Drive A:",
+                                             styleRetryExclamation, usualTitle) != buttonRetry)
+            return false;
+    return true;
+}
+
+bool OutputStep::mayOverwrite(const std::string& name) {
+    if (!std::filesystem::exists(driveA(m_workshop.registry) / pathFromUtf8(name)))
+        return true;
+    return m_workshop.messages.intStdMsgBox("A file named " + name +
+                                                " already exists on the diskette\n"
+                                                "Do you want to overwrite it?",
+                                            styleQuestion, usualTitle) == buttonYes;
+}
+
+AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
+    AfterOutput after = AfterOutput::nothing;
+    withErrorTrap(m_workshop.logger, {"WriteFile", "modHpgl"}, [&] {
+        const Dialect& dialect = dialectFor(target);
+        const std::string proposed =
+            proposedFileName(dialect, m_workshop.job.drawing.gstrPlotFile, number);
+        const auto file =
+            dialect.needsNumber()
+                ? driveA(m_workshop.registry) / pathFromUtf8(proposed)
+                : strGetOutputFile(m_workshop.registry, m_workshop.messages, proposed, target,
+                                   pathFromUtf8(m_workshop.job.drawing.gstrPlotFile), &m_window);
+        if (file.empty() || !write(target, number, file))
+            return;
+        PutSavedData(m_workshop.job, m_workshop.tools, savedSettingsFolder(), m_workshop.logger);
+        m_workshop.job.output.gblnUnsaved = false;
+        after = showMenu(dialect.needsNumber() ? "a:\\" + proposed : utf8FromPath(file));
+    });
+    return after;
+}
+
+bool OutputStep::write(std::int16_t target, std::int16_t number,
+                       const std::filesystem::path& file) {
+    for (;;) {
+        WriteOutcome outcome{};
+        {
+            const BusyPointer busy;
+            outcome = torvik::WriteFile(m_workshop.job, m_workshop.tools, target, number, file,
+                                        m_workshop.logger);
+        }
+        if (outcome != WriteOutcome::notOpened)
+            return outcome == WriteOutcome::written;
+        if (m_workshop.messages.intStdMsgBox("Please make sure the diskette is writable",
+                                             styleRetryExclamation, usualTitle) != buttonRetry)
+            return false;
+    }
+}
+
+AfterOutput OutputStep::showMenu(const std::string& writtenFile) {
+    FrmMenu menu(QString::fromStdString(writtenFile), &m_window);
+    menu.exec();
+    const std::string word = menu.tag();
+    if (word == "Open")
+        return AfterOutput::openOther;
+    if (word == "Save")
+        return AfterOutput::saveOther;
+    return word == "Close" ? AfterOutput::close : AfterOutput::nothing;
+}
+
+} // namespace torvik

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/pens/pen_controls.h"
+
+#include "forms/help_key.h"
+#include "forms/number_box.h"
+#include "wizard/pens/pen_diagram.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QFont>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace torvik {
+namespace {
+
+const QColor grey(192, 192, 192);
+const QColor paleCyan(192, 255, 255);
+
+constexpr int widestContent = 80; // letters
+constexpr int columnCaption = 0;
+constexpr int columnBox = 1;
+constexpr int columnUnit = 2;
+// The check box stands above the peck distance that it opens.
+constexpr int gridRowPeck = static_cast<int>(rowPeck);
+
+struct ToolLabelText {
+    const char* name;
+    const char* caption;
+    const char* tip;
+};
+
+constexpr std::array<ToolLabelText, 3> toolLabelTexts{{
+    {"lblToolNumber", "Tool number", "The chosen tool's number in the tool list"},
+    {"lblToolType", "Tool type", "The chosen tool's type"},
+    {"lblToolDiameter", "Diameter (mm)", "The chosen tool's diameter in millimetres"},
+}};
+
+QLabel* makeLabel(QWidget& page, const QString& name, const QString& text = {}) {
+    auto* label = new QLabel(text, &page);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel* makeWrappedLabel(QWidget& page, const QString& name, const QString& text = {}) {
+    QLabel* label = makeLabel(page, name, text);
+    label->setWordWrap(true);
+    return label;
+}
+
+void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
+    controls.title = makeWrappedLabel(page, "lblDetTitle");
+    QFont font = controls.title->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.15);
+    controls.title->setFont(font);
+    // As wide as the page: beside the picture a line would end between a size and its unit.
+    layout.addWidget(controls.title);
+
+    controls.choice = new QButtonGroup(&page);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(6);
+    for (std::size_t i = 0; i < controls.optCut.size(); ++i) {
+        auto* option = new QRadioButton(&page);
+        option->setObjectName("optCut" + QString::number(i));
+        option->setToolTip(i == 0 ? "This part of the drawing is machined"
+                                  : "This part of the drawing is left out");
+        controls.choice->addButton(option, static_cast<int>(i));
+        controls.optCut[i] = option;
+        column->addWidget(option);
+    }
+
+    controls.diagram = new PenDiagram(&page);
+    controls.diagram->setObjectName("picCut");
+    controls.diagram->setToolTip("What the details below are about, seen from the side");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addLayout(column, 1);
+    row->setAlignment(column, Qt::AlignTop);
+    row->addWidget(controls.diagram, 0, Qt::AlignTop);
+    layout.addLayout(row);
+}
+
+void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
+    controls.toolPanel = new QWidget(&page);
+    controls.toolPanel->setObjectName("picTool");
+    auto* grid = new QGridLayout(controls.toolPanel);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(2);
+    for (std::size_t i = 0; i < toolLabelTexts.size(); ++i) {
+        const ToolLabelText& about = toolLabelTexts[i];
+        const int column = static_cast<int>(i);
+        grid->addWidget(
+            makeLabel(*controls.toolPanel, QString(about.name) + "Caption", about.caption), 0,
+            column);
+        QLabel* label = makeLabel(*controls.toolPanel, about.name);
+        label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | QFrame::Sunken);
+        label->setAlignment(Qt::AlignCenter);
+        label->setAutoFillBackground(true);
+        label->setMargin(3);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        controls.toolLabels[i] = label;
+        grid->addWidget(label, 1, column);
+        grid->setColumnStretch(column, i == toolType ? 3 : 2);
+    }
+    controls.cmdTool = new QPushButton("Choose too&l...", controls.toolPanel);
+    controls.cmdTool->setObjectName("cmdTool");
+    controls.cmdTool->setAccessibleName("Choose tool");
+    controls.cmdTool->setToolTip("Opens the tool list to choose the tool for this page");
+    controls.cmdTool->setAutoDefault(false);
+    grid->addWidget(controls.cmdTool, 1, static_cast<int>(toolLabelTexts.size()));
+    layout.addWidget(controls.toolPanel);
+}
+
+void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(6);
+    grid->setColumnStretch(columnCaption, 1);
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        const QString number = QString::number(i);
+        const int gridRow = static_cast<int>(i) + (i >= rowPeck ? 1 : 0);
+        controls.lblDet[i] = makeWrappedLabel(page, "lblDet" + number);
+        controls.txtDet[i] = new NumberBox(false, &page);
+        controls.txtDet[i]->setObjectName("txtDet" + number);
+        controls.lblUnit[i] = makeLabel(page, "lblUnit" + number);
+        controls.lblDet[i]->setBuddy(controls.txtDet[i]);
+        grid->addWidget(controls.lblDet[i], gridRow, columnCaption);
+        grid->addWidget(controls.txtDet[i], gridRow, columnBox);
+        grid->addWidget(controls.lblUnit[i], gridRow, columnUnit);
+    }
+    controls.chkPeck = new QCheckBox("Drill in &pecks", &page);
+    controls.chkPeck->setObjectName("chkPeck");
+    controls.chkPeck->setAccessibleName("Drill in pecks");
+    controls.chkPeck->setToolTip("The drill comes up after each peck to clear the hole of chips");
+    controls.chkPeck->setProperty(helpContextProperty, penRows(PenForm::drilling)[rowPeck].help);
+    grid->addWidget(controls.chkPeck, gridRowPeck, columnCaption, 1, 3);
+    layout.addLayout(grid);
+
+    controls.holesFollow = makeWrappedLabel(
+        page, "lblHolesFollow",
+        "The circles are drilled as holes. The next pages ask for the details of each hole size.");
+    layout.addWidget(controls.holesFollow);
+}
+
+void setTabOrder(const PenControls& controls) {
+    QWidget* last = controls.optCut[0];
+    const auto then = [&](QWidget* next) {
+        QWidget::setTabOrder(last, next);
+        last = next;
+    };
+    then(controls.optCut[1]);
+    then(controls.cmdTool);
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        if (i == rowPeck)
+            then(controls.chkPeck);
+        then(controls.txtDet[i]);
+    }
+}
+
+} // namespace
+
+PenControls makePenControls(QWidget& page) {
+    PenControls controls;
+    // On a wide page the boxes stay near their captions.
+    auto* content = new QWidget(&page);
+    content->setMaximumWidth(widestContent * page.fontMetrics().averageCharWidth());
+    auto* outer = new QHBoxLayout(&page);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(content, 100);
+    outer->addStretch(1);
+
+    auto* layout = new QVBoxLayout(content);
+    layout->setSpacing(12);
+    makeHead(controls, *content, *layout);
+    makeToolPanel(controls, *content, *layout);
+    makeRows(controls, *content, *layout);
+    layout->addStretch();
+    setTabOrder(controls);
+    return controls;
+}
+
+void showPenRows(const PenControls& controls, PenForm form, std::string_view feedUnits,
+                 bool asked) {
+    const auto rows = penRows(form);
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        const bool visible = asked && i < rows.size();
+        for (QWidget* widget :
+             {static_cast<QWidget*>(controls.lblDet[i]), static_cast<QWidget*>(controls.txtDet[i]),
+              static_cast<QWidget*>(controls.lblUnit[i])})
+            widget->setVisible(visible);
+        if (i >= rows.size())
+            continue;
+        const QString caption = QString::fromStdString(rowCaption(rows[i], feedUnits));
+        const QString tip =
+            QString::fromUtf8(rows[i].tip.data(), static_cast<qsizetype>(rows[i].tip.size()));
+        controls.lblDet[i]->setText(caption);
+        controls.lblUnit[i]->setText(QString::fromStdString(rowUnit(rows[i], feedUnits)));
+        controls.txtDet[i]->setAccessibleName(caption);
+        controls.txtDet[i]->setToolTip(tip);
+        controls.lblDet[i]->setToolTip(tip);
+        controls.lblDet[i]->setProperty(helpContextProperty, rows[i].help);
+        controls.txtDet[i]->setProperty(helpContextProperty, rows[i].help);
+    }
+    controls.chkPeck->setVisible(asked && form == PenForm::drilling);
+    controls.toolPanel->setVisible(asked);
+    controls.cmdTool->setVisible(asked);
+    controls.holesFollow->setVisible(!asked);
+    controls.diagram->setForm(form);
+}
+
+void openBox(NumberBox& box, bool open) {
+    box.setEnabled(open);
+    box.setReadOnly(!open);
+    QPalette palette; // an empty one follows the system's
+    if (!open) {
+        palette.setColor(QPalette::Base, grey);
+        palette.setColor(QPalette::Text, QColor(64, 64, 64));
+    }
+    box.setPalette(palette);
+}
+
+void setToolLabel(const PenControls& controls, std::size_t label, const QString& text) {
+    const ToolLabelText& about = toolLabelTexts[label];
+    controls.toolLabels[label]->setText(text);
+    controls.toolLabels[label]->setAccessibleName(QString(about.caption) + ": " +
+                                                  (text.isEmpty() ? "none" : text));
+    // A long type is cut off in its label.
+    controls.toolLabels[label]->setToolTip(
+        text.isEmpty() ? about.tip
+                       : QString("<span>%1: %2</span>").arg(about.tip, text.toHtmlEscaped()));
+}
+
+void colourToolLabels(const PenControls& controls, bool leftOut) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, leftOut ? grey : paleCyan);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    for (QLabel* label : controls.toolLabels)
+        label->setPalette(palette);
+}
+
+} // namespace torvik

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+// The settings on the page: shown, stored, followed and checked.
+#include "answers/pen_position.h"
+#include "answers/pen_values.h"
+#include "base/picture.h"
+#include "forms/number_box.h"
+#include "wizard/pens/pen_page.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+namespace torvik {
+namespace {
+
+constexpr int wholeText = 99; // letters that a refused box has selected
+
+} // namespace
+
+bool PenPage::asksForDetails() const {
+    const Job& job = m_workshop.job;
+    return !currentPen(job).blnOmit && !isOwnPageOfDrilledPen(job);
+}
+
+void PenPage::ShowDetails() {
+    const bool shown = withErrorTrap(m_workshop.logger, {"ShowDetails", "modHpgl"}, [&] {
+        showDetails();
+        FinalDepth(0);
+    });
+    if (!shown) // half a page is not to be passed
+        m_host.setNextEnabled(false);
+}
+
+void PenPage::showDetails() {
+    const QScopedValueRollback hold(m_busy, true);
+    Job& job = m_workshop.job;
+    const PenForm form = currentForm(job);
+    const Settings& settings = currentSettings(job);
+    m_controls.title->setText(
+        QString::fromStdString("Please give the details for the " + torvik::strToolTitle(job)));
+    showPenRows(m_controls, form, job.answers.gstrFeedUnits, !isOwnPageOfDrilledPen(job));
+    m_controls.chkPeck->setChecked(settings.blnPeck);
+    showTool();
+
+    PenBoxes shown = boxes();
+    shown.text = shownTexts(settings, form, job.answers.gsngFeedFactor);
+    if (m_shown == std::pair(job.position.gintCurrentSettings, form))
+        keepTypedZeros(shown.text);
+    m_shown = {job.position.gintCurrentSettings, form};
+    for (std::size_t i = 0; i <= rowPass; ++i)
+        shown.enabled[i] = isEditableRow(i);
+    writeBoxes(shown);
+
+    if (!hasTool(settings, m_workshop.tools)) {
+        m_controls.cmdTool->setEnabled(false);
+        select(noChoice);
+    }
+    show();
+    ShowState();
+    focusFirstEmptyBox();
+}
+
+void PenPage::showTool() {
+    const Settings& settings = currentSettings(m_workshop.job);
+    std::array<std::string, 3> texts;
+    if (hasTool(settings, m_workshop.tools)) {
+        const Tool& tool = toolAt(m_workshop.tools, settings.intTool);
+        texts = {formatInteger(tool.intNumber), tool.strType, formatFixed(tool.sngDiameter, 3)};
+    }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        setToolLabel(m_controls, i, QString::fromStdString(texts[i]));
+}
+
+// A box that shows nothing because its number is zero keeps the zero that the user typed.
+void PenPage::keepTypedZeros(PenTexts& texts) const {
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        const std::string typed = m_controls.txtDet[i]->text().toStdString();
+        if (texts[i].empty() && boxNumber(typed) == 0)
+            texts[i] = typed;
+    }
+}
+
+bool PenPage::isEditableRow(std::size_t row) const {
+    const Job& job = m_workshop.job;
+    const Settings& settings = job.answers.gudtSettings[job.position.gintCurrentSettings];
+    if (currentPen(job).blnOmit)
+        return false;
+    return row != rowPeck || currentForm(job) == PenForm::cutting || settings.blnPeck ||
+           !hasTool(settings, m_workshop.tools);
+}
+
+PenBoxes PenPage::boxes() const {
+    PenBoxes state;
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        const NumberBox& box = *m_controls.txtDet[i];
+        state.text[i] = box.text().toStdString();
+        state.enabled[i] = box.isEnabledTo(this) && box.isVisibleTo(this);
+    }
+    return state;
+}
+
+void PenPage::writeBoxes(const PenBoxes& state) {
+    for (std::size_t i = 0; i < penRowCount; ++i) {
+        NumberBox& box = *m_controls.txtDet[i];
+        const QString text = QString::fromStdString(state.text[i]);
+        if (box.text() != text) {
+            box.setText(text);
+            if (box.hasFocus()) // the user is typing here: the next digit replaces what came
+                box.selectAll();
+        }
+        openBox(box, state.enabled[i]);
+    }
+}
+
+void PenPage::focusFirstEmptyBox() {
+    for (std::size_t i = 0; i <= rowPass; ++i) {
+        NumberBox& box = *m_controls.txtDet[i];
+        if (!box.text().isEmpty())
+            continue;
+        if (box.isVisibleTo(this) && box.isEnabledTo(this))
+            box.setFocus();
+        return;
+    }
+}
+
+bool PenPage::SaveDetails() {
+    bool kept = false;
+    withErrorTrap(m_workshop.logger, {"SaveDetails", "modHpgl"}, [&] {
+        if (!asksForDetails()) {
+            kept = true;
+            return;
+        }
+        Job& job = m_workshop.job;
+        const PenForm form = currentForm(job);
+        const auto refused =
+            storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form,
+                       job.answers.gsngFeedFactor, m_workshop.tools, currentSettings(job));
+        if (refused)
+            refuse(*refused, cannotBeStored(form, *refused));
+        kept = !refused;
+    });
+    return kept;
+}
+
+void PenPage::FinalDepth(std::int16_t Index) {
+    if (m_busy)
+        return;
+    const QScopedValueRollback busy(m_busy, true);
+    quietly(m_finalDepthFailed, "FinalDepth", [&] {
+        const Job& job = m_workshop.job;
+        if (asksForDetails()) {
+            PenBoxes state = boxes();
+            followFinalDepth(state, static_cast<std::size_t>(Index), currentForm(job),
+                             job.answers.gsngFeedFactor);
+            writeBoxes(state);
+        }
+        m_host.setNextEnabled(blnInputComplete());
+    });
+}
+
+bool PenPage::blnInputComplete() {
+    bool complete = false;
+    quietly(m_inputCompleteFailed, "blnInputComplete", [&] {
+        complete = !asksForDetails() || (!m_controls.toolLabels[toolNumber]->text().isEmpty() &&
+                                         allEditableFilled(boxes()));
+    });
+    return complete;
+}
+
+bool PenPage::blnInputValid() {
+    bool valid = false;
+    withErrorTrap(m_workshop.logger, {"blnInputValid", "modHpgl"}, [&] {
+        Job& job = m_workshop.job;
+        const auto fault = asksForDetails()
+                               ? inputFault(boxes(), currentForm(job), currentSettings(job).blnPeck)
+                               : std::nullopt;
+        valid = !fault;
+        if (fault)
+            refuse(fault->row, fault->message);
+    });
+    return valid;
+}
+
+void PenPage::refuse(std::size_t row, const std::string& message) {
+    NumberBox& box = *m_controls.txtDet[row];
+    box.setSelection(0, wholeText);
+    m_workshop.messages.intStdMsgBox(message, styleExclamation, usualTitle);
+    // The peck distance may be closed: its check box is the way to it.
+    if (box.isEnabledTo(this))
+        box.setFocus();
+    else
+        m_controls.chkPeck->setFocus();
+}
+
+void PenPage::chkPeck_Click() {
+    if (!isCurrentStep())
+        return;
+    withErrorTrap(m_workshop.logger, {"chkPeck_Click", "frmMain"}, [&] {
+        const QScopedValueRollback hold(m_busy, true);
+        m_controls.txtDet[rowPeck]->clear();
+        openBox(*m_controls.txtDet[rowPeck], m_controls.chkPeck->isChecked());
+        m_host.setNextEnabled(blnInputComplete());
+    });
+}
+
+} // namespace torvik
