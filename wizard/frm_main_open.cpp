@@ -7,9 +7,9 @@
 #include "prepare/dialog/dragged_source.h"
 #include "preview/preview_widget.h"
 #include "wizard/colour_tree_view.h"
-#include "wizard/file_dialogs.h"
 #include "wizard/frm_main.h"
 #include "wizard/globals_page.h"
+#include "wizard/output/file_dialogs.h"
 #include "wizard/recent_drawings.h"
 
 #include <QDragEnterEvent>

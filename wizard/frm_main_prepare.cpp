@@ -7,8 +7,8 @@
 #include "job/hpgl_reader.h"
 #include "prepare/dialog/frm_prepare.h"
 #include "prepare/source/skipped.h"
-#include "wizard/file_dialogs.h"
 #include "wizard/frm_main.h"
+#include "wizard/output/file_dialogs.h"
 #include "wizard/pens/pen_controls.h"
 
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 #include "wizard/recent_drawings.h"
 
 #include "base/files.h"
-#include "wizard/own_settings.h"
+#include "wizard/output/own_settings.h"
 
 #include <QFileInfo>
 

@@ -6,7 +6,7 @@
 #include "forms/help_key.h"
 #include "gcode/dialects.h"
 #include "wizard/output/drive_a.h"
-#include "wizard/own_settings.h"
+#include "wizard/output/own_settings.h"
 #include "wizard/pens/pen_controls.h"
 #include "wizard/workshop.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wizard/own_settings.h"
+#include "wizard/output/own_settings.h"
 
 namespace torvik {
 

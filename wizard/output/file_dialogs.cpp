@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wizard/file_dialogs.h"
+#include "wizard/output/file_dialogs.h"
 
 #include "answers/program_folder.h"
 #include "base/files.h"
