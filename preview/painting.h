@@ -3,7 +3,7 @@
 // both pictures are painted into.
 #pragma once
 
-#include "preview/colour.h"
+#include "forms/colour.h"
 #include "preview/outlines.h"
 
 #include <QImage>

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "answers/kept_answers.h"
-#include "wizard/frame_services.h"
-#include "wizard/wizard_host.h"
-#include "wizard/workshop.h"
+#include "wizard/host/frame_services.h"
+#include "wizard/host/wizard_host.h"
+#include "wizard/host/workshop.h"
 
 #include <QApplication>
 #include <QMainWindow>

@@ -8,9 +8,9 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
+#include "wizard/host/wizard_host.h"
+#include "wizard/host/workshop.h"
 #include "wizard/pens/pen_controls.h"
-#include "wizard/wizard_host.h"
-#include "wizard/workshop.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>

@@ -4,9 +4,9 @@
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
 #include "base/text.h"
+#include "forms/dialog_places.h"
 #include "forms/form_fields.h"
-#include "tools/dialogs/dialog_places.h"
-#include "wizard/workshop.h"
+#include "wizard/host/workshop.h"
 
 #include <QDate>
 #include <QGridLayout>

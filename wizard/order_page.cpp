@@ -3,13 +3,13 @@
 
 #include "base/error_trap.h"
 #include "base/numbers.h"
+#include "forms/dialog_places.h"
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "job/pens.h"
-#include "tools/dialogs/dialog_places.h"
+#include "wizard/host/workshop.h"
 #include "wizard/pen_pictures.h"
 #include "wizard/pens/pen_controls.h"
-#include "wizard/workshop.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/pen_pictures.h"
 
+#include "forms/colour.h"
 #include "job/job.h"
-#include "preview/colour.h"
 
 #include <QCoreApplication>
 #include <QPainter>

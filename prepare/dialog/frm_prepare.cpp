@@ -4,9 +4,9 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "forms/file_choice.h"
 #include "prepare/dialog/before_after.h"
 #include "prepare/dialog/dragged_source.h"
-#include "prepare/dialog/file_choice.h"
 #include "prepare/dialog/option_panel.h"
 #include "prepare/dialog/pen_list.h"
 #include "prepare/files/drawing_files.h"

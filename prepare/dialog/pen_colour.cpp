@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/dialog/pen_colour.h"
 
+#include "forms/colour.h"
 #include "job/job.h"
 #include "job/pens.h"
-#include "preview/colour.h"
 
 #include <QPainter>
 

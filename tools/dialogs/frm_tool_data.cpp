@@ -5,7 +5,7 @@
 #include "base/numbers.h"
 #include "base/picture.h"
 #include "base/std_message_box.h"
-#include "tools/dialogs/dialog_places.h"
+#include "forms/dialog_places.h"
 #include "tools/dialogs/filtered_box.h"
 #include "tools/dialogs/frm_tool_type.h"
 #include "tools/dialogs/type_lists.h"

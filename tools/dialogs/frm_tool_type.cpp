@@ -5,7 +5,7 @@
 #include "base/numbers.h"
 #include "base/std_message_box.h"
 #include "base/text.h"
-#include "tools/dialogs/dialog_places.h"
+#include "forms/dialog_places.h"
 #include "tools/dialogs/type_lists.h"
 #include "tools/tool_edits.h"
 #include "tools/tool_store.h"

@@ -4,8 +4,8 @@
 #include "answers/program_folder.h"
 #include "base/files.h"
 #include "base/std_message_box.h"
+#include "forms/file_choice.h"
 #include "gcode/dialects.h"
-#include "prepare/dialog/file_choice.h"
 #include "tools/registry.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/output/frm_menu.h"
 
+#include "forms/dialog_places.h"
 #include "forms/form_fields.h"
-#include "tools/dialogs/dialog_places.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/output/frm_output.h"
 
+#include "forms/dialog_places.h"
 #include "gcode/dialects.h"
-#include "tools/dialogs/dialog_places.h"
 #include "tools/dialogs/filtered_box.h"
 
 #include <QDialogButtonBox>

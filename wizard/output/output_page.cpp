@@ -5,10 +5,9 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "gcode/dialects.h"
+#include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/own_settings.h"
-#include "wizard/pens/pen_controls.h"
-#include "wizard/workshop.h"
 
 #include <QButtonGroup>
 #include <QDir>

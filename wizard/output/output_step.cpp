@@ -10,11 +10,11 @@
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/tool_check.h"
+#include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/file_dialogs.h"
 #include "wizard/output/frm_menu.h"
 #include "wizard/output/frm_output.h"
-#include "wizard/workshop.h"
 
 #include <QGuiApplication>
 

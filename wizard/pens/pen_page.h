@@ -6,9 +6,9 @@
 
 #include "answers/pen_checks.h"
 #include "base/error_trap.h"
+#include "wizard/host/wizard_host.h"
+#include "wizard/host/workshop.h"
 #include "wizard/pens/pen_controls.h"
-#include "wizard/wizard_host.h"
-#include "wizard/workshop.h"
 
 #include <QWidget>
 

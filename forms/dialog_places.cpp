@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/dialogs/dialog_places.h"
+#include "forms/dialog_places.h"
 
 #include <QDialog>
 #include <QPushButton>

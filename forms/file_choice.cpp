@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "prepare/dialog/file_choice.h"
+#include "forms/file_choice.h"
 
 #include "base/files.h"
 
