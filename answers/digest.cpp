@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "answers/digest.h"
 
-#include "base/errors.h"
 #include "base/files.h"
+#include "job/hpgl_reader.h"
 
 #include <array>
-#include <fstream>
 #include <string_view>
 #include <vector>
 
@@ -40,8 +39,9 @@ public:
     Md5(const Md5&) = delete;
     Md5& operator=(const Md5&) = delete;
 
-    void add(std::vector<char>& bytes, std::size_t size) {
-        BCryptHashData(m_hash, reinterpret_cast<PUCHAR>(bytes.data()), static_cast<ULONG>(size), 0);
+    void add(std::string_view bytes) {
+        std::vector<unsigned char> copy(bytes.begin(), bytes.end()); // it takes no constant bytes
+        BCryptHashData(m_hash, copy.data(), static_cast<ULONG>(copy.size()), 0);
     }
     Digest finish() {
         Digest digest{};
@@ -60,8 +60,8 @@ class Md5 {
 public:
     Md5() { MD5Init(&m_context); }
 
-    void add(const std::vector<char>& bytes, std::size_t size) {
-        MD5Update(&m_context, reinterpret_cast<const unsigned char*>(bytes.data()), size);
+    void add(std::string_view bytes) {
+        MD5Update(&m_context, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
     }
     Digest finish() {
         Digest digest{};
@@ -87,20 +87,14 @@ std::string hexadecimal(const Digest& digest) {
 
 } // namespace
 
-std::string strDigestFile(const std::filesystem::path& path) {
-    requireReadable(path);
-    std::ifstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0);
-    file.open(path, std::ios::binary);
+std::string digestOf(std::string_view bytes) {
     Md5 digest;
-    std::vector<char> block(std::size_t{1} << 16);
-    while (file) {
-        file.read(block.data(), static_cast<std::streamsize>(block.size()));
-        digest.add(block, static_cast<std::size_t>(file.gcount()));
-    }
-    if (file.bad())
-        throw FileError(utf8FromPath(path), "the file cannot be read to its end");
+    digest.add(bytes);
     return hexadecimal(digest.finish());
+}
+
+std::string strDigestFile(const std::filesystem::path& path) {
+    return digestOf(readWholeFile(path, maxDrawingBytes));
 }
 
 } // namespace torvik

@@ -4,10 +4,13 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace torvik {
 
-// In lower-case hexadecimal. Raises FileError where the file cannot be read.
+// In lower-case hexadecimal.
+std::string digestOf(std::string_view bytes);
+// The same of a file. Raises FileError where it cannot be read or is too large for a drawing.
 std::string strDigestFile(const std::filesystem::path& path);
 
 } // namespace torvik

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "answers/import_drawing.h"
 
+#include "answers/digest.h"
 #include "answers/saved_names.h"
 #include "base/files.h"
 #include "job/colour_tree.h"
@@ -30,11 +31,14 @@ ImportResult importDrawingWithAnswers(Job& job, const std::filesystem::path& dra
 }
 
 bool readDrawing(Job& job, const std::filesystem::path& drawing, Logger& logger) {
-    if (blnGetCommands(job, drawing, logger) && SetUpPens(job, logger))
+    std::string digest;
+    if (blnGetCommands(job, drawing, logger,
+                       [&](std::string_view bytes) { digest = digestOf(bytes); }) &&
+        SetUpPens(job, logger)) {
+        job.drawing.gstrDigest = std::move(digest);
         return true;
+    }
     ClearData(job);
-    job.drawing.gstrPlotFile.clear();
-    job.output.gblnUnsaved = false;
     return false;
 }
 

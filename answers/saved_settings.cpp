@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "answers/saved_settings.h"
 
-#include "answers/digest.h"
 #include "answers/saved_answers.h"
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
@@ -46,7 +45,6 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
     withQuietErrorTrap(logger, {"GetSavedData", "modHpgl"}, [&] {
         try {
             job.answers.gstrSavedFile = utf8FromPath(file);
-            job.drawing.gstrDigest = strDigestFile(pathFromUtf8(job.drawing.gstrPlotFile));
             data.outcome = takeFile(job, tools, file, logger);
         } catch (const RunTimeError& error) {
             data = {SavedOutcome::damaged, error.what()};

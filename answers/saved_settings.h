@@ -24,9 +24,9 @@ struct SavedData {
     std::string damage; // "FILE, line N: cause", for a damaged file only
 };
 
-// Takes over the answers kept for the drawing that was just read. Sets gstrDigest and
-// gstrSavedFile; all else of the job changes only where the outcome is "taken", and gblnSavedFound
-// is then set. A damaged file is logged.
+// Takes over the answers kept for the drawing that was just read, whose digest stands in the job
+// already. Sets gstrSavedFile; all else of the job changes only where the outcome is "taken", and
+// gblnSavedFound is then set. A damaged file is logged.
 SavedData GetSavedData(Job& job, const ToolList& tools, const std::filesystem::path& folder,
                        Logger& logger);
 

@@ -40,7 +40,11 @@ std::string utf8FromPath(const std::filesystem::path& path) {
 }
 
 void requireReadable(const std::filesystem::path& path) {
-    openForReading(path);
+    std::error_code unknown;
+    const auto type = std::filesystem::status(path, unknown).type();
+    // A pipe gives its bytes to the first who opens it.
+    if (type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
+        openForReading(path);
 }
 
 std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit) {

@@ -12,7 +12,8 @@ namespace torvik {
 std::filesystem::path pathFromUtf8(std::string_view name);
 std::string utf8FromPath(const std::filesystem::path& path);
 
-// Raises FileError where the file does not exist, is a folder, or cannot be opened for reading.
+// Raises FileError where the file does not exist, is a folder, or cannot be opened for reading. A
+// pipe is not opened.
 void requireReadable(const std::filesystem::path& path);
 
 // The bytes of a file of at most `limit` bytes. Raises FileError where it cannot be opened, is a

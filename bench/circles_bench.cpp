@@ -15,7 +15,7 @@ void recogniseCircles(benchmark::State& state) {
     constexpr long sizes = 1000;
     Logger logger;
     Job job;
-    readInstructions(job, circleDrawing(state.range(0), sizes), "drawing", logger);
+    readInstructions(job.drawing, circleDrawing(state.range(0), sizes), "drawing", logger);
     for (auto _ : state)
         SetUpPens(job, logger);
     if (job.answers.gudtPens[1].intRadiusCount != sizes)

@@ -31,7 +31,7 @@ constexpr float drill = 1;
 class Preview {
 public:
     Preview(std::string drawing, bool drilled, std::int64_t pixelRatio) {
-        readInstructions(m_job, std::move(drawing), "drawing", m_logger);
+        readInstructions(m_job.drawing, std::move(drawing), "drawing", m_logger);
         SetUpPens(m_job, m_logger);
         m_job.answers.gudtPens[1].blnDrill = drilled;
         for (Settings& settings : m_job.answers.gudtSettings) {

@@ -24,7 +24,7 @@ void readFromMemory(benchmark::State& state, const std::string& drawing) {
     Job job;
     for (auto _ : state) {
         job = Job();
-        readInstructions(job, drawing, "drawing", logger);
+        readInstructions(job.drawing, drawing, "drawing", logger);
     }
     count(state, drawing, job);
 }

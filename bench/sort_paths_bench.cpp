@@ -15,7 +15,7 @@ namespace {
 void sortPaths(benchmark::State& state) {
     Logger logger;
     Job job;
-    readInstructions(job, lineDrawing(state.range(0)), "drawing", logger);
+    readInstructions(job.drawing, lineDrawing(state.range(0)), "drawing", logger);
     for (std::int16_t i = 1; i <= job.drawing.gintPathCount; ++i)
         job.drawing.gudtPaths[i].sngSortKey = static_cast<float>(i * 5 % penCount);
     for (auto _ : state)

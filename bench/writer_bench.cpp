@@ -28,7 +28,7 @@ private:
 // The drawing with pen 1 cut in ten passes.
 Job jobInTenPasses(std::string drawing, Logger& logger) {
     Job job;
-    readInstructions(job, std::move(drawing), "drawing", logger);
+    readInstructions(job.drawing, std::move(drawing), "drawing", logger);
     SetUpPens(job, logger);
     Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
     settings.intTool = 1;

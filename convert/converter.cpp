@@ -69,7 +69,7 @@ private:
         Job job;
         if (!readDrawing(job, drawing, m_logger))
             throw Failure{ExitCode::job, takeLastReport()};
-        m_out << describeDrawing(job, readWholeFile(drawing, maxDrawingBytes));
+        m_out << describeDrawing(job);
     }
 
     void convert(std::size_t i) {

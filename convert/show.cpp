@@ -5,7 +5,6 @@
 #include "job/extents.h"
 #include "job/job.h"
 #include "job/pens.h"
-#include "prepare/source/skipped.h"
 
 namespace torvik {
 namespace {
@@ -72,13 +71,13 @@ std::string asArgument(const std::string& name) {
     return name.find(' ') == std::string::npos ? name : "\"" + name + "\"";
 }
 
-std::string skippedText(const Job& job, std::string_view bytes) {
-    const SkippedInstructions skipped = countSkipped(bytes);
-    const long all = skipped.harmful + skipped.harmless;
+std::string skippedText(const Drawing& drawing) {
+    const Reading& reading = drawing.reading;
+    const long all = reading.lost + reading.harmless;
     std::string text = "Skipped: " + amount(all, "instruction");
-    if (skipped.harmful > 0)
-        text += ", " + formatInteger(skipped.harmful) + " with effect on the drawing; " +
-                "torvik-prepare " + asArgument(job.drawing.gstrPlotFile) +
+    if (reading.lost > 0)
+        text += ", " + formatInteger(reading.lost) + " with effect on the drawing; " +
+                "torvik-prepare " + asArgument(drawing.gstrPlotFile) +
                 " makes one that is read completely";
     else if (all > 0)
         text += ", none with effect on the drawing";
@@ -87,13 +86,13 @@ std::string skippedText(const Job& job, std::string_view bytes) {
 
 } // namespace
 
-std::string describeDrawing(const Job& job, std::string_view bytes) {
+std::string describeDrawing(const Job& job) {
     std::string text = "Drawing: " + job.drawing.gstrPlotFile + "\n" +
                        "Elements: " + countsText(countElements(job, 0)) + "\n" + extentsText(job);
     for (std::int16_t pen = 1; pen <= penCount; ++pen)
         if (job.answers.gudtPens[pen].blnUsed)
             text += penText(job, pen);
-    return text + skippedText(job, bytes);
+    return text + skippedText(job.drawing);
 }
 
 } // namespace torvik

@@ -10,7 +10,6 @@ namespace torvik {
 
 struct Job;
 
-// `bytes` is the file that the job was read from.
-std::string describeDrawing(const Job& job, std::string_view bytes);
+std::string describeDrawing(const Job& job);
 
 } // namespace torvik

@@ -76,7 +76,7 @@ void read(std::string bytes) {
     Job job;
     Logger logger;
     try {
-        readInstructions(job, std::move(bytes), "drawing", logger);
+        readInstructions(job.drawing, std::move(bytes), "drawing", logger);
     } catch (const FileError& error) {
         holds(error.line() > 0, "a refusal names the line");
         return;

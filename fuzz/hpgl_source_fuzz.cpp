@@ -8,7 +8,6 @@
 #include "job/hpgl_reader.h"
 #include "prepare/prepare.h"
 #include "prepare/report.h"
-#include "prepare/source/skipped.h"
 
 #include <cmath>
 #include <cstdint>
@@ -55,7 +54,7 @@ bool isNear(const StrokeExtents& extents) {
 
 void prepare(const SourceDrawing& source, const PrepareOptions& options) {
     const PreparedDrawing prepared = prepareDrawing(source, options);
-    holds(countSkipped(prepared.text).harmful == 0, "nothing of a prepared drawing is skipped");
+    holds(isPlainDrawing(prepared.text), "a prepared drawing is read whole");
     holds(prepared.report.fit.largestDeviation <= options.tolerance * plotterUnitsPerMm,
           "own points keep to the tolerance");
     holds(!reportText("drawing", prepared.report).empty(), "there is a report");
@@ -72,7 +71,6 @@ void prepare(const SourceDrawing& source, const PrepareOptions& options) {
 void run(std::uint8_t choice, std::string_view bytes) {
     HpglSourceOptions options;
     options.segmentLimit = 5'000;
-    countSkipped(bytes);
     SourceDrawing source;
     try {
         source = readHpgl(bytes, "drawing", options);

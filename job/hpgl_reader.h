@@ -6,11 +6,13 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
 namespace torvik {
 
+struct Drawing;
 struct Job;
 class Logger;
 
@@ -18,14 +20,21 @@ class Logger;
 inline constexpr std::size_t maxDrawingBytes = std::size_t{256} << 20;
 inline constexpr double plotterUnitsPerMm = 40.0;
 
-// Clears the job and reads the file into gudtPaths; gstrPlotFile becomes the name as given. True
-// when the drawing was read; gblnUnsaved is then set. A file that cannot be read, a number that
-// does not fit, more than 32767 elements, or a pen outside 1 to 8 that draws is logged and
-// reported with file, line and cause; the job is then empty.
-bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger);
+// Clears the job and reads the file, once, into gudtPaths; gstrPlotFile becomes the name as given.
+// `seen` gets the bytes of the file before they are read. True when the drawing was read;
+// gblnUnsaved is then set. A file that cannot be read, a number that does not fit, more than 32767
+// elements, or a pen outside 1 to 8 that draws is logged and reported with file, line and cause;
+// the job is then empty.
+bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger,
+                    const std::function<void(std::string_view bytes)>& seen = {});
 
-// The same from the bytes of a file; raises FileError and leaves the job as far as it got.
+// The same from the bytes of a file; raises FileError and leaves the drawing as far as it got.
 // `fileName` is for the messages.
-void readInstructions(Job& job, std::string bytes, std::string_view fileName, Logger& logger);
+void readInstructions(Drawing& drawing, std::string bytes, std::string_view fileName,
+                      Logger& logger);
+
+// Whether a file of these bytes holds nothing but the five instructions, as they are to be written,
+// and IN. In such a drawing an arc is drawn with the pen up, too.
+bool isPlainDrawing(std::string bytes);
 
 } // namespace torvik

@@ -5,6 +5,7 @@
 
 #include "base/arrays.h"
 #include "job/colour_tree.h"
+#include "job/reading.h"
 #include "job/records.h"
 
 #include <cstdint>
@@ -34,6 +35,7 @@ struct Drawing {
     OneBasedArray<Path> gudtPaths; // in file order
     std::int16_t gintPathCount = 0;
     OneBasedArray<std::int16_t> gintPathOrder; // in drawing order, see SortPaths
+    Reading reading;                           // what of the file the paths do not tell
 };
 
 // What is asked for, pen by pen and for the whole part: set up for a drawing, then given by the

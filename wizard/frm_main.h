@@ -98,7 +98,6 @@ private:
     void warnOfEmptyDrawing();
     // Says in the status bar how much of the drawing was not read; 0 hides the line.
     void showSkipped(long instructions);
-    void countSkippedIn(const std::filesystem::path& drawing);
     void writeOutput();
     // tmrToolSelect has run out: the tool selection, then PenPage::ToolSelection.
     void selectTool();

@@ -67,7 +67,7 @@ void FrmMain::importFrom(const std::filesystem::path& drawing) {
     m_kept.giveBack(job);
     CreateTree(job, m_workshop.logger);
     addRecentDrawing(fullPath);
-    countSkippedIn(fullPath);
+    showSkipped(job.drawing.reading.lost);
     layOutImported();
 }
 

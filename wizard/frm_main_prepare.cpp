@@ -4,9 +4,7 @@
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/help_key.h"
-#include "job/hpgl_reader.h"
 #include "prepare/dialog/frm_prepare.h"
-#include "prepare/source/skipped.h"
 #include "wizard/frm_main.h"
 #include "wizard/output/file_dialogs.h"
 #include "wizard/pens/pen_controls.h"
@@ -85,14 +83,6 @@ void FrmMain::showSkipped(long instructions) {
     m_skipped->setText(text);
     m_skipped->setAccessibleName(text);
     statusBar()->setVisible(instructions > 0);
-}
-
-void FrmMain::countSkippedIn(const std::filesystem::path& drawing) {
-    long harmful = 0;
-    withQuietErrorTrap(m_workshop.logger, {"countSkippedIn", "frmMain"}, [&] {
-        harmful = countSkipped(readWholeFile(drawing, maxDrawingBytes)).harmful;
-    });
-    showSkipped(harmful);
 }
 
 } // namespace torvik

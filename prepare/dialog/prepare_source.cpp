@@ -3,7 +3,9 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "base/logger.h"
 #include "job/hpgl_reader.h"
+#include "job/job.h"
 #include "job/records.h"
 #include "prepare/files/drawing_files.h"
 
@@ -41,6 +43,20 @@ void requirePens(const std::vector<SourcePen>& pens) {
                            "). Choose a pen for each in the list of pens.");
 }
 
+// What would be lost of the source if it were opened as it is; a picture cannot be.
+std::string lossAsItIs(const SourceDrawing& source, const std::string& bytes) {
+    if (!source.report.colours.empty())
+        return {};
+    try {
+        Drawing drawing;
+        Logger logger;
+        readInstructions(drawing, bytes, "the drawing", logger);
+        return std::to_string(drawing.reading.lost) + " instructions";
+    } catch (const RunTimeError&) {
+        return "all of it";
+    }
+}
+
 void prepareInto(PrepareResult& result, const PrepareRequest& request) {
     const std::string name = utf8FromPath(request.source);
     if (!result.bytes)
@@ -52,6 +68,7 @@ void prepareInto(PrepareResult& result, const PrepareRequest& request) {
     // What is shown where the preparation fails.
     result.before = std::make_shared<const StrokePicture>(pictureOf(drawing.strokes));
     requirePens(result.pens);
+    const std::string loss = lossAsItIs(drawing, *result.bytes);
 
     PrepareOptions options = request.options;
     options.keepBefore = true;
@@ -59,6 +76,8 @@ void prepareInto(PrepareResult& result, const PrepareRequest& request) {
     result.before = std::make_shared<const StrokePicture>(pictureOf(prepared.before));
     result.after = std::make_shared<const StrokePicture>(pictureOf(prepared.strokes));
     result.rows = reportRows(prepared.report);
+    if (!loss.empty())
+        result.rows.push_back({"Lost without preparing", loss});
     result.lost = lossLine(prepared.report);
     result.text = prepared.text;
 }

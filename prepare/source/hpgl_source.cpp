@@ -2,6 +2,7 @@
 #include "prepare/source/hpgl_source.h"
 
 #include "base/errors.h"
+#include "job/hpgl_reader.h"
 #include "prepare/source/instruction_table.h"
 
 #include <map>
@@ -33,8 +34,10 @@ void readParameters(Scanner& scanner, Shape shape, char textTerminator, Paramete
     }
 }
 
-void readInto(SourceDrawing& drawing, Scanner& scanner, const HpglSourceOptions& options) {
-    PenPlotter plotter(drawing.strokes, drawing.report, options.segmentLimit, options.roundTurn);
+void readInto(SourceDrawing& drawing, Scanner& scanner, const HpglSourceOptions& options,
+              bool isPlain) {
+    PenPlotter plotter(drawing.strokes, drawing.report, options.segmentLimit, options.roundTurn,
+                       isPlain);
     std::vector<long> counts(instructionTable().size());
     Parameters parameters;
     for (Mnemonic mnemonic{}; scanner.nextMnemonic(mnemonic);) {
@@ -78,7 +81,7 @@ SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
     SourceDrawing drawing;
     Scanner scanner(bytes);
     try {
-        readInto(drawing, scanner, options);
+        readInto(drawing, scanner, options, isPlainDrawing(std::string(bytes)));
     } catch (const RunTimeError& error) {
         throw FileError(std::string(fileName), error.what(), scanner.line());
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The pen language, one row for each instruction. The source, the count of what the job's own
-// reader would pass over, the help page and the tests all go by this table.
+// The pen language, one row for each instruction. The source, the help page and the tests all go by
+// this table.
 #pragma once
 
 #include "prepare/source/pen_plotter.h"
@@ -21,17 +21,9 @@ enum class Shape : std::uint8_t {
     encoded,   // an encoded polyline
 };
 
-// What becomes of the drawing where the instruction is passed over.
-enum class Effect : std::uint8_t {
-    draws,   // lines are missing, or lie elsewhere
-    places,  // what follows lies elsewhere, has another size or another pen
-    nothing, // the strokes stay the same
-};
-
 struct Instruction {
     std::string_view mnemonic;
     Shape shape;
-    Effect effect;
     std::string_view parameters; // [x] may be left out, ... repeats
     void (PenPlotter::*perform)(const Parameters&);
     std::string_view meaning;

@@ -21,9 +21,11 @@ struct Parameters {
 
 class PenPlotter {
 public:
+    // In a plain drawing, one of the job's own kind, arcs are drawn with the pen up, too.
     PenPlotter(std::vector<Stroke>& strokes, SourceReport& report, std::size_t segmentLimit,
-               double roundTurn)
-        : m_recorder(strokes, report, segmentLimit), m_report(report), m_roundTurn(roundTurn) {}
+               double roundTurn, bool isPlain)
+        : m_recorder(strokes, report, segmentLimit), m_report(report), m_roundTurn(roundTurn),
+          m_isPlain(isPlain) {}
 
     // The end of the drawing.
     void finish();
@@ -109,6 +111,7 @@ private:
     StrokeRecorder m_recorder;
     SourceReport& m_report;
     double m_roundTurn;
+    bool m_isPlain;
     Frame m_frame;
     PolygonBuffer m_polygon;
     Point m_place; // plotter units

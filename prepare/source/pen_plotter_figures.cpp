@@ -69,6 +69,10 @@ void PenPlotter::travelAlong(const Stroke& stroke) {
 }
 
 void PenPlotter::drawArc(Point centre, double sweep) {
+    if (!m_down && m_isPlain)
+        setDown(true);
+    else if (!m_down && !m_polygon.isOpen())
+        m_report.lose(Loss::arcsWithPenUp);
     Stroke stroke{1, m_place, {}};
     addArc(stroke, centre, sweep);
     travelAlong(stroke);

@@ -5,15 +5,14 @@
 // fit a double.
 #pragma once
 
+#include "job/plotter_language.h"
+
 #include <array>
 #include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace torvik {
-
-// Two capital letters.
-using Mnemonic = std::array<char, 2>;
 
 class Scanner {
 public:

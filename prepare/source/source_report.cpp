@@ -14,6 +14,7 @@ std::string_view lossText(Loss loss) {
         "gradients, patterns, masks and filters (not drawn)",
         "circles and arcs asked for with coarse chords (drawn round)",
         "lines drawn with no pen in the holder (not drawn)",
+        "arcs with the pen up (not drawn)",
         "page ends (all pages are drawn over one another)",
         "instructions with missing or senseless numbers (passed over)",
     };

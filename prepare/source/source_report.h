@@ -22,10 +22,11 @@ enum class Loss {
     effects,
     coarseChords,
     noPen,
+    arcsWithPenUp,
     pages,
     malformed,
 };
-inline constexpr std::size_t lossCount = 11;
+inline constexpr std::size_t lossCount = 12;
 
 // "fills (the outline is drawn)"
 std::string_view lossText(Loss loss);

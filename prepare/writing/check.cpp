@@ -62,7 +62,7 @@ void checkWritten(const std::string& text, std::span<const Stroke> strokes, doub
     requireFewEnough(strokes);
     Job job;
     Logger logger;
-    readInstructions(job, text, "the prepared drawing", logger);
+    readInstructions(job.drawing, text, "the prepared drawing", logger);
     std::size_t element = 0;
     for (const Stroke& stroke : strokes) {
         Point place = stroke.start;

@@ -14,7 +14,7 @@ namespace torvik {
 inline Job readDrawing(std::string text) {
     Job job;
     Logger logger;
-    readInstructions(job, std::move(text), "test.plt", logger);
+    readInstructions(job.drawing, std::move(text), "test.plt", logger);
     return job;
 }
 

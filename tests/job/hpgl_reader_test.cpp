@@ -93,6 +93,48 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         EXPECT_EQ(described(readDrawing(row.drawing)), row.elements) << row.says;
 }
 
+TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
+    const struct {
+        const char* says;
+        const char* drawing;
+        long lost;
+        long harmless;
+        bool isPlain;
+    } rows[] = {
+        {"its own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1, true},
+        {"an arc with the pen up is drawn in a plain drawing", "SP1;PU9,0;AA0,0,90;", 0, 0, true},
+        {"... but elsewhere a plotter would move", "SP1;VS9;PU9,0;AA0,0,90;", 1, 1, false},
+        {"bare PU and PD go nowhere", "SP1;PU;PD;PU0,0", 0, 0, true},
+        {"PA after a bare PD is lost", "PD;PA5,5;PA6,6;PA;", 2, 1, false},
+        {"after a bare PR all that follows lies elsewhere", "SP1;PR;PD1,1;", 1, 0, false},
+        {"further pairs are lost", "SP1;PD1,1,2,2;PU1,1,2,2", 2, 0, false},
+        {"a blank in the way is a comma", "SP1;PD 10 20;PU10 20", 1, 0, false},
+        {"a pen behind a blank ends the drawing", "SP 2;PD9,9", 2, 0, false},
+        {"a radius behind a blank is 0", "SP1;CI 200", 1, 0, false},
+        {"no sweep, or more than a turn, is another arc", "SP1;PD5,0;AA0,0,0;AA0,0,450", 2, 0,
+         false},
+        {"a sweep behind a blank is none", "SP1;PD5,0;AA0,0, 90", 1, 0, false},
+        {"after a circle a plotter stands at its centre", "SP1;CI5;PD9,9;PD5,5", 1, 0, false},
+        {"small letters are not understood", "pd1,1;vs5", 1, 1, false},
+        {"a blank after a semicolon hides what follows", "PU0,0; PD1,1;", 1, 0, false},
+        {"what follows without a semicolon is lost", "PU0,0PD1,1;", 1, 0, false},
+        {"units and labels are lost, their resets are not", "SC0,1,0,1;SC;LBtext;RO90;IP;", 3, 2,
+         false},
+        {"nothing is read after the pen is put away", "SP0;PU0,0;PD1,1;CI5;SP1;", 2, 2, false},
+        {"lines end in all three ways", "PU0,0\rPE<=;\nEA1,1\r\nVS1", 2, 1, false},
+        {"unknown ones do no harm that can be told", "QQ1;;,;?", 0, 2, false},
+        {"what a printer wants said does no harm", "\x1B%-1BIN;SP1;PD4,4;\x1B%0A", 0, 2, false},
+        {"... but may hide an instruction", "\x1B%-1BPU9,9;SP1;PD4,4;", 1, 0, false},
+        {"an exponent is no instruction", "SP1;PD1e3,2E1", 0, 0, true},
+    };
+    for (const auto& row : rows) {
+        const Reading reading = readDrawing(row.drawing).drawing.reading;
+        EXPECT_EQ(reading.lost, row.lost) << row.says;
+        EXPECT_EQ(reading.harmless, row.harmless) << row.says;
+        EXPECT_EQ(reading.isPlain, row.isPlain) << row.says;
+    }
+}
+
 class DrawingFile : public testing::Test {
 protected:
     bool read(std::string_view bytes) {
@@ -118,6 +160,8 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
         std::string drawing;
         std::string cause;
     } rows[] = {
+        {"a text of two bytes a letter", "\xFF\xFES",
+         ": this text is in UTF-16; please save the drawing as plain text"},
         {"an element before any SP", "PU1,1\nPD40,0", ", line 2: pen 0" + wrongPen},
         {"a pen above 8", "SP1;PD40,0\r\n\r\nSP9;CI40", ", line 3: pen 9" + wrongPen},
         {"a pen that rounds to 0", "SP0.5;AA1,1,1", ", line 1: pen 0" + wrongPen},

@@ -6,7 +6,6 @@
 #include "job/job.h"
 #include "prepare/arcs.h"
 #include "prepare/fitting/grid.h"
-#include "prepare/source/skipped.h"
 #include "prepare/writing/check.h"
 #include "prepare/writing/writer.h"
 
@@ -52,10 +51,10 @@ TEST(Writer, WritesOneInstructionALine) {
 TEST(Writer, IsReadBackByTheJobsReaderToTheLastInstruction) {
     const std::string text = writeDrawing(sample());
     EXPECT_EQ(refusal(text, sample()), "");
-    EXPECT_EQ(countSkipped(text).harmful, 0);
+    EXPECT_TRUE(isPlainDrawing(text));
     Job job;
     Logger logger;
-    readInstructions(job, text, "", logger);
+    readInstructions(job.drawing, text, "", logger);
     ASSERT_EQ(job.drawing.gintPathCount, 5);
     EXPECT_FLOAT_EQ(job.drawing.gudtPaths[1].sngCentreX, 2.5F);
     EXPECT_FLOAT_EQ(job.drawing.gudtPaths[1].sngStartY, 200.1234F / 40 + 12.5F / 40);
@@ -100,38 +99,6 @@ TEST(Check, RefusesMoreElementsThanAJobTakes) {
     EXPECT_EQ(refusal("", {stroke}),
               "the prepared drawing has 32768 lines, arcs and circles, but a job takes 32767 at "
               "most; a larger tolerance leaves fewer of them");
-}
-
-struct SkipCase {
-    const char* name;
-    std::string drawing;
-    long harmful;
-    long harmless;
-};
-
-TEST(Skipped, CountsWhatTheJobsReaderPassesOver) {
-    const std::vector<SkipCase> cases{
-        {"the reader's own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1},
-        {"bare PU and PD go nowhere", "SP1;PU;PD;PU0,0", 0, 2},
-        {"PA after a bare PD is lost", "PD;PA5,5;PA6,6;PA;", 2, 2},
-        {"after a bare PR all that follows lies elsewhere", "PR;PD1,1;PD1,0;", 1, 0},
-        {"further pairs are lost", "PD1,1,2,2;PU1,1,2,2", 2, 0},
-        {"a blank in the way is a comma", "PD 10 20;PU10 20", 1, 0},
-        {"small letters are not understood", "pd1,1;vs5", 1, 1},
-        {"a blank after a semicolon hides what follows", "PU0,0; PD1,1;", 1, 0},
-        {"what follows without a semicolon is lost", "PU0,0PD1,1;", 1, 0},
-        {"units and labels are lost, their resets are not", "SC0,1,0,1;SC;LBtext;RO90;IP;", 3, 2},
-        {"nothing is read after the pen is put away", "SP0;PU0,0;PD1,1;CI5;SP1;", 2, 2},
-        {"lines end in all three ways", "PU0,0\rPE<=;\nEA1,1\r\nVS1", 2, 1},
-        {"unknown ones do no harm that can be told", "QQ1;;,;?", 0, 2},
-        {"a pen too large for any number does not end the reading", "SP1e999;PA1,1", 1, 0},
-        {"an exponent is no instruction", "PD1e3,2E1", 0, 0},
-    };
-    for (const SkipCase& one : cases) {
-        const SkippedInstructions skipped = countSkipped(one.drawing);
-        EXPECT_EQ(skipped.harmful, one.harmful) << one.name;
-        EXPECT_EQ(skipped.harmless, one.harmless) << one.name;
-    }
 }
 
 } // namespace
