@@ -42,7 +42,8 @@ constexpr std::array<OptionRow, 12> rows{{
      "the answers to use (default: those saved for the\ndrawing)"},
     {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
     {"number", optionNumber, "N",
-     "the program number for WinCAM and WinNC, 1 to 32767;\nwith several drawings it counts up"},
+     "the program number of the controls that need one,\n1 to 32767; with several drawings it "
+     "counts up"},
     {"output", optionOutput, "FILE",
      "the file to write, for one drawing (default: beside\nthe drawing); overwritten if it exists"},
     {"output-dir", optionOutputFolder, "DIR", "the folder to write to"},

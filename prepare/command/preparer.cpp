@@ -3,7 +3,9 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "base/whole_file.h"
 #include "commands/drawing_run.h"
+#include "commands/overwriting.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
 #include "prepare/files/drawing_files.h"
@@ -67,25 +69,15 @@ private:
 
     // Refuses what must not or cannot be replaced before any work is done.
     void requireWritable(const fs::path& output, const fs::path& drawing) const {
-        std::error_code error;
-        const auto status = fs::status(output, error);
-        if (!fs::exists(status))
-            return;
-        const std::string name = utf8FromPath(output);
         requireOtherFile(output, drawing);
-        if (fs::is_directory(status))
-            throw FileError(name, "there is a folder of this name");
-        if (!fs::is_regular_file(status))
-            throw FileError(name, "this is no ordinary file");
-        if (!m_command.force && !m_command.output)
-            throw FileError(name, "the file exists already; --force overwrites it");
+        requireFree(output, m_command.force || m_command.output);
     }
 
     void write(const fs::path& output, const std::string& text) const {
         std::error_code ignored;
         if (m_command.outputFolder)
             fs::create_directories(*m_command.outputFolder, ignored);
-        saveDrawing(output, text);
+        saveWhole(output, text);
     }
 
     const PrepareCommand& m_command;

@@ -4,6 +4,7 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "base/whole_file.h"
 #include "forms/file_choice.h"
 #include "prepare/dialog/before_after.h"
 #include "prepare/dialog/dragged_source.h"
@@ -158,7 +159,7 @@ void FrmPrepare::save() {
     const fs::path output = chosenFile(dialog);
     try {
         requireOtherFile(output, m_source);
-        saveDrawing(output, m_result.text);
+        saveWhole(output, m_result.text);
     } catch (const FileError& error) {
         showState(State::error, tr("Not saved. %1").arg(QString::fromUtf8(error.what())));
         return;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From a source's bytes to strokes, whichever kind it is of, and the prepared drawing onto the
-// disk. Refuses to write over the source.
+// From a source's bytes to strokes, whichever kind it is of. Refuses to write over the source.
 #pragma once
 
 #include "prepare/source/hpgl_source.h"
@@ -19,8 +18,5 @@ SourceDrawing readSource(std::string_view bytes, std::string_view fileName, doub
 
 // Raises FileError where the output is the source itself.
 void requireOtherFile(const std::filesystem::path& output, const std::filesystem::path& source);
-
-// Writes the whole drawing or leaves what is there as it was. Raises FileError.
-void saveDrawing(const std::filesystem::path& output, std::string_view text);
 
 } // namespace torvik

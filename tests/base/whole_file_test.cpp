@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "base/files.h"
+#include "base/whole_file.h"
+#include "tests/base/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace torvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+class WholeFileTest : public testing::Test {
+protected:
+    // Names and contents in the folder.
+    std::map<std::string, std::string> files() const {
+        std::map<std::string, std::string> found;
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            if (entry.is_regular_file())
+                found[entry.path().filename().string()] = readWholeFile(entry.path(), 1 << 20);
+        return found;
+    }
+    using Files = std::map<std::string, std::string>;
+
+    TemporaryFolder folder;
+    const fs::path target = folder.file("a.txt", "old");
+};
+
+TEST_F(WholeFileTest, IsThereWholeOrNotAtAll) {
+    {
+        WholeFile file(target);
+        file.write("half");
+    }
+    EXPECT_EQ(files(), (Files{{"a.txt", "old"}}));
+    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+    saveWhole(target, "new");
+    EXPECT_EQ(files(), (Files{{"a.txt", "new"}}));
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(WholeFileTest, CanBeTakenBack) {
+    {
+        WholeFile file(target);
+        file.write("new");
+        file.commit(WholeFile::WayBack::kept);
+        file.withdraw();
+        WholeFile fresh(folder.path() / "b.txt");
+        fresh.commit(WholeFile::WayBack::kept);
+        fresh.withdraw();
+    }
+    EXPECT_EQ(files(), (Files{{"a.txt", "old"}}));
+}
+
+TEST_F(WholeFileTest, ALinkLeadsToTheFile) {
+    fs::create_symlink("a.txt", folder.path() / "link");
+    saveWhole(folder.path() / "link", "new");
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
+    EXPECT_EQ(readWholeFile(target, 100), "new");
+}
+
+TEST_F(WholeFileTest, WhatNoFileCanReplaceIsRefused) {
+    const fs::path inside = folder.path() / "folder";
+    fs::create_directory(inside);
+    const std::pair<fs::path, const char*> rows[] = {
+        {inside, "there is a folder of this name"},
+        {folder.path() / "no" / "b", "No such file or directory"},
+        {"/dev/full", "this is no ordinary file"},
+    };
+    for (const auto& [path, cause] : rows) {
+        try {
+            saveWhole(path, "new");
+            ADD_FAILURE() << path << " was written";
+        } catch (const FileError& error) {
+            const std::string said = error.what();
+            EXPECT_TRUE(said.starts_with(path.string() + ": ")) << said;
+            EXPECT_NE(said.find(cause), std::string::npos) << said;
+        }
+    }
+    EXPECT_EQ(files(), (Files{{"a.txt", "old"}}));
+}
+
+} // namespace
+} // namespace torvik
