@@ -45,6 +45,7 @@ constexpr std::array<Dialect, 4> table{{
         .opening = winCamOpening,
         .openingAfterHeader = zeroPoint,
         .commentOpener = {},
+        .commentCloser = {},
         .retract = retractAndStop,
         .toolUnload = {},
         .tool = winCamTool,
@@ -53,6 +54,9 @@ constexpr std::array<Dialect, 4> table{{
         .end = winCamEnd,
         .diskettePrefix = "%MPF",
         .extension = {},
+        .saveTitle = {},
+        .saveKind = {},
+        .folderSetting = {},
     },
     {
         .code = targetWinNc,
@@ -65,6 +69,7 @@ constexpr std::array<Dialect, 4> table{{
         .opening = winNcOpening,
         .openingAfterHeader = {},
         .commentOpener = {},
+        .commentCloser = {},
         .retract = retractAndStop,
         .toolUnload = unloadWithLengthOffset,
         .tool = toolWithLengthOffset,
@@ -73,6 +78,9 @@ constexpr std::array<Dialect, 4> table{{
         .end = endWithLengthOffset,
         .diskettePrefix = "oprg",
         .extension = {},
+        .saveTitle = {},
+        .saveKind = {},
+        .folderSetting = {},
     },
     {
         .code = targetMaskor,
@@ -85,6 +93,7 @@ constexpr std::array<Dialect, 4> table{{
         .opening = percent,
         .openingAfterHeader = {},
         .commentOpener = "*",
+        .commentCloser = {},
         .retract = "G0 Z{toolChange}",
         .toolUnload = {},
         .tool = maskorTool,
@@ -93,6 +102,9 @@ constexpr std::array<Dialect, 4> table{{
         .end = maskorEnd,
         .diskettePrefix = {},
         .extension = "mxc",
+        .saveTitle = "Select the destination Maskor file",
+        .saveKind = "Maskor files",
+        .folderSetting = "CNC File Path",
     },
     {
         .code = targetKestra,
@@ -105,6 +117,7 @@ constexpr std::array<Dialect, 4> table{{
         .opening = percent,
         .openingAfterHeader = zeroPoint,
         .commentOpener = "(",
+        .commentCloser = ")",
         .retract = retractAndStop,
         .toolUnload = unloadWithLengthOffset,
         .tool = toolWithLengthOffset,
@@ -113,6 +126,10 @@ constexpr std::array<Dialect, 4> table{{
         .end = endWithLengthOffset,
         .diskettePrefix = {},
         .extension = "iso",
+        .saveTitle = "Select the destination Kestra file",
+        .saveKind = "Kestra files",
+        .folderSetting = "Kestra File Path",
+        .isUsual = true,
     },
 }};
 
@@ -126,6 +143,7 @@ constexpr Dialect noDialect{.code = 0,
                             .opening = {},
                             .openingAfterHeader = {},
                             .commentOpener = {},
+                            .commentCloser = {},
                             .retract = {},
                             .toolUnload = {},
                             .tool = {},
@@ -133,7 +151,12 @@ constexpr Dialect noDialect{.code = 0,
                             .dwell = {},
                             .end = {},
                             .diskettePrefix = {},
-                            .extension = {}};
+                            .extension = {},
+                            .saveTitle = {},
+                            .saveKind = {},
+                            .folderSetting = {}};
+
+std::span<const Dialect> rows = table;
 
 std::int16_t toolNumber(const StatementValues& values) {
     return toolAt(*values.tools, values.toolPlace).intNumber;
@@ -169,20 +192,28 @@ std::string placeText(std::string_view place, const StatementValues& values) {
 } // namespace
 
 std::span<const Dialect> dialects() {
-    return table;
+    return rows;
+}
+
+OtherDialects::OtherDialects(std::span<const Dialect> others) : m_before(rows) {
+    rows = others;
+}
+
+OtherDialects::~OtherDialects() {
+    rows = m_before;
 }
 
 const Dialect& dialectFor(std::int16_t code) {
-    const auto row = std::find_if(table.begin(), table.end(),
+    const auto row = std::find_if(rows.begin(), rows.end(),
                                   [code](const Dialect& dialect) { return dialect.code == code; });
-    return row == table.end() ? noDialect : *row;
+    return row == rows.end() ? noDialect : *row;
 }
 
 const Dialect* dialectNamed(std::string_view optionName) {
-    const auto row = std::find_if(table.begin(), table.end(), [&](const Dialect& dialect) {
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Dialect& dialect) {
         return dialect.optionName == optionName;
     });
-    return row == table.end() ? nullptr : &*row;
+    return row == rows.end() ? nullptr : &*row;
 }
 
 void expand(std::string& out, std::string_view statement, const StatementValues& values) {

@@ -36,7 +36,8 @@ struct Dialect {
 
     std::span<const Statement> opening; // before the header comment
     std::span<const Statement> openingAfterHeader;
-    std::string_view commentOpener;        // empty: no header in the program
+    std::string_view commentOpener; // empty: no header in the program
+    std::string_view commentCloser;
     std::string_view retract;              // to the tool change height before another tool
     std::span<const Statement> toolUnload; // where a tool has been loaded before
     std::span<const Statement> tool;
@@ -48,12 +49,30 @@ struct Dialect {
     // the others are files with an extension.
     std::string_view diskettePrefix;
     std::string_view extension;
+    // Of the Save dialog, for programs that are files: title, what its filter calls them, and the
+    // setting that remembers the folder.
+    std::string_view saveTitle;
+    std::string_view saveKind;
+    std::string_view folderSetting;
+    bool isUsual = false; // proposed to a user who has chosen none yet
 
     bool needsNumber() const { return !diskettePrefix.empty(); }
 };
 
 // All the targets, in the order of their codes.
 std::span<const Dialect> dialects();
+
+// Other rows in place of the table's while one lives, for trying a row before it joins the table.
+class OtherDialects {
+public:
+    explicit OtherDialects(std::span<const Dialect> rows);
+    ~OtherDialects();
+    OtherDialects(const OtherDialects&) = delete;
+    OtherDialects& operator=(const OtherDialects&) = delete;
+
+private:
+    std::span<const Dialect> m_before;
+};
 // The row of a code; for any code without one, a row that writes no statement of any dialect.
 const Dialect& dialectFor(std::int16_t code);
 // The row of a command line name, or nothing.

@@ -48,8 +48,7 @@ std::string toolLine(const Tool& tool) {
 }
 
 void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
-                 ProgramOutput& output) {
-    const std::string closer = opener == "(" ? ")" : "";
+                 const std::string& closer, ProgramOutput& output) {
     for (std::size_t i = 0; i < labels.size(); ++i)
         HeaderLine(job, opener + std::string(labels[i].label), labels[i].unit, closer,
                    static_cast<std::int16_t>(i), output);
@@ -69,10 +68,11 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
 
 } // namespace
 
-bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, ProgramOutput& output,
-                 Logger& logger) {
-    return withErrorTrap(logger, {"WriteHeader", "modHpgl"},
-                         [&] { writeHeader(job, tools, std::string(opener), output); });
+bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, std::string_view closer,
+                 ProgramOutput& output, Logger& logger) {
+    return withErrorTrap(logger, {"WriteHeader", "modHpgl"}, [&] {
+        writeHeader(job, tools, std::string(opener), std::string(closer), output);
+    });
 }
 
 void HeaderLine(Job& job, std::string_view labelledOpener, std::string_view unit,

@@ -12,11 +12,11 @@ struct ToolList;
 class Logger;
 class ProgramOutput;
 
-// Writes the header values and the tool lines as comments with the opener ("(", "*", or nothing
-// for the text file beside a program). False after a trapped error: more than sixteen tools, or a
-// tool or pen that does not exist; the lines before it stay.
-bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, ProgramOutput& output,
-                 Logger& logger);
+// Writes the header values and the tool lines as comments between the opener and the closer (both
+// empty for the text file beside a program). False after a trapped error: more than sixteen tools,
+// or a tool or pen that does not exist; the lines before it stay.
+bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, std::string_view closer,
+                 ProgramOutput& output, Logger& logger);
 
 // Trims the header value with that index, 0 to 8, in the job, and writes it between the labelled
 // opener and unit plus closer, unless it is empty.

@@ -44,7 +44,7 @@ bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::
     ProgramOutput output(sink);
     writeOpening(job, dialect.opening, number, output);
     if (!dialect.commentOpener.empty())
-        WriteHeader(job, tools, dialect.commentOpener, output, logger);
+        WriteHeader(job, tools, dialect.commentOpener, dialect.commentCloser, output, logger);
     writeOpening(job, dialect.openingAfterHeader, number, output);
     const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
     output.flush();
@@ -56,7 +56,7 @@ bool writeSideText(Job& job, const ToolList& tools, std::string_view fileName, B
     ProgramOutput output(sink);
     output.WriteLine("Origin - " + latin1Line(absolutePlotFile(job)));
     output.WriteLine("File - " + latin1Line(fileName));
-    WriteHeader(job, tools, "", output, logger);
+    WriteHeader(job, tools, "", "", output, logger);
     output.flush();
     return !output.failed();
 }

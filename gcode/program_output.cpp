@@ -26,9 +26,7 @@ char* put(char* out, std::string_view text) {
 
 } // namespace
 
-FileSink::FileSink(const std::filesystem::path& file) : FileSink(file, utf8FromPath(file)) {}
-
-FileSink::FileSink(const std::filesystem::path& file, std::string name) : m_name(std::move(name)) {
+FileSink::FileSink(const std::filesystem::path& file) : m_name(utf8FromPath(file)) {
     // The lines are gathered in large pieces already.
     m_file.rdbuf()->pubsetbuf(nullptr, 0);
     errno = 0;
@@ -51,10 +49,7 @@ void FileSink::close() {
 }
 
 void FileSink::fail(const char* what) {
-    const FileError error(m_name, what + systemErrorText());
-    if (!m_failure)
-        m_failure = error;
-    throw error;
+    throw FileError(m_name, what + systemErrorText());
 }
 
 char* BlockNumber::put(char* out, std::int16_t number) {

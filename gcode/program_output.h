@@ -3,6 +3,7 @@
 // large pieces. Lines end in CR LF.
 #pragma once
 
+#include "base/byte_sink.h"
 #include "base/errors.h"
 
 #include <array>
@@ -19,47 +20,21 @@ struct Job;
 
 inline constexpr std::string_view lineEnd = "\r\n";
 
-// Where the bytes of a program go.
-class ByteSink {
-public:
-    ByteSink() = default;
-    ByteSink(const ByteSink&) = delete;
-    ByteSink& operator=(const ByteSink&) = delete;
-    virtual ~ByteSink() = default;
-
-    // Raises FileError where the bytes cannot be written.
-    virtual void write(std::string_view bytes) = 0;
-};
-
-class StringSink final : public ByteSink {
-public:
-    void write(std::string_view bytes) override { m_bytes += bytes; }
-    const std::string& bytes() const { return m_bytes; }
-
-private:
-    std::string m_bytes;
-};
-
 // A file opened for writing, replacing any of that name. Raises FileError where it cannot be
 // opened, and on every failed write.
 class FileSink final : public ByteSink {
 public:
     explicit FileSink(const std::filesystem::path& file);
-    // The same for a file that messages call by another name.
-    FileSink(const std::filesystem::path& file, std::string name);
 
     void write(std::string_view bytes) override;
     // Closes the file; what the system could not keep shows at the latest here.
     void close();
-    // What the first failed write raised, also where an error trap caught it.
-    const std::optional<FileError>& failure() const { return m_failure; }
 
 private:
     [[noreturn]] void fail(const char* what);
 
     std::string m_name;
     std::ofstream m_file;
-    std::optional<FileError> m_failure;
 };
 
 // "N", a block number and a blank as text; the number after the last one is counted up in place.

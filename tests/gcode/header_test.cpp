@@ -13,7 +13,8 @@ constexpr const char* threePens = "SP1;PD1,1;SP2;PD1,1;SP3;PD1,1";
 std::string header(JobToWrite& work, std::string_view opener) {
     StringSink sink;
     ProgramOutput output(sink);
-    work.whole = WriteHeader(work.job, work.tools, opener, output, work.logger);
+    const std::string_view closer = opener == "(" ? ")" : "";
+    work.whole = WriteHeader(work.job, work.tools, opener, closer, output, work.logger);
     output.flush();
     return work.statements(sink.bytes());
 }

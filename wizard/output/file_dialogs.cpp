@@ -15,16 +15,8 @@
 namespace torvik {
 namespace {
 
-struct SaveTarget {
-    QString name;
-    QString extension;
-    const char* folderSetting;
-};
-
-SaveTarget saveTarget(std::int16_t target) {
-    const Dialect& dialect = dialectFor(target == targetMaskor ? targetMaskor : targetKestra);
-    return {QString::fromUtf8(dialect.name), QString::fromUtf8(dialect.extension),
-            target == targetMaskor ? maskorFolderSetting : kestraFolderSetting};
+QString fromView(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString sampleFolder() {
@@ -32,18 +24,13 @@ QString sampleFolder() {
 }
 
 // The folder used last, or the one with the samples, or at least one that exists.
-QString startFolder(const Registry& registry, const char* setting) {
+QString startFolder(const Registry& registry, std::string_view setting) {
     const QString folder =
         QString::fromStdString(registry.strRegistryValueGet(setting, sampleFolder().toStdString()));
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
-// What the user reads of it is "KIND files (*.EXTENSION)".
-QString filterText(const QString& kind, const QString& extension) {
-    return fileFilter(kind + QStringLiteral(" files"), {extension});
-}
-
-void rememberFolder(Registry& registry, const char* setting, const QString& folder) {
+void rememberFolder(Registry& registry, std::string_view setting, const QString& folder) {
     registry.RegistryValuePut(setting, QDir::toNativeSeparators(folder).toStdString());
 }
 
@@ -60,7 +47,7 @@ void rememberPlotFolder(Registry& registry, const QString& folder) {
 std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
     QFileDialog dialog(parent, QStringLiteral("Select the HPGL file to process"),
                        plotFolder(registry),
-                       filterText(QStringLiteral("HPGL"), QStringLiteral("plt")));
+                       fileFilter(QStringLiteral("HPGL files"), {QStringLiteral("plt")}));
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -70,16 +57,16 @@ std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
 }
 
 std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messages,
-                                       const std::string& proposedName, std::int16_t target,
+                                       const std::string& proposedName, const Dialect& dialect,
                                        const std::filesystem::path& drawing, QWidget* parent) {
-    const SaveTarget kind = saveTarget(target);
-    QFileDialog dialog(parent, QStringLiteral("Select the destination %1 file").arg(kind.name),
-                       startFolder(registry, kind.folderSetting),
-                       filterText(kind.name, kind.extension));
+    const QString extension = fromView(dialect.extension);
+    QFileDialog dialog(parent, fromView(dialect.saveTitle),
+                       startFolder(registry, dialect.folderSetting),
+                       fileFilter(fromView(dialect.saveKind), {extension}));
     dialog.setObjectName(QStringLiteral("dlgSave"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setDefaultSuffix(kind.extension);
+    dialog.setDefaultSuffix(extension);
     dialog.selectFile(QString::fromStdString(proposedName));
     while (dialog.exec() == QDialog::Accepted) {
         auto path = chosenFile(dialog);
@@ -90,7 +77,7 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
                 styleExclamation, usualTitle);
             continue;
         }
-        rememberFolder(registry, kind.folderSetting,
+        rememberFolder(registry, dialect.folderSetting,
                        QFileInfo(QString::fromStdString(utf8FromPath(path))).absolutePath() +
                            QStringLiteral("/"));
         return path;

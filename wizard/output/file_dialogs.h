@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -13,13 +12,12 @@ class QWidget;
 
 namespace torvik {
 
+struct Dialect;
 class Registry;
 class StdMessageBox;
 
-// Folder settings of the registry.
+// The registry's setting of the folder that drawings come from.
 inline constexpr const char* plotFolderSetting = "PLT File Path";
-inline constexpr const char* maskorFolderSetting = "CNC File Path";
-inline constexpr const char* kestraFolderSetting = "Kestra File Path";
 
 // The folder that drawings are looked for in, and the one where one was found.
 QString plotFolder(const Registry& registry);
@@ -31,7 +29,7 @@ std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent);
 // The Save dialog of the target, which adds the extension before it asks about overwriting and
 // refuses the drawing itself. An empty path when the user cancels.
 std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messages,
-                                       const std::string& proposedName, std::int16_t target,
+                                       const std::string& proposedName, const Dialect& dialect,
                                        const std::filesystem::path& drawing, QWidget* parent);
 
 } // namespace torvik

@@ -2,8 +2,8 @@
 #include "wizard/output/frm_output.h"
 
 #include "forms/dialog_places.h"
+#include "forms/filtered_box.h"
 #include "gcode/dialects.h"
-#include "tools/dialogs/filtered_box.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

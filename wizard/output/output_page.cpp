@@ -33,6 +33,22 @@ QString whereItGoes(const Dialect& dialect) {
         .arg(QString::fromUtf8(dialect.extension));
 }
 
+int usualTarget() {
+    for (const Dialect& dialect : dialects())
+        if (dialect.isUsual)
+            return dialect.code;
+    return 0;
+}
+
+// "A and B": the targets whose programs go to the diskette.
+QString targetsOfDiskette() {
+    QStringList names;
+    for (const Dialect& dialect : dialects())
+        if (dialect.needsNumber())
+            names.append(QString::fromUtf8(dialect.name));
+    return names.join(OutputPage::tr(" and "));
+}
+
 } // namespace
 
 OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
@@ -45,7 +61,7 @@ OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
     options->setColumnStretch(1, 1);
     options->setHorizontalSpacing(16);
     m_targets = new QButtonGroup(this);
-    const int remembered = ownSettings()->value(targetKey, targetKestra).toInt();
+    const int remembered = ownSettings()->value(targetKey, usualTarget()).toInt();
     for (const Dialect& dialect : dialects()) {
         // The access key is the code: two names begin alike.
         auto* const option = new QRadioButton(
@@ -116,8 +132,8 @@ void OutputPage::changeDrive() {
 void OutputPage::showDrive() {
     const QString folder = QString::fromStdString(utf8FromPath(driveA(m_workshop.registry)));
     if (folder.isEmpty())
-        m_drive->setText(
-            tr("a:\\ leads nowhere yet. WinCAM and WinNC programs need a folder for it."));
+        m_drive->setText(tr("a:\\ leads nowhere yet. %1 programs need a folder for it.")
+                             .arg(targetsOfDiskette()));
     else if (folder == QStringLiteral("a:\\"))
         m_drive->setText(tr("a:\\ is the diskette drive itself"));
     else

@@ -91,12 +91,15 @@ bool OutputStep::waitForDiskette() {
 }
 
 bool OutputStep::mayOverwrite(const std::string& name) {
-    if (!std::filesystem::exists(driveA(m_workshop.registry) / pathFromUtf8(name)))
-        return true;
-    return m_workshop.messages.intStdMsgBox("A file named " + name +
-                                                " already exists on the diskette\n"
-                                                "Do you want to overwrite it?",
-                                            styleQuestion, usualTitle) == buttonYes;
+    // The text beside the program may be another's, where its program is gone.
+    const std::string sideText = utf8FromPath(sideTextPath(pathFromUtf8(name)));
+    for (const std::string& existing : {name, sideText})
+        if (std::filesystem::exists(driveA(m_workshop.registry) / pathFromUtf8(existing)))
+            return m_workshop.messages.intStdMsgBox("A file named " + existing +
+                                                        " already exists on the diskette\n"
+                                                        "Do you want to overwrite it?",
+                                                    styleQuestion, usualTitle) == buttonYes;
+    return true;
 }
 
 AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
@@ -108,7 +111,7 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
         const auto file =
             dialect.needsNumber()
                 ? driveA(m_workshop.registry) / pathFromUtf8(proposed)
-                : strGetOutputFile(m_workshop.registry, m_workshop.messages, proposed, target,
+                : strGetOutputFile(m_workshop.registry, m_workshop.messages, proposed, dialect,
                                    pathFromUtf8(m_workshop.job.drawing.gstrPlotFile), &m_window);
         if (file.empty() || !write(target, number, file))
             return;

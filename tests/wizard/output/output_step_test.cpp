@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 // From the output page to the written file and the menu behind it.
 #include "base/files.h"
+#include "convert/converter.h"
+#include "gcode/dialects.h"
 #include "tests/wizard/main_window_fixture.h"
 #include "wizard/output/drive_a.h"
 
+#include <QFileDialog>
 #include <QMessageBox>
+
+#include <sstream>
 
 namespace torvik {
 namespace {
@@ -249,6 +254,60 @@ TEST_F(OutputTest, ThePageShowsWhereDriveALeadsAndChangesIt) {
     answers.expect("dlgDriveA", DialogAnswers::cancel);
     click("cmdDriveA");
     EXPECT_EQ(label("lblDriveA"), "a:\\ is " + stick);
+}
+
+// A made-up fifth control, for which nothing but its row is written.
+class FifthTarget : public MainWindowTest {
+protected:
+    static std::vector<Dialect> fiveRows() {
+        std::vector<Dialect> rows(dialects().begin(), dialects().end());
+        Dialect& fifth = rows.emplace_back(rows.back());
+        fifth.code = 5;
+        fifth.name = "Fifth";
+        fifth.optionName = "fifth";
+        fifth.commentOpener = "/";
+        fifth.commentCloser = "\\";
+        fifth.extension = "fth";
+        fifth.saveTitle = "Select the fifth file";
+        fifth.saveKind = "Fifth files";
+        fifth.folderSetting = "Fifth File Path";
+        fifth.isUsual = false;
+        return rows;
+    }
+
+    const std::vector<Dialect> rows = fiveRows();
+    const OtherDialects other{rows};
+};
+
+TEST_F(FifthTarget, IsWrittenByItsRowAlone) {
+    startSample("bracket");
+    go(6);
+    click("optOutput5");
+    const auto file = folder.path() / "part.fth";
+    answers.expect("dlgSave", [&](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Select the fifth file");
+        const QStringList filters = qobject_cast<QFileDialog*>(&dialog)->nameFilters();
+        EXPECT_TRUE(filters.constFirst().startsWith("Fifth files (*.fth"));
+        DialogAnswers::file(folder.path() / "part")(dialog);
+    });
+    answers.expect("frmMenu", DialogAnswers::cancel);
+    key(Qt::Key_Return);
+    const std::string written = readWholeFile(file, 1 << 20);
+    EXPECT_TRUE(written.starts_with("%\r\n/Date - "));
+    EXPECT_NE(written.find("\\\r\nN1 G54\r\n"), std::string::npos);
+    EXPECT_NE(registry.strRegistryValueGet("Fifth File Path", ""), "");
+
+    // The console program writes the same.
+    const auto again = (folder.path() / "again.fth").string();
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(runConverter({"torvik-convert", job.drawing.gstrPlotFile, "--target", "fifth",
+                            "--answers", job.answers.gstrSavedFile, "--tools",
+                            TORVIK_SAMPLES "/Maskor.ini", "--output", again},
+                           out, err),
+              0)
+        << err.str();
+    EXPECT_EQ(readWholeFile(again, 1 << 20), written);
 }
 
 } // namespace
