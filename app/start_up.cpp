@@ -11,7 +11,7 @@
 #include "app/single_instance.h"
 #include "base/files.h"
 #include "base/logger.h"
-#include "tools/open_registry.h"
+#include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
 

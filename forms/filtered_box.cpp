@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/dialogs/filtered_box.h"
+#include "forms/filtered_box.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 // Pasted text stays as it is, with the same hint where a key would have been discarded.
 #pragma once
 
-#include "tools/key_filters.h"
+#include "forms/key_filters.h"
 
 #include <QLineEdit>
 

@@ -79,7 +79,7 @@ bool namesTarget(const std::string& path, const std::string& code) {
 // What is wrong with one line, empty where nothing is.
 std::string faultOf(const Rooms& rooms, const std::string& path, const std::string& line) {
     static const std::regex own("^#include \"([^\"]+/[^\"]+)\"");
-    static const std::regex qt("^#include <Q[A-Z]");
+    static const std::regex qt("^#include <Q[A-Za-z]");
     const std::string from = roomOf(rooms, path);
     std::smatch match;
     if (std::regex_search(line, match, own)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/key_filters.h"
+#include "forms/key_filters.h"
 
 #include <gtest/gtest.h>
 

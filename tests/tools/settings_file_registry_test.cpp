@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/files.h"
 #include "tests/base/temporary_folder.h"
-#include "tools/open_registry.h"
-#include "tools/settings_file_registry.h"
+#include "tools/settings/open_registry.h"
+#include "tools/settings/settings_file_registry.h"
 #include "tools/tool_store.h"
 
 #include <QtCore/QLockFile>

@@ -6,7 +6,7 @@
 #include "base/picture.h"
 #include "base/std_message_box.h"
 #include "forms/dialog_places.h"
-#include "tools/dialogs/filtered_box.h"
+#include "forms/filtered_box.h"
 #include "tools/dialogs/frm_tool_type.h"
 #include "tools/dialogs/type_lists.h"
 #include "tools/tool_store.h"

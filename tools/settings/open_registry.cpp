@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/open_registry.h"
+#include "tools/settings/open_registry.h"
 
+#include "tools/settings/settings_file_registry.h"
 #include "tools/settings_file_reader.h"
-#include "tools/settings_file_registry.h"
 #ifdef _WIN32
 #include "tools/windows_registry.h"
 #endif

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tools/settings_file_registry.h"
+#include "tools/settings/settings_file_registry.h"
 
 #include "base/files.h"
-#include "tools/settings_format.h"
+#include "tools/settings/settings_format.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>

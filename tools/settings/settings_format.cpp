@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/settings_format.h"
+#include "tools/settings/settings_format.h"
 
 #include "tools/ini_text.h"
 #include "tools/settings_file_reader.h"
