@@ -105,7 +105,7 @@ fs::path realTarget(const fs::path& file) {
     errno = 0;
     if (!mayBeReplaced(file))
         throw FileError(name, "the file cannot be written: " + systemErrorText());
-    const fs::path real = fs::canonical(file, error);
+    fs::path real = fs::canonical(file, error);
     if (error)
         throw FileError(name, "the file cannot be replaced: " + error.message());
     return real;

@@ -19,6 +19,8 @@ public:
     // new file. A file that is replaced keeps its rights and, where the system allows it, its
     // owner.
     explicit WholeFile(const std::filesystem::path& target);
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
     ~WholeFile() override;
 
     void write(std::string_view bytes) override;

@@ -156,7 +156,10 @@ constexpr Dialect noDialect{.code = 0,
                             .saveKind = {},
                             .folderSetting = {}};
 
-std::span<const Dialect> rows = table;
+std::span<const Dialect>& rows() {
+    static std::span<const Dialect> inForce = table;
+    return inForce;
+}
 
 std::int16_t toolNumber(const StatementValues& values) {
     return toolAt(*values.tools, values.toolPlace).intNumber;
@@ -192,28 +195,28 @@ std::string placeText(std::string_view place, const StatementValues& values) {
 } // namespace
 
 std::span<const Dialect> dialects() {
-    return rows;
+    return rows();
 }
 
-OtherDialects::OtherDialects(std::span<const Dialect> others) : m_before(rows) {
-    rows = others;
+OtherDialects::OtherDialects(std::span<const Dialect> others) : m_before(rows()) {
+    rows() = others;
 }
 
 OtherDialects::~OtherDialects() {
-    rows = m_before;
+    rows() = m_before;
 }
 
 const Dialect& dialectFor(std::int16_t code) {
-    const auto row = std::find_if(rows.begin(), rows.end(),
+    const auto row = std::find_if(rows().begin(), rows().end(),
                                   [code](const Dialect& dialect) { return dialect.code == code; });
-    return row == rows.end() ? noDialect : *row;
+    return row == rows().end() ? noDialect : *row;
 }
 
 const Dialect* dialectNamed(std::string_view optionName) {
-    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Dialect& dialect) {
+    const auto row = std::find_if(rows().begin(), rows().end(), [&](const Dialect& dialect) {
         return dialect.optionName == optionName;
     });
-    return row == rows.end() ? nullptr : &*row;
+    return row == rows().end() ? nullptr : &*row;
 }
 
 void expand(std::string& out, std::string_view statement, const StatementValues& values) {

@@ -65,7 +65,7 @@ std::span<const Dialect> dialects();
 // Other rows in place of the table's while one lives, for trying a row before it joins the table.
 class OtherDialects {
 public:
-    explicit OtherDialects(std::span<const Dialect> rows);
+    explicit OtherDialects(std::span<const Dialect> others);
     ~OtherDialects();
     OtherDialects(const OtherDialects&) = delete;
     OtherDialects& operator=(const OtherDialects&) = delete;
