@@ -303,7 +303,7 @@ TEST_F(FifthTarget, IsWrittenByItsRowAlone) {
     std::ostringstream err;
     EXPECT_EQ(runConverter({"torvik-convert", job.drawing.gstrPlotFile, "--target", "fifth",
                             "--answers", job.answers.gstrSavedFile, "--tools",
-                            TORVIK_SAMPLES "/Maskor.ini", "--output", again},
+                            std::string(TORVIK_SAMPLES) + "/Maskor.ini", "--output", again},
                            out, err),
               0)
         << err.str();
