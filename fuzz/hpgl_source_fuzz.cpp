@@ -54,7 +54,6 @@ bool isNear(const StrokeExtents& extents) {
 
 void prepare(const SourceDrawing& source, const PrepareOptions& options) {
     const PreparedDrawing prepared = prepareDrawing(source, options);
-    holds(isPlainDrawing(prepared.text), "a prepared drawing is read whole");
     holds(prepared.report.fit.largestDeviation <= options.tolerance * plotterUnitsPerMm,
           "own points keep to the tolerance");
     holds(!reportText("drawing", prepared.report).empty(), "there is a report");

@@ -12,8 +12,8 @@ constexpr std::string_view jobLine = "@PJL"; // said to a printer
 // Pairs of letters.
 constexpr std::string_view thatDraw = "PUPDPAPRPEAAARATRTBZBRCIEAEREWRARRWGXTYTPMEPFPLBPBUC";
 constexpr std::string_view thatPlace = "SPIPIRSCROPS";
-// Without numbers they take the pen nowhere, and units go back to what the reader takes anyway.
-constexpr std::string_view thatMayBeBare = "PUPDPAIPIRSCROPS";
+// Without numbers they change nothing: units go back to what the reader takes anyway.
+constexpr std::string_view thatMayBeBare = "PAIPIRSCROPS";
 
 bool holds(std::string_view pairs, Mnemonic mnemonic) {
     for (std::size_t i = 0; i < pairs.size(); i += 2)
