@@ -21,6 +21,10 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+bool isLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 std::string_view withoutLastCommas(std::string_view text) {
     while (text.ends_with(','))
         text.remove_suffix(1);
@@ -112,8 +116,9 @@ void HpglPlotter::perform(std::string_view part) {
 void HpglPlotter::passOver(std::string_view part) {
     if (part.find_first_not_of(',') == std::string_view::npos)
         return;
-    // A last move after the end is no loss.
-    const bool isLastMove = m_stopped && (part.starts_with("PU") || part.starts_with("SP"));
+    // A last move after the end is no loss, unless an instruction hangs on it.
+    const bool isLastMove = m_stopped && (part.starts_with("PU") || part.starts_with("SP")) &&
+                            std::none_of(part.begin() + 2, part.end(), isLetter);
     if (!isLastMove && isLoss(part))
         ++m_reading.lost;
     else
