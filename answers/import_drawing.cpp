@@ -25,7 +25,7 @@ ImportResult importDrawingWithAnswers(Job& job, const std::filesystem::path& dra
     result.imported = readDrawing(job, drawing, logger);
     if (result.imported) {
         result.saved = GetSavedDataFrom(job, tools, answersFile, logger);
-        CreateTree(job, logger);
+        CreateTree(job.answers, job.position, logger);
     }
     return result;
 }

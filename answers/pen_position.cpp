@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "answers/pen_position.h"
 
-#include "base/numbers.h"
 #include "base/picture.h"
 #include "job/colour_tree.h"
+#include "job/hole_sizes.h"
 #include "job/pens.h"
 
 #include <algorithm>
@@ -58,8 +58,7 @@ PenMove movePosition(Job& job, int direction) {
         }
     }
     job.position.gintCurrentRadius = static_cast<std::int16_t>(radius);
-    job.position.gintCurrentSettings =
-        static_cast<std::int16_t>(currentPen(job).intSettings + radius);
+    job.position.gintCurrentSettings = settingsOfSize(currentPen(job), radius);
     return PenMove::onPage;
 }
 
@@ -110,7 +109,7 @@ bool toolMissesHole(const Job& job, float toolDiameter) {
 int machinedPens(const Job& job) {
     int count = 0;
     for (std::int16_t pen = 1; pen <= penCount; ++pen)
-        count += isMachined(job, pen) ? 1 : 0;
+        count += isMachined(job.answers, pen) ? 1 : 0;
     return count;
 }
 
@@ -122,7 +121,7 @@ std::vector<std::int16_t> blinkPaths(const Job& job) {
     for (int i = 1; i <= job.drawing.gintPathCount; ++i) {
         const Path& path = job.drawing.gudtPaths[i];
         if (path.intPen == job.position.gintCurrentPen &&
-            (!oneSize || singleDistance(path.sngRadius, radius) <= radiusTolerance))
+            (!oneSize || isSameSize(path.sngRadius, radius)))
             paths.push_back(static_cast<std::int16_t>(i));
     }
     return paths;
@@ -153,7 +152,7 @@ void updateCurrentNode(Job& job, bool cutAnswered) {
     if (node == nullptr)
         return;
     node->image = cutAnswered ? static_cast<std::int16_t>(imageCut + job.position.gintCurrentPen)
-                              : colourNode(job, job.position.gintCurrentPen).image;
+                              : colourNode(job.answers, job.position.gintCurrentPen).image;
     node->expanded = pen.blnDrill;
 }
 

@@ -45,7 +45,7 @@ public:
         m_screen = QImage(m_size, QImage::Format_RGB32);
 
         LineScale lines;
-        torvik::GetScale(m_job, m_frame, lines, m_logger);
+        torvik::GetScale(m_job.drawing, m_frame, lines, m_logger);
         m_view.fit = lines.fit;
         m_view.scaleHeight = lines.picture.sngHeight;
     }
@@ -64,12 +64,12 @@ public:
 
     bool drawPiece() {
         PieceScale piece;
-        if (!GetPieceScale(m_job, m_tools, m_frame, piece, m_logger) ||
-            !sortPathsByDepth(m_job, m_logger))
+        if (!GetPieceScale(m_job.drawing, m_job.answers, m_tools, m_frame, piece, m_logger))
             return false;
         PictureView view = m_view;
         view.fit = piece.fit;
-        const DepthList depths = paintPiece(m_piece, m_size, view, m_job, m_tools, piece);
+        const DepthList depths = paintPiece(
+            m_piece, m_size, view, worksByDepth(m_job.drawing, m_job.answers, m_tools), piece);
         copyToScreen(m_piece);
         return depths.gintDepthCount > 0;
     }

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Sorting paths by the depth of their groups: eight depths, met in turns.
-#include "base/logger.h"
-#include "bench/drawings.h"
-#include "job/hpgl_reader.h"
-#include "job/job.h"
 #include "job/pens.h"
+#include "job/records.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -13,18 +10,14 @@ namespace torvik {
 namespace {
 
 void sortPaths(benchmark::State& state) {
-    Logger logger;
-    Job job;
-    readInstructions(job.drawing, lineDrawing(state.range(0)), "drawing", logger);
-    for (std::int16_t i = 1; i <= job.drawing.gintPathCount; ++i)
-        job.drawing.gudtPaths[i].sngSortKey = static_cast<float>(i * 5 % penCount);
+    std::vector<float> keys;
+    for (std::int64_t i = 1; i <= state.range(0); ++i)
+        keys.push_back(static_cast<float>(i * 5 % penCount));
+    std::vector<std::size_t> order;
     for (auto _ : state)
-        SortPaths(job, logger);
-    if (!std::is_sorted(job.drawing.gintPathOrder.begin(), job.drawing.gintPathOrder.end(),
-                        [&](auto a, auto b) {
-                            return job.drawing.gudtPaths[a].sngSortKey <
-                                   job.drawing.gudtPaths[b].sngSortKey;
-                        }))
+        order = SortPaths(keys);
+    if (!std::is_sorted(order.begin(), order.end(),
+                        [&](auto a, auto b) { return keys[a] < keys[b]; }))
         state.SkipWithError("the paths were not sorted");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }

@@ -55,21 +55,20 @@ void checkPens(const Job& job) {
           "a node for each used pen");
 }
 
-void checkOrder(const Job& job) {
-    std::vector<std::int16_t> order(job.drawing.gintPathOrder.begin(),
-                                    job.drawing.gintPathOrder.end());
+void checkOrder(const Drawing& drawing) {
+    std::vector<float> keys;
+    for (const Path& path : drawing.gudtPaths)
+        keys.push_back(path.sngRadius);
+    std::vector<std::size_t> order = SortPaths(keys);
     holds(std::is_sorted(order.begin(), order.end(),
-                         [&](std::int16_t a, std::int16_t b) {
-                             const float keyA = job.drawing.gudtPaths[a].sngSortKey;
-                             const float keyB = job.drawing.gudtPaths[b].sngSortKey;
-                             return keyA < keyB || (keyA == keyB && a < b);
+                         [&](std::size_t a, std::size_t b) {
+                             return keys[a] < keys[b] || (keys[a] == keys[b] && a < b);
                          }),
           "paths ascend by key, and by place where keys are equal");
     std::sort(order.begin(), order.end());
     for (std::size_t i = 0; i < order.size(); ++i)
-        holds(order[i] == static_cast<std::int16_t>(i + 1), "every path stands once in the order");
-    holds(order.size() == static_cast<std::size_t>(job.drawing.gintPathCount),
-          "no path is left out");
+        holds(order[i] == i, "every path stands once in the order");
+    holds(order.size() == keys.size(), "no path is left out");
 }
 
 void read(std::string bytes) {
@@ -82,15 +81,12 @@ void read(std::string bytes) {
         return;
     }
     holds(job.drawing.gudtPaths.count() == job.drawing.gintPathCount, "the paths are counted");
-    for (Path& path : job.drawing.gudtPaths) {
+    for (const Path& path : job.drawing.gudtPaths)
         checkPath(path);
-        path.sngSortKey = path.sngRadius;
-    }
     holds(SetUpPens(job, logger), "the pens of a read drawing can be set up");
-    CreateTree(job, logger);
+    CreateTree(job.answers, job.position, logger);
     checkPens(job);
-    holds(SortPaths(job, logger), "the paths of a read drawing can be sorted");
-    checkOrder(job);
+    checkOrder(job.drawing);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gcode/path_index.h"
 
-#include "base/numbers.h"
+#include "job/hole_sizes.h"
 
 #include <algorithm>
 
@@ -27,15 +27,9 @@ PathSubscripts PathIndex::ofRadius(std::int16_t pen, float radius) {
         std::sort(sorted.begin(), sorted.end(),
                   [&](std::int16_t a, std::int16_t b) { return radiusOf(a) < radiusOf(b); });
     }
-    // A little wide: the exact comparison below decides.
-    const double reach = 2 * radiusTolerance;
-    const auto first =
-        std::lower_bound(sorted.begin(), sorted.end(), radius - reach,
-                         [&](std::int16_t i, double limit) { return radiusOf(i) < limit; });
-    PathSubscripts found;
-    for (auto at = first; at != sorted.end() && radiusOf(*at) <= radius + reach; ++at)
-        if (singleDistance(radiusOf(*at), radius) < radiusTolerance)
-            found.push_back(*at);
+    const auto [first, last] =
+        rangeOfSize(sorted.begin(), sorted.end(), radius, isDrilledAt, radiusOf);
+    PathSubscripts found(first, last);
     std::sort(found.begin(), found.end());
     return found;
 }

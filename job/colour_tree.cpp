@@ -7,8 +7,8 @@
 
 namespace torvik {
 
-ColourNode colourNode(const Job& job, std::int16_t number) {
-    const Pen& pen = job.answers.gudtPens[number];
+ColourNode colourNode(const Answers& answers, std::int16_t number) {
+    const Pen& pen = answers.gudtPens[number];
     std::int16_t run = imageCut;
     if (pen.blnOmit)
         run = imageOmitted;
@@ -25,7 +25,7 @@ ColourNode colourNode(const Job& job, std::int16_t number) {
                                  false,
                                  {}});
     if (pen.intRadiusCount > 0) {
-        const bool isCut = !pen.blnDrill && job.answers.gudtSettings[pen.intSettings].blnComplete;
+        const bool isCut = !pen.blnDrill && answers.gudtSettings[pen.intSettings].blnComplete;
         if (isCut)
             node.image = image(imageCut);
         node.expanded = !isCut;
@@ -33,12 +33,12 @@ ColourNode colourNode(const Job& job, std::int16_t number) {
     return node;
 }
 
-void CreateTree(Job& job, Logger& logger) {
+void CreateTree(const Answers& answers, Position& position, Logger& logger) {
     withErrorTrap(logger, {"CreateTree", "modHpgl"}, [&] {
-        job.position.gudtColourTree.clear();
+        position.gudtColourTree.clear();
         for (std::int16_t pen = 1; pen <= penCount; ++pen)
-            if (job.answers.gudtPens[pen].blnUsed)
-                job.position.gudtColourTree.push_back(colourNode(job, pen));
+            if (answers.gudtPens[pen].blnUsed)
+                position.gudtColourTree.push_back(colourNode(answers, pen));
     });
 }
 

@@ -9,7 +9,8 @@
 
 namespace torvik {
 
-struct Job;
+struct Answers;
+struct Position;
 class Logger;
 
 struct ColourNode {
@@ -28,10 +29,10 @@ inline constexpr std::int16_t imageCircles = 16; // + pen
 inline constexpr std::int16_t imageHole = 24;    // + pen
 
 // Builds gudtColourTree from the pens and their settings.
-void CreateTree(Job& job, Logger& logger);
+void CreateTree(const Answers& answers, Position& position, Logger& logger);
 
 // The node of one used pen, by its number, as CreateTree makes it. Raises SubscriptOutOfRange for a
 // pen outside 1 to 8.
-ColourNode colourNode(const Job& job, std::int16_t number);
+ColourNode colourNode(const Answers& answers, std::int16_t number);
 
 } // namespace torvik

@@ -2,6 +2,7 @@
 // Which settings groups a program uses, in machining order.
 #pragma once
 
+#include "job/hole_sizes.h"
 #include "job/job.h"
 
 #include <string>
@@ -28,7 +29,7 @@ void visitMachinedGroups(const Job& job, Visit visit) {
             continue;
         }
         for (std::int16_t k = 1; k <= pen.intRadiusCount; ++k)
-            visit(MachinedGroup{number, k, static_cast<std::int16_t>(pen.intSettings + k)});
+            visit(MachinedGroup{number, k, settingsOfSize(pen, k)});
     }
 }
 

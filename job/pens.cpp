@@ -4,13 +4,16 @@
 #include "base/error_trap.h"
 #include "base/errors.h"
 #include "base/numbers.h"
+#include "job/hole_sizes.h"
 #include "job/job.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <numeric>
+#include <set>
 #include <string_view>
 
 namespace torvik {
@@ -46,43 +49,41 @@ void appendSettingsGroup(Job& job) {
     job.answers.gudtSettings.append({});
 }
 
-// The radii are ascending, so only those close to the new one are looked at.
-bool hasRadius(const Pen& pen, float radius) {
-    const auto first =
-        std::lower_bound(pen.sngRadii.begin(), pen.sngRadii.end(), radius - 2 * radiusTolerance);
-    for (auto at = first; at != pen.sngRadii.end() && *at <= radius + 2 * radiusTolerance; ++at)
-        if (singleDistance(*at, radius) <= radiusTolerance)
-            return true;
-    return false;
+// The kept sizes lie further apart than the tolerance, so only the neighbours count.
+bool hasSize(const std::set<float>& sizes, float radius) {
+    const auto next = sizes.lower_bound(radius);
+    return (next != sizes.end() && isSameSize(*next, radius)) ||
+           (next != sizes.begin() && isSameSize(*std::prev(next), radius));
 }
 
-void insertRadius(Pen& pen, float radius) {
-    const auto place = std::upper_bound(pen.sngRadii.begin(), pen.sngRadii.end(), radius);
-    pen.intRadiusCount = toInt16(pen.intRadiusCount + 1.0);
-    pen.sngRadii.insert(place - pen.sngRadii.begin() + 1, radius);
+// Makes the pen's circles full turns and puts their sizes into `sizes`, until a path of the pen is
+// no circle; false where there is one.
+bool collectSizes(Drawing& drawing, std::int16_t number, std::set<float>& sizes) {
+    for (Path& path : drawing.gudtPaths) {
+        if (path.intPen != number)
+            continue;
+        if (!isClosedCircle(path))
+            return false;
+        path.sngAngleTo = path.sngAngleFrom;
+        if (!hasSize(sizes, path.sngRadius))
+            sizes.insert(path.sngRadius);
+    }
+    return true;
 }
 
 void checkForCircles(Job& job, std::int16_t number) {
     Pen& pen = job.answers.gudtPens[number];
-    bool circles = true;
-    for (Path& path : job.drawing.gudtPaths) {
-        if (path.intPen != number)
-            continue;
-        circles = isClosedCircle(path);
-        if (!circles)
-            break;
-        path.sngAngleTo = path.sngAngleFrom;
-        if (!hasRadius(pen, path.sngRadius)) {
-            insertRadius(pen, path.sngRadius);
-            appendSettingsGroup(job);
-        }
-    }
-    // Groups appended for sizes met before the presumption fell stay: groups count by position.
-    if (!circles) {
-        pen.intRadiusCount = 0;
-        pen.sngRadii.erase();
-    }
-    pen.blnCircles = circles;
+    std::set<float> sizes(pen.sngRadii.begin(), pen.sngRadii.end());
+    const std::size_t before = sizes.size();
+    pen.blnCircles = collectSizes(job.drawing, number, sizes);
+    pen.sngRadii.erase();
+    if (pen.blnCircles)
+        for (const float size : sizes)
+            pen.sngRadii.append(size);
+    pen.intRadiusCount = toInt16(static_cast<double>(pen.sngRadii.count()));
+    // Also for sizes met before the line that makes it a pen to cut: groups count by position.
+    for (std::size_t i = before; i < sizes.size(); ++i)
+        appendSettingsGroup(job);
 }
 
 void setUpPens(Job& job) {
@@ -127,27 +128,25 @@ bool CheckForCircles(Job& job, std::int16_t intPen, Logger& logger) {
                          [&] { checkForCircles(job, intPen); });
 }
 
-bool SortPaths(Job& job, Logger& logger) {
-    return withErrorTrap(logger, {"SortPaths", "modHpgl"}, [&] {
-        auto& order = job.drawing.gintPathOrder;
-        order.resize(job.drawing.gintPathCount);
-        std::iota(order.begin(), order.end(), std::int16_t{1});
-        std::stable_sort(order.begin(), order.end(), [&](std::int16_t a, std::int16_t b) {
-            return job.drawing.gudtPaths[a].sngSortKey < job.drawing.gudtPaths[b].sngSortKey;
-        });
-    });
+std::vector<std::size_t> SortPaths(std::span<const float> keys) {
+    std::vector<std::size_t> order(keys.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    return order;
 }
 
 void rebuildOrder(Job& job) {
-    job.answers.gintOrder.fill(0);
-    job.answers.gintOrderCount = 0;
+    Answers& answers = job.answers;
+    answers.gintOrder.fill(0);
+    answers.gintOrderCount = 0;
     for (std::int16_t number = 1; number <= penCount; ++number)
-        if (isMachined(job, number))
-            job.answers.gintOrder[++job.answers.gintOrderCount] = number;
+        if (isMachined(answers, number))
+            answers.gintOrder[++answers.gintOrderCount] = number;
 }
 
-bool isMachined(const Job& job, std::int16_t pen) {
-    return job.answers.gudtPens[pen].blnUsed && !job.answers.gudtPens[pen].blnOmit;
+bool isMachined(const Answers& answers, std::int16_t pen) {
+    return answers.gudtPens[pen].blnUsed && !answers.gudtPens[pen].blnOmit;
 }
 
 bool isClosedCircle(const Path& path) {

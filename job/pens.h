@@ -3,10 +3,14 @@
 // which circle sizes there are, and in which order paths are drawn and pens machined.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
+#include <vector>
 
 namespace torvik {
 
+struct Answers;
 struct Job;
 struct Path;
 class Logger;
@@ -23,15 +27,14 @@ bool SetUpPens(Job& job, Logger& logger);
 // False after a trapped error.
 bool CheckForCircles(Job& job, std::int16_t intPen, Logger& logger);
 
-// Fills gintPathOrder: ascending by sngSortKey, equal keys in file order. False after a trapped
-// error.
-bool SortPaths(Job& job, Logger& logger);
+// The places of the keys, from 0, in drawing order: ascending by key, equal keys as they came.
+std::vector<std::size_t> SortPaths(std::span<const float> keys);
 
 // Rebuilds gintOrder and gintOrderCount from the pens that are machined, in pen order.
 void rebuildOrder(Job& job);
 
 // Whether the pen, 1 to 8, is used and not left out.
-bool isMachined(const Job& job, std::int16_t pen);
+bool isMachined(const Answers& answers, std::int16_t pen);
 
 // Whether the path is an arc whose end lies at its start (within 0.5 mm).
 bool isClosedCircle(const Path& path);

@@ -33,7 +33,6 @@ struct Path {
     float sngRadius = 0;
     float sngOffsetI = 0; // centre minus start, filled by the program writer
     float sngOffsetJ = 0;
-    float sngSortKey = 0; // see SortPaths
 };
 
 // One pen of the plotter, and what the user decided for it.

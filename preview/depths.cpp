@@ -32,8 +32,8 @@ std::int32_t lngPlotColour(float depth, float shallowest, float deepest) {
     return toInt16(shallowestGrey - share * greyRange) * 0x010101;
 }
 
-std::int32_t lngPenColour(const Job& job, std::int16_t pen) {
-    return job.answers.gudtPens[pen].lngColour;
+std::int32_t lngPenColour(const Answers& answers, std::int16_t pen) {
+    return answers.gudtPens[pen].lngColour;
 }
 
 std::string depthText(float depth) {

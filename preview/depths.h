@@ -10,7 +10,7 @@
 
 namespace torvik {
 
-struct Job;
+struct Answers;
 
 inline constexpr std::int32_t whiteColour = 0xFFFFFF;
 
@@ -28,7 +28,7 @@ void SaveDepth(DepthList& depths, float depth);
 std::int32_t lngPlotColour(float depth, float shallowest, float deepest);
 
 // A pen's own colour. Raises SubscriptOutOfRange for a pen outside 1 to 8.
-std::int32_t lngPenColour(const Job& job, std::int16_t pen);
+std::int32_t lngPenColour(const Answers& answers, std::int16_t pen);
 
 // A depth as the legend says it: "2.50 mm".
 std::string depthText(float depth);

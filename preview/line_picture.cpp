@@ -62,7 +62,7 @@ void paintLines(LinePainter&& painter, const Job& job, double width,
         if (!shown[i])
             continue;
         const Path& path = job.drawing.gudtPaths[static_cast<long>(i) + 1];
-        painter.setColour(lngPenColour(job, path.intPen));
+        painter.setColour(lngPenColour(job.answers, path.intPen));
         painter.groove(path, width);
     }
 }

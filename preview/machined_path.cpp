@@ -1,56 +1,72 @@
 // SPDX-License-Identifier: MIT
 #include "preview/machined_path.h"
 
-#include "base/numbers.h"
 #include "base/picture.h"
+#include "job/hole_sizes.h"
 #include "job/job.h"
 #include "job/machined_groups.h"
 #include "job/pens.h"
 #include "tools/tool_list.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace torvik {
 namespace {
 
-// The subscript in sngRadii of the first size that is the path's, 0 for a pen that is cut.
-std::int16_t holeSizeOf(const Pen& pen, const Path& path) {
-    if (!pen.blnDrill)
-        return 0;
-    // The sizes are ascending: all before this one are too small.
-    auto at = std::lower_bound(pen.sngRadii.begin(), pen.sngRadii.end(),
-                               path.sngRadius - 2 * radiusTolerance);
-    for (; at != pen.sngRadii.end() && *at <= path.sngRadius + 2 * radiusTolerance; ++at)
-        if (singleDistance(*at, path.sngRadius) <= radiusTolerance)
-            return static_cast<std::int16_t>(at - pen.sngRadii.begin() + 1);
-    throw InvalidCall("the " + pen.strColour + " circles have no size of " +
-                      formatFixed(2.0 * path.sngRadius, 1) + " mm");
+// With the given hole size, 0 where the pen is cut.
+Work workWith(const Answers& answers, const ToolList& tools, const Pen& pen, std::int16_t size) {
+    const Settings& settings = answers.gudtSettings[settingsOfSize(pen, size)];
+    if (settings.intTool < 1 || settings.intTool > tools.gintToolCount)
+        throw InvalidCall(groupText(pen, size) + " have no tool");
+    return {settings.sngDepth, toolAt(tools, settings.intTool).sngDiameter, size > 0};
 }
 
-const Settings& settingsAt(const Job& job, const Pen& pen, std::int16_t holeSize) {
-    return job.answers.gudtSettings[pen.intSettings + holeSize];
+// Leaves out what a deeper and no narrower drill takes away.
+std::vector<Work> thatShow(std::vector<Work> works) {
+    std::sort(works.begin(), works.end(), [](const Work& a, const Work& b) {
+        return std::tie(a.sngDepth, a.sngDiameter) > std::tie(b.sngDepth, b.sngDiameter);
+    });
+    std::vector<Work> shown;
+    for (const Work& work : works)
+        if (shown.empty() || work.sngDiameter > shown.back().sngDiameter)
+            shown.push_back(work);
+    std::reverse(shown.begin(), shown.end());
+    return shown;
 }
 
 } // namespace
 
-const Settings& settingsOf(const Job& job, const Path& path) {
-    const Pen& pen = job.answers.gudtPens[path.intPen];
-    return settingsAt(job, pen, holeSizeOf(pen, path));
+std::vector<Work> workOn(const Answers& answers, const ToolList& tools, const Path& path) {
+    const Pen& pen = answers.gudtPens[path.intPen];
+    if (pen.blnOmit)
+        return {};
+    if (!pen.blnDrill)
+        return {workWith(answers, tools, pen, 0)};
+    std::vector<Work> works;
+    visitDrilledSizes(pen, path.sngRadius, [&](std::int16_t size) {
+        works.push_back(workWith(answers, tools, pen, size));
+    });
+    if (works.empty())
+        throw InvalidCall("the " + pen.strColour + " circles have no size of " +
+                          formatFixed(2.0 * path.sngRadius, 1) + " mm");
+    return thatShow(std::move(works));
 }
 
-MachinedPath machinedPath(const Job& job, const ToolList& tools, const Path& path) {
-    const Pen& pen = job.answers.gudtPens[path.intPen];
-    const std::int16_t holeSize = holeSizeOf(pen, path);
-    const Settings& settings = settingsAt(job, pen, holeSize);
-    if (settings.intTool < 1 || settings.intTool > tools.gintToolCount)
-        throw InvalidCall(groupText(pen, holeSize) + " have no tool");
-    return {settings.sngDepth, toolAt(tools, settings.intTool).sngDiameter, holeSize > 0};
-}
-
-bool sortPathsByDepth(Job& job, Logger& logger) {
-    for (Path& path : job.drawing.gudtPaths)
-        path.sngSortKey = settingsOf(job, path).sngDepth;
-    return SortPaths(job, logger);
+std::vector<WorkOnPath> worksByDepth(const Drawing& drawing, const Answers& answers,
+                                     const ToolList& tools) {
+    std::vector<WorkOnPath> works;
+    std::vector<float> depths;
+    for (const Path& path : drawing.gudtPaths)
+        for (const Work& work : workOn(answers, tools, path)) {
+            works.push_back({&path, work});
+            depths.push_back(work.sngDepth);
+        }
+    std::vector<WorkOnPath> sorted;
+    sorted.reserve(works.size());
+    for (const std::size_t place : SortPaths(depths))
+        sorted.push_back(works[place]);
+    return sorted;
 }
 
 } // namespace torvik

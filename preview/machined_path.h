@@ -1,32 +1,38 @@
 // SPDX-License-Identifier: MIT
-// What machines a path: its settings group and that group's tool. Lengths are mm.
+// What machines the paths of a drawing: each work on a path with its depth and its tool's width,
+// and the order in which works are drawn. Lengths are mm.
 #pragma once
+
+#include <vector>
 
 namespace torvik {
 
-struct Job;
+struct Answers;
+struct Drawing;
 struct Path;
-struct Settings;
 struct ToolList;
-class Logger;
 
-// A path of a pen that is not left out, as it will be machined.
-struct MachinedPath {
+struct Work {
     float sngDepth;
     float sngDiameter; // of the tool
-    bool blnHole;      // drilled at its centre, else cut along its line
+    bool blnHole;      // drilled at the path's centre, else cut along its line
 };
 
-// The path's settings group: its pen's own, or that of its circle size where the pen is drilled.
-// Raises SubscriptOutOfRange at a pen outside 1 to 8, and InvalidCall where the pen has no circle
-// size within 0.01 mm of the path's radius.
-const Settings& settingsOf(const Job& job, const Path& path);
+// The works on a path that show on the finished piece, the shallow ones first: one for a pen that
+// is cut, none for a pen that is left out. A hole that two sizes claim is drilled twice; what a
+// deeper and no narrower drill takes away does not show. Raises SubscriptOutOfRange at a pen
+// outside 1 to 8, and InvalidCall where a group has no tool, or where no size of a drilled pen
+// claims the path.
+std::vector<Work> workOn(const Answers& answers, const ToolList& tools, const Path& path);
 
-// Raises what settingsOf does, and InvalidCall, naming the group, where it has no tool.
-MachinedPath machinedPath(const Job& job, const ToolList& tools, const Path& path);
+struct WorkOnPath {
+    const Path* path; // of the drawing
+    Work work;
+};
 
-// Makes the depth of its group each path's sngSortKey and orders the paths by it, so that shallow
-// work is drawn first. False after a trapped error of the ordering. Raises what settingsOf does.
-bool sortPathsByDepth(Job& job, Logger& logger);
+// All works on the drawing, ascending by depth, so that shallow work is drawn first; those of one
+// depth in file order. Raises what workOn does.
+std::vector<WorkOnPath> worksByDepth(const Drawing& drawing, const Answers& answers,
+                                     const ToolList& tools);
 
 } // namespace torvik

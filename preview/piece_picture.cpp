@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/piece_picture.h"
 
-#include "job/job.h"
+#include "job/records.h"
 #include "preview/groove_painter.h"
-#include "preview/machined_path.h"
-
-#include <vector>
 
 namespace torvik {
 namespace {
@@ -18,8 +15,8 @@ struct Hole {
 
 } // namespace
 
-DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const Job& job,
-                     const ToolList& tools, const PieceScale& piece) {
+DepthList paintPiece(QImage& image, QSize size, const PictureView& view,
+                     const std::vector<WorkOnPath>& works, const PieceScale& piece) {
     clearImage(image, size);
     GroovePainter painter(image, view);
     DepthList depths;
@@ -27,19 +24,15 @@ DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const J
     const auto setColour = [&](float depth) {
         painter.setColour(lngPlotColour(depth, piece.sngShallowest, piece.sngDeepest));
     };
-    for (const std::int16_t number : job.drawing.gintPathOrder) {
-        const Path& path = job.drawing.gudtPaths[number];
-        if (job.answers.gudtPens[path.intPen].blnOmit)
-            continue;
-        const MachinedPath machined = machinedPath(job, tools, path);
-        const double width = view.toolWidth(machined.sngDiameter);
-        SaveDepth(depths, machined.sngDepth);
-        setColour(machined.sngDepth);
-        if (!machined.blnHole) {
-            painter.groove(path, width);
+    for (const auto& [path, work] : works) {
+        const double width = view.toolWidth(work.sngDiameter);
+        SaveDepth(depths, work.sngDepth);
+        setColour(work.sngDepth);
+        if (!work.blnHole) {
+            painter.groove(*path, width);
             continue;
         }
-        const Hole hole{view.point(path.sngCentreX, path.sngCentreY), width / 2, machined.sngDepth};
+        const Hole hole{view.point(path->sngCentreX, path->sngCentreY), width / 2, work.sngDepth};
         painter.disc(hole.centre, hole.radius);
         // The deepest work is painted last, so nothing lies over its holes.
         if (hole.sngDepth < piece.sngDeepest)

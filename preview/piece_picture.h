@@ -4,19 +4,18 @@
 #pragma once
 
 #include "preview/depths.h"
+#include "preview/machined_path.h"
 #include "preview/picture_view.h"
 
 #include <QImage>
 
+#include <vector>
+
 namespace torvik {
 
-struct Job;
-struct ToolList;
-
-// Paints the machined paths in the order of gintPathOrder into a white image of that size, in
-// image pixels, and returns the depths met. Raises InvalidCall at a group without a tool, and
-// SubscriptOutOfRange.
-DepthList paintPiece(QImage& image, QSize size, const PictureView& view, const Job& job,
-                     const ToolList& tools, const PieceScale& piece);
+// Paints the works, which ascend by depth, into a white image of that size, in image pixels, and
+// returns the depths met.
+DepthList paintPiece(QImage& image, QSize size, const PictureView& view,
+                     const std::vector<WorkOnPath>& works, const PieceScale& piece);
 
 } // namespace torvik

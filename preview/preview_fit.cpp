@@ -53,29 +53,33 @@ PictureBox pictureBox(const Extents& extents, const PreviewFit& fit, FrameSize f
     return box;
 }
 
-void includeMachined(PieceScale& piece, const Job& job, const ToolList& tools, const Path& path) {
-    if (job.answers.gudtPens[path.intPen].blnOmit) {
-        includePath(piece.extents, path);
-        return;
-    }
-    const MachinedPath machined = machinedPath(job, tools, path);
-    const double toolRadius = machined.sngDiameter / 2.0;
-    if (machined.blnHole)
+void includeWork(PieceScale& piece, const Path& path, const Work& work) {
+    const double toolRadius = work.sngDiameter / 2.0;
+    if (work.blnHole)
         includePoint(piece.extents, path.sngCentreX, path.sngCentreY, toolRadius);
     else
         includePath(piece.extents, path, toolRadius);
-    piece.sngShallowest = std::min(piece.sngShallowest, machined.sngDepth);
-    piece.sngDeepest = std::max(piece.sngDeepest, machined.sngDepth);
+    piece.sngShallowest = std::min(piece.sngShallowest, work.sngDepth);
+    piece.sngDeepest = std::max(piece.sngDeepest, work.sngDepth);
+}
+
+void includeMachined(PieceScale& piece, const Answers& answers, const ToolList& tools,
+                     const Path& path) {
+    if (answers.gudtPens[path.intPen].blnOmit)
+        includePath(piece.extents, path);
+    else
+        for (const Work& work : workOn(answers, tools, path))
+            includeWork(piece, path, work);
 }
 
 } // namespace
 
-bool GetScale(const Job& job, FrameSize frame, LineScale& scale, Logger& logger) {
+bool GetScale(const Drawing& drawing, FrameSize frame, LineScale& scale, Logger& logger) {
     scale = {};
     scale.picture = pictureBox(scale.extents, scale.fit, frame);
     return withErrorTrap(logger, {"GetScale", "modHpgl"}, [&] {
         LineScale found;
-        for (const Path& path : job.drawing.gudtPaths)
+        for (const Path& path : drawing.gudtPaths)
             includePath(found.extents, path);
         found.extents = stored(found.extents);
         refit(found, frame);
@@ -83,12 +87,12 @@ bool GetScale(const Job& job, FrameSize frame, LineScale& scale, Logger& logger)
     });
 }
 
-bool GetPieceScale(const Job& job, const ToolList& tools, FrameSize frame, PieceScale& piece,
-                   Logger& logger) {
+bool GetPieceScale(const Drawing& drawing, const Answers& answers, const ToolList& tools,
+                   FrameSize frame, PieceScale& piece, Logger& logger) {
     return withErrorTrap(logger, {"GetPieceScale", "modHpgl"}, [&] {
         PieceScale found;
-        for (const Path& path : job.drawing.gudtPaths)
-            includeMachined(found, job, tools, path);
+        for (const Path& path : drawing.gudtPaths)
+            includeMachined(found, answers, tools, path);
         found.extents = stored(found.extents);
         refit(found, frame);
         piece = found;

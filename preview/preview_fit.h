@@ -8,7 +8,8 @@
 
 namespace torvik {
 
-struct Job;
+struct Answers;
+struct Drawing;
 struct ToolList;
 class Logger;
 
@@ -56,13 +57,13 @@ struct PieceScale {
 
 // Fits all paths of the drawing. An empty drawing fills the frame with an empty picture. False
 // after a trapped error, which leaves the fit of an empty drawing.
-bool GetScale(const Job& job, FrameSize frame, LineScale& scale, Logger& logger);
+bool GetScale(const Drawing& drawing, FrameSize frame, LineScale& scale, Logger& logger);
 
 // Fits the piece: each path with half its tool's width round it, a drilled circle as its tool's
 // disc, a left-out path as it is drawn. False after a trapped error: a machined group without a
 // tool; `piece` then stays.
-bool GetPieceScale(const Job& job, const ToolList& tools, FrameSize frame, PieceScale& piece,
-                   Logger& logger);
+bool GetPieceScale(const Drawing& drawing, const Answers& answers, const ToolList& tools,
+                   FrameSize frame, PieceScale& piece, Logger& logger);
 
 // The same fits for a frame of another size. Raise Overflow.
 void refit(LineScale& scale, FrameSize frame);

@@ -4,7 +4,6 @@
 #include "base/error_trap.h"
 #include "forms/help_key.h"
 #include "job/job.h"
-#include "preview/machined_path.h"
 #include "preview/piece_picture.h"
 #include "preview/sheet.h"
 
@@ -46,7 +45,7 @@ int pixels(float twips) {
 
 } // namespace
 
-PreviewWidget::PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QWidget* parent)
+PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logger, QWidget* parent)
     : QFrame(parent), m_job(job), m_tools(tools), m_logger(logger),
       m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
     const auto image = [this]() -> const QImage& { return picture(); };
@@ -129,7 +128,7 @@ void PreviewWidget::GetScale() {
     m_piece.reset();
     m_lines.forget();
     startShowing(Showing::nothing);
-    torvik::GetScale(m_job, frameSize(), m_line, m_logger);
+    torvik::GetScale(m_job.drawing, frameSize(), m_line, m_logger);
     placeLegendStrip();
     refitToFrame();
 }
@@ -166,11 +165,10 @@ void PreviewWidget::DrawPiece() {
     startShowing(Showing::piece);
     m_failed = !withErrorTrap(m_logger, {"DrawPiece", "modHpgl"}, [this] {
         PieceScale piece;
-        if (!GetPieceScale(m_job, m_tools, frameSize(), piece, m_logger))
+        if (!GetPieceScale(m_job.drawing, m_job.answers, m_tools, frameSize(), piece, m_logger))
             return;
         m_piece = piece;
-        if (sortPathsByDepth(m_job, m_logger))
-            paintPiece();
+        paintPiece();
     });
 }
 
@@ -210,7 +208,8 @@ void PreviewWidget::paintLines() {
 
 void PreviewWidget::paintPiece() {
     const DepthList depths =
-        torvik::paintPiece(m_pieceImage, imageSize(), view(), m_job, m_tools, *m_piece);
+        torvik::paintPiece(m_pieceImage, imageSize(), view(),
+                           worksByDepth(m_job.drawing, m_job.answers, m_tools), *m_piece);
     m_legend->setDepths(depths, m_piece->sngShallowest, m_piece->sngDeepest);
     painted();
 }

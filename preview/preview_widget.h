@@ -29,7 +29,7 @@ class Sheet;
 
 class PreviewWidget : public QFrame {
 public:
-    PreviewWidget(Job& job, const ToolList& tools, Logger& logger, QWidget* parent = nullptr);
+    PreviewWidget(const Job& job, const ToolList& tools, Logger& logger, QWidget* parent = nullptr);
 
     // Fits the drawing that was just read, and sizes and centres the picture. Shows nothing yet.
     void GetScale();
@@ -74,7 +74,7 @@ private:
     void paintAgain();
     void painted();
 
-    Job& m_job;
+    const Job& m_job;
     const ToolList& m_tools;
     Logger& m_logger;
 

@@ -65,7 +65,7 @@ void FrmMain::importFrom(const std::filesystem::path& drawing) {
         return;
     }
     m_kept.giveBack(job);
-    CreateTree(job, m_workshop.logger);
+    CreateTree(job.answers, job.position, m_workshop.logger);
     addRecentDrawing(fullPath);
     showSkipped(job.drawing.reading.lost);
     layOutImported();

@@ -45,7 +45,7 @@ TEST(CreateTree, ShowsEachUsedPenAndItsHoleSizes) {
             job.answers.gudtSettings[pen->intSettings].blnComplete = row.complete;
         }
         job.position.gudtColourTree.emplace_back();
-        CreateTree(job, logger);
+        CreateTree(job.answers, job.position, logger);
         EXPECT_EQ(described(job.position.gudtColourTree), row.tree) << row.says;
     }
 }

@@ -38,9 +38,9 @@ TEST(LngPlotColour, DarkensWithTheDepth) {
 TEST(LngPenColour, KnowsPens1To8Only) {
     Job job;
     SetColourDefinitions(job);
-    EXPECT_EQ(lngPenColour(job, 7), 0xC080FF);
-    EXPECT_THROW(lngPenColour(job, 0), SubscriptOutOfRange);
-    EXPECT_THROW(lngPenColour(job, 9), SubscriptOutOfRange);
+    EXPECT_EQ(lngPenColour(job.answers, 7), 0xC080FF);
+    EXPECT_THROW(lngPenColour(job.answers, 0), SubscriptOutOfRange);
+    EXPECT_THROW(lngPenColour(job.answers, 9), SubscriptOutOfRange);
 }
 
 } // namespace

@@ -20,15 +20,15 @@ struct Painted {
     }
 };
 
-Painted paint(Job& job, const ToolList& tools, double pixelRatio = 1) {
+Painted paint(const Job& job, const ToolList& tools, double pixelRatio = 1) {
     Logger logger;
     PieceScale piece;
-    EXPECT_TRUE(GetPieceScale(job, tools, {side * 15, side * 15}, piece, logger));
-    EXPECT_TRUE(sortPathsByDepth(job, logger));
+    EXPECT_TRUE(
+        GetPieceScale(job.drawing, job.answers, tools, {side * 15, side * 15}, piece, logger));
     Painted painted;
     const int size = static_cast<int>(side * pixelRatio);
-    painted.depths =
-        paintPiece(painted.image, {size, size}, plainView(4, side, pixelRatio), job, tools, piece);
+    painted.depths = paintPiece(painted.image, {size, size}, plainView(4, side, pixelRatio),
+                                worksByDepth(job.drawing, job.answers, tools), piece);
     return painted;
 }
 
@@ -109,6 +109,34 @@ TEST(DrawPiece, DeeperWorkLiesOverShallowerAndHolesKeepTheirRims) {
     EXPECT_EQ(painted.at(18, 25), grey(16));      // the line outside
     EXPECT_EQ(painted.at(40, 40), grey(208));     // the other hole
     EXPECT_EQ(painted.depths.gsngDepths, (OneBasedArray<float>{1, 5}));
+}
+
+TEST(DrawPiece, AHoleThatTwoSizesClaimIsAsDeepAsTheDeeperOne) {
+    // Sizes of 5 and 5.015 mm; the circle of 5.008 mm between them belongs to both.
+    const struct {
+        const char* says;
+        std::vector<float> diameters; // of the tools for the smaller and the larger size
+        Group small, large;
+        int middle, edge; // greys at the middle of the hole and 4.5 mm from there
+        OneBasedArray<float> depths;
+    } rows[] = {
+        {"the larger size is deeper", {10, 10}, {1, 2}, {2, 6}, 0xC0, 0xC0, {6}},
+        {"the smaller size is deeper", {10, 10}, {1, 6}, {2, 2}, 0xC0, 0xC0, {6}},
+        {"a wider drill leaves a step", {10, 4}, {1, 2}, {2, 6}, 16, 208, {2, 6}},
+        {"a narrower drill leaves none", {4, 10}, {1, 2}, {2, 6}, 0xC0, 0xC0, {6}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.says);
+        Job job = machinedDrawing("SP1;PU1000,1000;CI200;CI200.6", {{0, 0}, row.small, row.large});
+        job.answers.gudtPens[1].blnDrill = true;
+        ASSERT_EQ(job.answers.gudtPens[1].intRadiusCount, 2);
+        job.drawing.gudtPaths = {job.drawing.gudtPaths[1]};
+        job.drawing.gudtPaths[1].sngRadius = 5.008F;
+        const Painted painted = paint(job, toolsOf(row.diameters));
+        EXPECT_EQ(painted.at(25, 25), grey(row.middle));
+        EXPECT_EQ(painted.at(29.3, 25), grey(row.edge));
+        EXPECT_EQ(painted.depths.gsngDepths, row.depths);
+    }
 }
 
 TEST(DrawPiece, ChordsOfACurveShowNoSeams) {

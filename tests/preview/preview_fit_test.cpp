@@ -14,7 +14,7 @@ constexpr FrameSize frame{600 * 15, 400 * 15};
 LineScale lineScale(const Job& job) {
     Logger logger;
     LineScale scale;
-    EXPECT_TRUE(GetScale(job, frame, scale, logger));
+    EXPECT_TRUE(GetScale(job.drawing, frame, scale, logger));
     return scale;
 }
 
@@ -118,7 +118,7 @@ TEST(GetPieceScale, WidensEachPathByItsTool) {
     job.answers.gudtPens[4].blnDrill = true;
     Logger logger;
     PieceScale piece;
-    ASSERT_TRUE(GetPieceScale(job, toolsOf({6, 3}), frame, piece, logger));
+    ASSERT_TRUE(GetPieceScale(job.drawing, job.answers, toolsOf({6, 3}), frame, piece, logger));
     EXPECT_EQ(piece.extents.minX, 3.5); // the hole
     EXPECT_EQ(piece.extents.minY, 7);
     EXPECT_EQ(piece.extents.maxX, 200); // a left-out line has no width
@@ -135,7 +135,7 @@ TEST(GetPieceScale, NamesTheGroupWithoutATool) {
     std::string message;
     Logger logger({}, [&](const ErrorReport& report) { message = report.message(); });
     PieceScale piece;
-    EXPECT_FALSE(GetPieceScale(job, toolsOf({3}), frame, piece, logger));
+    EXPECT_FALSE(GetPieceScale(job.drawing, job.answers, toolsOf({3}), frame, piece, logger));
     EXPECT_EQ(message, "An error has occurred in GetPieceScale (modHpgl):\n"
                        "the 5.0 mm Blue holes have no tool.");
 }

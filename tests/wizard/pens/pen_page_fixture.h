@@ -88,7 +88,7 @@ protected:
         job = setUpDrawing(drawing);
         job.gintWizardStep = 3;
         useSeconds(false);
-        CreateTree(job, logger);
+        CreateTree(job.answers, job.position, logger);
         workshop.tools.gudtTools = {{7, "Slot drill", 6}, {3, "Drill", 3}, {4, "Drill", 5.01F}};
         workshop.tools.gintToolCount = 3;
         page.show();
