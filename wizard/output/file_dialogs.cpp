@@ -8,6 +8,7 @@
 #include "gcode/dialects.h"
 #include "tools/registry.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -40,7 +41,8 @@ QString startFolder(const Registry& registry, const char* setting) {
 
 // What the user reads of it is "KIND files (*.EXTENSION)".
 QString filterText(const QString& kind, const QString& extension) {
-    return fileFilter(kind + QStringLiteral(" files"), {extension});
+    return fileFilter(QCoreApplication::translate("FileDialogs", "%1 files").arg(kind),
+                      {extension});
 }
 
 void rememberFolder(Registry& registry, const char* setting, const QString& folder) {
@@ -58,9 +60,9 @@ void rememberPlotFolder(Registry& registry, const QString& folder) {
 }
 
 std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
-    QFileDialog dialog(parent, QStringLiteral("Select the HPGL file to process"),
-                       plotFolder(registry),
-                       filterText(QStringLiteral("HPGL"), QStringLiteral("plt")));
+    QFileDialog dialog(
+        parent, QCoreApplication::translate("FileDialogs", "Select the HPGL file to process"),
+        plotFolder(registry), filterText(QStringLiteral("HPGL"), QStringLiteral("plt")));
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -73,9 +75,10 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
                                        const std::string& proposedName, std::int16_t target,
                                        const std::filesystem::path& drawing, QWidget* parent) {
     const SaveTarget kind = saveTarget(target);
-    QFileDialog dialog(parent, QStringLiteral("Select the destination %1 file").arg(kind.name),
-                       startFolder(registry, kind.folderSetting),
-                       filterText(kind.name, kind.extension));
+    QFileDialog dialog(
+        parent,
+        QCoreApplication::translate("FileDialogs", "Select the destination %1 file").arg(kind.name),
+        startFolder(registry, kind.folderSetting), filterText(kind.name, kind.extension));
     dialog.setObjectName(QStringLiteral("dlgSave"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -86,7 +89,10 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
         std::error_code error;
         if (std::filesystem::equivalent(path, drawing, error)) {
             messages.intStdMsgBox(
-                "This is the drawing itself.\nPlease choose another name for the program.",
+                QCoreApplication::translate(
+                    "FileDialogs",
+                    "This is the drawing itself.\nPlease choose another name for the program.")
+                    .toStdString(),
                 styleExclamation, usualTitle);
             continue;
         }
