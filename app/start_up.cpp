@@ -11,6 +11,7 @@
 #include "app/single_instance.h"
 #include "base/files.h"
 #include "base/logger.h"
+#include "forms/key_guard.h"
 #include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
@@ -49,6 +50,7 @@ int runDesktop(const QString& drawing) {
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
+    const KeyGuard keyGuard;
     MessageWindow messages;
     SingleInstance instance(instanceName());
     const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();

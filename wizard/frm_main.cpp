@@ -1,27 +1,38 @@
 // SPDX-License-Identifier: MIT
-// The window itself and what its pages ask of it. Menu, keys and closing are in frm_main_menu.cpp,
-// the steps in frm_main_steps.cpp, opening and importing in frm_main_open.cpp, what concerns
-// drawings of other programs in frm_main_prepare.cpp.
 #include "wizard/frm_main.h"
 
+#include "base/files.h"
+#include "forms/help_key.h"
+#include "prepare/dialog/dragged_source.h"
 #include "preview/preview_widget.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/globals_page.h"
 #include "wizard/header_page.h"
+#include "wizard/later.h"
+#include "wizard/main_menu.h"
 #include "wizard/order_page.h"
 #include "wizard/output/output_page.h"
+#include "wizard/pens/pen_controls.h"
 #include "wizard/pens/pen_page.h"
+#include "wizard/skipped_line.h"
+#include "wizard/start_page.h"
 #include "wizard/step_list.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStatusBar>
 
 namespace torvik {
 namespace {
@@ -53,49 +64,52 @@ QScrollArea* scrolling(QWidget* page) {
     return area;
 }
 
+bool isPlotFile(const QString& name) {
+    return name.endsWith(u".plt", Qt::CaseInsensitive);
+}
+
 } // namespace
 
 FrmMain::FrmMain(Workshop& workshop, FrameServices services)
-    : m_workshop(workshop), m_services(std::move(services)) {
+    : m_workshop(workshop), m_services(std::move(services)), m_driver(workshop, m_controls, *this),
+      m_skipped(new SkippedLine(workshop, *statusBar())),
+      m_opener(workshop, m_driver, *m_skipped, *this) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QString::fromUtf8(usualTitle));
     setAcceptDrops(true);
     buildWindow();
-    buildMenu();
-
-    m_flash.setObjectName(QStringLiteral("tmrFlash"));
-    m_flash.setParent(this);
-    m_flash.setSingleShot(true);
-    connect(&m_flash, &QTimer::timeout, this, [this] { m_pens->FlashLines(); });
-    m_toolSelect.setObjectName(QStringLiteral("tmrToolSelect"));
-    m_toolSelect.setParent(this);
-    m_toolSelect.setSingleShot(true);
-    connect(&m_toolSelect, &QTimer::timeout, this, &FrmMain::selectTool);
+    new MainMenu(*this, *m_controls.tree);
+    connect(&m_driver, &WizardDriver::drawingWanted, this, [this] { ReadFile(); });
+    connect(&m_driver, &WizardDriver::drawingLeft, m_skipped, [this] { m_skipped->show(0); });
+    connect(&m_driver, &WizardDriver::endWanted, this, &FrmMain::end);
+    connect(m_skipped, &SkippedLine::drawingPrepared, this,
+            [this](const std::filesystem::path& drawing) { ReadFile(drawing); });
 
     qApp->installEventFilter(this);
-    showStep(1);
+    m_driver.showStep(1);
     resize(QSize(1180, 760).boundedTo(screen()->availableSize() - roomForFrame));
 }
 
 void FrmMain::buildWindow() {
-    m_globals = new GlobalsPage(m_workshop, *this);
-    m_pens = new PenPage(m_workshop, *this);
-    m_order = new OrderPage(m_workshop);
-    m_header = new HeaderPage(m_workshop);
-    m_output = new OutputPage(m_workshop);
-    m_pages = new QStackedWidget;
-    m_pages->setObjectName(QStringLiteral("picPages"));
-    m_pages->addWidget(buildStartPage());
+    m_controls.globals = new GlobalsPage(m_workshop, m_driver);
+    m_controls.pens = new PenPage(m_workshop, m_driver);
+    m_controls.order = new OrderPage(m_workshop);
+    m_controls.header = new HeaderPage(m_workshop);
+    m_controls.output = new OutputPage(m_workshop);
+    m_controls.pages = new QStackedWidget;
+    m_controls.pages->setObjectName(QStringLiteral("picPages"));
+    m_controls.pages->addWidget(new StartPage);
     for (QWidget* const page :
-         std::initializer_list<QWidget*>{m_globals, m_pens, m_order, m_header, m_output})
-        m_pages->addWidget(scrolling(page));
+         std::initializer_list<QWidget*>{m_controls.globals, m_controls.pens, m_controls.order,
+                                         m_controls.header, m_controls.output})
+        m_controls.pages->addWidget(scrolling(page));
 
-    m_preview = new PreviewWidget(m_workshop.job, m_workshop.tools, m_workshop.logger);
+    m_controls.preview = new PreviewWidget(m_workshop.job, m_workshop.tools, m_workshop.logger);
     auto* const split = new QSplitter(Qt::Horizontal);
     split->setObjectName(QStringLiteral("splMain"));
     split->addWidget(buildSide());
-    split->addWidget(m_pages);
-    split->addWidget(m_preview);
+    split->addWidget(m_controls.pages);
+    split->addWidget(m_controls.preview);
     split->setChildrenCollapsible(false);
     split->setStretchFactor(0, 0);
     split->setStretchFactor(1, 0);
@@ -107,67 +121,44 @@ void FrmMain::buildWindow() {
     layout->addWidget(split, 1);
     layout->addWidget(buildButtons());
     setCentralWidget(content);
-    buildSkippedLine();
     setMinimumSize(minimumSizeHint().expandedTo({960, 620}));
 }
 
 QWidget* FrmMain::buildSide() {
-    m_steps = new StepList;
-    m_tree = new ColourTreeView;
+    m_controls.steps = new StepList;
+    m_controls.tree = new ColourTreeView;
     auto* const treeLabel = new QLabel(tr("Pens of the drawing"));
     treeLabel->setObjectName(QStringLiteral("lblColours"));
-    m_importedLabel = treeLabel;
+    m_controls.importedLabel = treeLabel;
     auto* const side = new QWidget;
     side->setMinimumWidth(180);
     auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_steps);
+    layout->addWidget(m_controls.steps);
     layout->addSpacing(8);
     layout->addWidget(treeLabel);
-    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_controls.tree, 1);
     layout->addStretch(); // where the tree is hidden
     treeLabel->hide();
     return side;
 }
 
-QWidget* FrmMain::buildStartPage() {
-    auto* const title = new QLabel(tr("From a drawing to a milled part"));
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.6);
-    font.setBold(true);
-    title->setFont(font);
-    title->setWordWrap(true);
-    auto* const text = new QLabel(
-        tr("<p>Torvik turns a pen-plotter drawing (<b>.plt</b>) into a program for your milling "
-           "machine. Each pen colour of the drawing is one operation: cut, drilled, or left "
-           "out.</p><p>Press <b>Start</b> to choose a drawing, or drop one on this window.</p>"
-           "<p>Press <b>F1</b> for help at any time.</p>"));
-    text->setWordWrap(true);
-    text->setAlignment(Qt::AlignTop);
-    auto* const page = new QWidget;
-    page->setObjectName(QStringLiteral("picOpening"));
-    auto* const layout = new QVBoxLayout(page);
-    layout->setContentsMargins(20, 20, 20, 20);
-    layout->addWidget(title);
-    layout->addSpacing(8);
-    layout->addWidget(text, 1);
-    return page;
-}
-
 QWidget* FrmMain::buildButtons() {
-    m_back = button(QStringLiteral("cmdBack"), tr("&Back"), tr("To the page before"));
-    m_next = button(QStringLiteral("cmdNext"), tr("&Next"), tr("To the next page (Enter)"));
-    m_start = button(QStringLiteral("cmdStart"), tr("&Start"), tr("Choose a drawing (Enter)"));
-    connect(m_back, &QPushButton::clicked, this, [this] { Wizard(-1); });
-    connect(m_next, &QPushButton::clicked, this, [this] { Wizard(1); });
-    connect(m_start, &QPushButton::clicked, this, [this] { Wizard(1); });
+    m_controls.back = button(QStringLiteral("cmdBack"), tr("&Back"), tr("To the page before"));
+    m_controls.next =
+        button(QStringLiteral("cmdNext"), tr("&Next"), tr("To the next page (Enter)"));
+    m_controls.start =
+        button(QStringLiteral("cmdStart"), tr("&Start"), tr("Choose a drawing (Enter)"));
+    connect(m_controls.back, &QPushButton::clicked, this, [this] { m_driver.Wizard(-1); });
+    connect(m_controls.next, &QPushButton::clicked, this, [this] { m_driver.Wizard(1); });
+    connect(m_controls.start, &QPushButton::clicked, this, [this] { m_driver.Wizard(1); });
     auto* const row = new QWidget;
     auto* const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch(1);
-    layout->addWidget(m_back);
-    layout->addWidget(m_next);
-    layout->addWidget(m_start);
+    layout->addWidget(m_controls.back);
+    layout->addWidget(m_controls.next);
+    layout->addWidget(m_controls.start);
     return row;
 }
 
@@ -178,32 +169,118 @@ void FrmMain::bringToFront() {
     activateWindow();
 }
 
-void FrmMain::setNextEnabled(bool enabled) {
-    m_next->setEnabled(enabled);
+void FrmMain::Wizard(std::int16_t intDirection) {
+    m_driver.Wizard(intDirection);
 }
 
-void FrmMain::updateTree() {
-    m_tree->showTree(m_workshop.job);
+void FrmMain::ReadFile() {
+    m_opener.ReadFile();
 }
 
-void FrmMain::PlotLines() {
-    m_preview->PlotLines();
+void FrmMain::ReadFile(const std::filesystem::path& drawing) {
+    m_opener.ReadFile(drawing);
 }
 
-void FrmMain::clearPreview() {
-    m_preview->clear();
+void FrmMain::ReadFileLater(const std::filesystem::path& drawing) {
+    later(*this, [this, drawing] { ReadFile(drawing); });
 }
 
-void FrmMain::plotBlink(const std::vector<std::int16_t>& paths, bool visible) {
-    m_preview->plotBlink(paths, visible);
+void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
+    m_skipped->PrepareDrawing(source);
 }
 
-void FrmMain::startFlashing(int milliseconds) {
-    m_flash.start(milliseconds);
+void FrmMain::showHelpFor(const QWidget* control) {
+    for (; control != nullptr; control = control->parentWidget()) {
+        const int context = control->property(helpContextProperty).toInt();
+        if (context > 0) {
+            m_services.showHelp(context);
+            return;
+        }
+    }
+    m_services.showHelp(m_workshop.job.gintWizardStep);
 }
 
-void FrmMain::stopFlashing() {
-    m_flash.stop();
+bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && isActiveWindow() &&
+        QApplication::activeModalWidget() == nullptr &&
+        QApplication::activePopupWidget() == nullptr) {
+        // A key that its control does not use is sent on to what it stands in: it is seen once.
+        QWidget* const focused = QApplication::focusWidget();
+        QWidget* const receiver = focused == nullptr ? this : focused;
+        if (watched == receiver && receiver != menuBar())
+            return previewKey(*static_cast<QKeyEvent*>(event), *receiver);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool FrmMain::previewKey(QKeyEvent& event, QWidget& focused) {
+    constexpr int keyCodeUp = 38;
+    constexpr int keyCodeDown = 40;
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        m_controls.order->KeyCheck(event.key() == Qt::Key_Up ? keyCodeUp : keyCodeDown);
+        // There the arrows never move the focus instead.
+        return m_workshop.job.gintWizardStep == 4;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (event.isAutoRepeat()) // a key held down is no second step
+            return true;
+        if (auto* const button = qobject_cast<QPushButton*>(&focused))
+            button->click();
+        else
+            pressForward();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void FrmMain::pressForward() {
+    // A click does nothing while the button is closed.
+    (m_controls.start->isVisible() ? m_controls.start : m_controls.next)->click();
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+    if (m_closing || CheckClose())
+        event->accept();
+    else
+        event->ignore();
+}
+
+bool FrmMain::CheckClose() {
+    if (m_workshop.job.output.gblnUnsaved &&
+        m_workshop.messages.intStdMsgBox(tr("Are you sure you want to close without saving\n"
+                                            "the current file as G-codes?")
+                                             .toStdString(),
+                                         styleQuestion,
+                                         tr("Exit from Torvik").toStdString()) != buttonYes)
+        return false;
+    end();
+    return true;
+}
+
+void FrmMain::end() {
+    m_closing = true;
+    m_driver.stop();
+    m_services.Shutdown();
+}
+
+void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedSource(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void FrmMain::dropEvent(QDropEvent* event) {
+    const QString name = draggedSource(*event->mimeData());
+    if (name.isEmpty())
+        return;
+    event->acceptProposedAction();
+    const auto drawing = pathFromUtf8(name.toStdString());
+    if (isPlotFile(name))
+        ReadFileLater(drawing);
+    else
+        later(*this, [this, drawing] { PrepareDrawing(drawing); });
 }
 
 } // namespace torvik

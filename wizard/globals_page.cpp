@@ -28,22 +28,25 @@ constexpr float perMinute = 1;
 constexpr float perSecond = 60;
 
 struct Height {
-    std::string_view name;
+    const char* name;
     const char* caption;
     const char* tip;
     float Answers::*field;
 };
 
 constexpr std::array<Height, 3> heights{{
-    {"Tool Change Height", QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
+    {QT_TRANSLATE_NOOP("GlobalsPage", "Tool Change Height"),
+     QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool is changed, well above the work and its clamps"),
      &Answers::gsngToolChangeHeight},
-    {"Safe Height for Rapids", QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
+    {QT_TRANSLATE_NOOP("GlobalsPage", "Safe Height for Rapids"),
+     QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "Where the tool travels quickly across the work without touching anything"),
      &Answers::gsngSafeHeight},
-    {"Rapid Down To", QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
+    {QT_TRANSLATE_NOOP("GlobalsPage", "Rapid Down To"),
+     QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage",
                        "How far the tool comes down quickly; the rest it goes at its feed"),
      &Answers::gsngRapidDownTo},
@@ -133,19 +136,19 @@ bool GlobalsPage::blnGlobalsValid() {
     bool valid = false;
     withErrorTrap(m_workshop.logger, {"blnGlobalsValid", "modHpgl"}, [&] {
         for (std::size_t i = 0; i < heights.size(); ++i) {
-            std::string wrong;
+            QString wrong;
             try {
                 const double height = leadingNumber(m_heights[i]->text().toStdString());
                 toSingle(height);
                 if (height == 0)
-                    wrong = " may not be zero";
+                    wrong = tr("The %1 may not be zero");
             } catch (const Overflow&) {
-                wrong = " is too large a number";
+                wrong = tr("The %1 is too large a number");
             }
-            if (wrong.empty())
+            if (wrong.isEmpty())
                 continue;
             m_heights[i]->selectAll();
-            m_workshop.messages.intStdMsgBox("The " + std::string(heights[i].name) + wrong,
+            m_workshop.messages.intStdMsgBox(wrong.arg(tr(heights[i].name)).toStdString(),
                                              styleExclamation, usualTitle);
             m_heights[i]->setFocus();
             return;

@@ -121,8 +121,9 @@ bool HeaderPage::blnHeaderDone() {
             const QString tag = box->property(tagProperty).toString();
             if (tag.isEmpty() || !trimmed(*box).isEmpty())
                 continue;
-            m_workshop.messages.intStdMsgBox("Please enter the " + tag.toStdString(),
-                                             styleExclamation, "Required information");
+            m_workshop.messages.intStdMsgBox(tr("Please enter the %1").arg(tag).toStdString(),
+                                             styleExclamation,
+                                             tr("Required information").toStdString());
             box->setFocus();
             return;
         }

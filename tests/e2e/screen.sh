@@ -91,12 +91,16 @@ isActive() {
   window=$(windowOf "$1") && [[ $(xdotool getactivewindow 2>/dev/null) == "$window" ]]
 }
 
-# waitFor TITLE_PATTERN: until the window has the keyboard.
-waitFor() { until_ "no window '$1' came to the front" isActive "$1"; }
+# waitFor TITLE_PATTERN: until the window has the keyboard. A dialog takes no Enter, Space or Escape
+# in its first 300 ms.
+waitFor() {
+  until_ "no window '$1' came to the front" isActive "$1"
+  sleep 0.35
+}
 
 isGone() { ! xdotool search --onlyvisible --name '.' 2>/dev/null | grep -qx "$1"; }
 
-keys() { xdotool key --delay 12 "$@"; }
+keys() { xdotool key --delay 24 "$@"; }
 text() { xdotool type --delay 12 "$1"; }
 
 # The menu after a conversion bears the program's name, as the main window then does. Its first

@@ -8,6 +8,7 @@
 #include "gcode/dialects.h"
 #include "tools/registry.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -45,9 +46,11 @@ void rememberPlotFolder(Registry& registry, const QString& folder) {
 }
 
 std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
-    QFileDialog dialog(parent, QStringLiteral("Select the HPGL file to process"),
-                       plotFolder(registry),
-                       fileFilter(QStringLiteral("HPGL files"), {QStringLiteral("plt")}));
+    QFileDialog dialog(
+        parent, QCoreApplication::translate("FileDialogs", "Select the HPGL file to process"),
+        plotFolder(registry),
+        fileFilter(QCoreApplication::translate("FileDialogs", "HPGL files"),
+                   {QStringLiteral("plt")}));
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -73,7 +76,10 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
         std::error_code error;
         if (std::filesystem::equivalent(path, drawing, error)) {
             messages.intStdMsgBox(
-                "This is the drawing itself.\nPlease choose another name for the program.",
+                QCoreApplication::translate(
+                    "FileDialogs",
+                    "This is the drawing itself.\nPlease choose another name for the program.")
+                    .toStdString(),
                 styleExclamation, usualTitle);
             continue;
         }

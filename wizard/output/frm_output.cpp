@@ -16,9 +16,9 @@ namespace torvik {
 FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent)
     : QDialog(parent), m_number(new FilteredBox(toolNumberHint)) {
     setObjectName(QStringLiteral("frmOutput"));
-    setWindowTitle(QStringLiteral("%1 Program Number").arg(QString::fromUtf8(dialect.name)));
+    setWindowTitle(tr("%1 Program Number").arg(QString::fromUtf8(dialect.name)));
     auto* const prompt =
-        new QLabel(QStringLiteral("Please enter the number that will identify this piece to %1")
+        new QLabel(tr("Please enter the number that will identify this piece to %1")
                        .arg(QString::fromUtf8(dialect.name)));
     prompt->setObjectName(QStringLiteral("lblPrompt"));
     auto* const prefix = new QLabel(QString::fromUtf8(dialect.diskettePrefix));

@@ -119,10 +119,12 @@ void OutputPage::changeDrive() {
     const std::string folder =
         QDir::toNativeSeparators(dialog.selectedFiles().constFirst()).toStdString();
     if (folder.size() > Registry::maxValueBytes) {
-        m_workshop.messages.intStdMsgBox("The folder's name is too long to be remembered, please "
-                                         "choose another:\n" +
-                                             folder,
-                                         styleExclamation, usualTitle);
+        m_workshop.messages.intStdMsgBox(
+            tr("The folder's name is too long to be remembered, please "
+               "choose another:")
+                    .toStdString() +
+                "\n" + folder,
+            styleExclamation, usualTitle);
         return;
     }
     m_workshop.registry.RegistryValuePut(driveASetting, folder);

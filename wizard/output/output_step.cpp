@@ -37,8 +37,9 @@ AfterOutput OutputStep::run(std::int16_t target) {
     withErrorTrap(m_workshop.logger, {"Wizard", "frmMain"}, [&] {
         const std::string group = groupWithoutTool(m_workshop.job, m_workshop.tools);
         if (!group.empty()) {
-            m_workshop.messages.intStdMsgBox("Please choose a tool for " + group, styleExclamation,
-                                             usualTitle);
+            m_workshop.messages.intStdMsgBox(
+                tr("Please choose a tool for %1").arg(QString::fromStdString(group)).toStdString(),
+                styleExclamation, usualTitle);
             return;
         }
         const Dialect& dialect = dialectFor(target);
@@ -70,8 +71,9 @@ std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
         } catch (const Overflow&) {
             // Told below, as a number that is less than nothing.
         }
-        m_workshop.messages.intStdMsgBox("The program number may be 1 to 32767 only",
-                                         styleExclamation, usualTitle);
+        m_workshop.messages.intStdMsgBox(
+            tr("The program number may be 1 to 32767 only").toStdString(), styleExclamation,
+            usualTitle);
     }
 }
 
@@ -84,8 +86,9 @@ bool OutputStep::blnDisketteReady() const {
 
 bool OutputStep::waitForDiskette() {
     while (!blnDisketteReady())
-        if (m_workshop.messages.intStdMsgBox("Please put a diskette into Drive A:",
-                                             styleRetryExclamation, usualTitle) != buttonRetry)
+        if (m_workshop.messages.intStdMsgBox(
+                tr("Please put a diskette into Drive A:").toStdString(), styleRetryExclamation,
+                usualTitle) != buttonRetry)
             return false;
     return true;
 }
@@ -95,10 +98,12 @@ bool OutputStep::mayOverwrite(const std::string& name) {
     const std::string sideText = utf8FromPath(sideTextPath(pathFromUtf8(name)));
     for (const std::string& existing : {name, sideText})
         if (std::filesystem::exists(driveA(m_workshop.registry) / pathFromUtf8(existing)))
-            return m_workshop.messages.intStdMsgBox("A file named " + existing +
-                                                        " already exists on the diskette\n"
-                                                        "Do you want to overwrite it?",
-                                                    styleQuestion, usualTitle) == buttonYes;
+            return m_workshop.messages.intStdMsgBox(
+                       tr("A file named %1 already exists on the diskette\n"
+                          "Do you want to overwrite it?")
+                           .arg(QString::fromStdString(existing))
+                           .toStdString(),
+                       styleQuestion, usualTitle) == buttonYes;
     return true;
 }
 
@@ -133,8 +138,9 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
         }
         if (outcome != WriteOutcome::notOpened)
             return outcome == WriteOutcome::written;
-        if (m_workshop.messages.intStdMsgBox("Please make sure the diskette is writable",
-                                             styleRetryExclamation, usualTitle) != buttonRetry)
+        if (m_workshop.messages.intStdMsgBox(
+                tr("Please make sure the diskette is writable").toStdString(),
+                styleRetryExclamation, usualTitle) != buttonRetry)
             return false;
     }
 }

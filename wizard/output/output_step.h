@@ -3,6 +3,8 @@
 // writing, keeping of the answers, and the menu that follows.
 #pragma once
 
+#include <QCoreApplication>
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -23,6 +25,8 @@ enum class AfterOutput {
 };
 
 class OutputStep {
+    Q_DECLARE_TR_FUNCTIONS(OutputStep)
+
 public:
     // Dialogs are shown over the window.
     OutputStep(Workshop& workshop, QWidget& window) : m_workshop(workshop), m_window(window) {}

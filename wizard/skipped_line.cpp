@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Drawings of other programs: the dialog that makes them readable, and the line in the status bar
-// that points to it where a drawing was opened without it.
+#include "wizard/skipped_line.h"
+
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/help_key.h"
 #include "prepare/dialog/frm_prepare.h"
-#include "wizard/frm_main.h"
+#include "wizard/later.h"
 #include "wizard/output/file_dialogs.h"
 #include "wizard/pens/pen_controls.h"
 
@@ -25,7 +25,33 @@ QString named(const std::filesystem::path& path) {
 
 } // namespace
 
-void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
+SkippedLine::SkippedLine(Workshop& workshop, QStatusBar& bar) : m_workshop(workshop), m_bar(bar) {
+    buildButton();
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_skipped);
+    layout->addStretch(1);
+    bar.setObjectName(QStringLiteral("staMain"));
+    bar.setSizeGripEnabled(false);
+    bar.addPermanentWidget(this, 1); // which no passing message covers
+    show(0);
+}
+
+void SkippedLine::buildButton() {
+    m_skipped = new QPushButton;
+    m_skipped->setObjectName(QStringLiteral("cmdSkipped"));
+    m_skipped->setFlat(true);
+    m_skipped->setMinimumWidth(1); // a long line does not widen the window
+    m_skipped->setFocusPolicy(Qt::TabFocus);
+    m_skipped->setCursor(Qt::PointingHandCursor);
+    m_skipped->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    m_skipped->setToolTip(tr("Open the dialog with this drawing"));
+    m_skipped->setProperty(helpContextProperty, helpPrepare);
+    connect(m_skipped, &QPushButton::clicked, this,
+            [this] { later(*this, [this] { PrepareDrawing(); }); });
+}
+
+void SkippedLine::PrepareDrawing(const std::filesystem::path& source) {
     withErrorTrap(m_workshop.logger, {"PrepareDrawing", "frmMain"}, [&] {
         std::filesystem::path toOpen;
         PrepareSurroundings surroundings;
@@ -38,41 +64,18 @@ void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
             return m_workshop.messages.intStdMsgBox(question, styleQuestion, title) == buttonYes;
         };
         surroundings.openResult = [&](const std::filesystem::path& drawing) { toOpen = drawing; };
-        FrmPrepare dialog(std::move(surroundings), this);
+        FrmPrepare dialog(std::move(surroundings), window());
         if (!source.empty())
             dialog.openSource(source);
         else if (m_workshop.job.gintWizardStep > 1)
             dialog.openSource(pathFromUtf8(m_workshop.job.drawing.gstrPlotFile));
         dialog.exec();
         if (!toOpen.empty())
-            ReadFile(toOpen);
+            emit drawingPrepared(toOpen);
     });
 }
 
-void FrmMain::buildSkippedLine() {
-    m_skipped = new QPushButton;
-    m_skipped->setObjectName(QStringLiteral("cmdSkipped"));
-    m_skipped->setFlat(true);
-    m_skipped->setMinimumWidth(1); // a long line does not widen the window
-    m_skipped->setFocusPolicy(Qt::TabFocus);
-    m_skipped->setCursor(Qt::PointingHandCursor);
-    m_skipped->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    m_skipped->setToolTip(tr("Open the dialog with this drawing"));
-    m_skipped->setProperty(helpContextProperty, helpPrepare);
-    connect(m_skipped, &QPushButton::clicked, this,
-            [this] { later([this] { PrepareDrawing(); }); });
-    auto* const line = new QWidget;
-    auto* const layout = new QHBoxLayout(line);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_skipped);
-    layout->addStretch(1);
-    statusBar()->setObjectName(QStringLiteral("staMain"));
-    statusBar()->setSizeGripEnabled(false);
-    statusBar()->addPermanentWidget(line, 1); // which no passing message covers
-    showSkipped(0);
-}
-
-void FrmMain::showSkipped(long instructions) {
+void SkippedLine::show(long instructions) {
     const QString text =
         instructions == 1
             ? tr("1 instruction of this drawing is not read, so something may be missing. See "
@@ -82,7 +85,7 @@ void FrmMain::showSkipped(long instructions) {
                   .arg(instructions);
     m_skipped->setText(text);
     m_skipped->setAccessibleName(text);
-    statusBar()->setVisible(instructions > 0);
+    m_bar.setVisible(instructions > 0);
 }
 
 } // namespace torvik

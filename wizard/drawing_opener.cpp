@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/drawing_opener.h"
+
+#include "answers/import_drawing.h"
+#include "answers/program_folder.h"
+#include "base/error_trap.h"
+#include "base/files.h"
+#include "wizard/output/file_dialogs.h"
+#include "wizard/recent_drawings.h"
+#include "wizard/skipped_line.h"
+#include "wizard/wizard_driver.h"
+
+#include <QWidget>
+
+namespace torvik {
+
+DrawingOpener::DrawingOpener(Workshop& workshop, WizardDriver& driver, SkippedLine& skipped,
+                             QWidget& window)
+    : m_workshop(workshop), m_driver(driver), m_skipped(skipped), m_window(window) {}
+
+void DrawingOpener::ReadFile() {
+    withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
+        if (!agreesToOpen())
+            return;
+        const auto drawing = strGetInputFile(m_workshop.registry, &m_window);
+        if (!drawing.empty())
+            importFrom(drawing);
+    });
+}
+
+void DrawingOpener::ReadFile(const std::filesystem::path& drawing) {
+    withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
+        if (agreesToOpen())
+            importFrom(drawing);
+    });
+}
+
+bool DrawingOpener::agreesToOpen() {
+    return !m_workshop.job.output.gblnUnsaved ||
+           m_workshop.messages.intStdMsgBox(tr("Are you sure you want to open a file\n"
+                                               "without saving the current file as G-codes?")
+                                                .toStdString(),
+                                            styleQuestion,
+                                            tr("Open file").toStdString()) == buttonYes;
+}
+
+void DrawingOpener::importFrom(const std::filesystem::path& drawing) {
+    const auto fullPath = std::filesystem::absolute(drawing).make_preferred();
+    m_driver.stopFlashing();
+    m_window.setWindowTitle(tr("Torvik - importing from HPGL file %1")
+                                .arg(QString::fromStdString(utf8FromPath(fullPath))));
+    const ImportResult result = importDrawing(m_workshop.job, fullPath, m_workshop.tools,
+                                              savedSettingsFolder(), m_workshop.logger);
+    if (!result.imported) {
+        m_driver.returnToStart();
+        return;
+    }
+    addRecentDrawing(fullPath);
+    m_skipped.show(m_workshop.job.drawing.reading.lost);
+    m_driver.layOutImported();
+}
+
+} // namespace torvik

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The driver of the six steps: what Back, Next and Start do, which page is on show, and what the
+// pages ask of the window they stand in.
+#pragma once
+
+#include "answers/kept_answers.h"
+#include "wizard/host/wizard_host.h"
+#include "wizard/host/workshop.h"
+#include "wizard/main_controls.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace torvik {
+
+class ToolsOfGroups;
+
+class WizardDriver : public QObject, public WizardHost {
+    Q_OBJECT
+
+public:
+    // The controls are there when the first step is shown; `window` is what dialogs stand over.
+    WizardDriver(Workshop& workshop, const MainControls& controls, QWidget& window);
+
+    // Saves and checks the page on show and lays out the next: -1 for Back, 1 for Next and Start.
+    void Wizard(std::int16_t intDirection);
+    // Shows the page of a step (1 to 6) and its buttons.
+    void showStep(std::int16_t step);
+    // Lays out step 2 for the drawing that was just imported, with the answers kept for it.
+    void layOutImported();
+    // Forgets the job and shows the start page.
+    void returnToStart();
+    // Stops the timers: nothing opens or blinks any more.
+    void stop();
+
+    void setNextEnabled(bool enabled) override;
+    void updateTree() override;
+    void PlotLines() override;
+    void clearPreview() override;
+    void plotBlink(const std::vector<std::int16_t>& paths, bool visible) override;
+    void startFlashing(int milliseconds) override;
+    void stopFlashing() override;
+    void startToolSelection() override;
+    void leavePensBackward() override;
+    void leavePensForward() override;
+
+signals:
+    // The user wants to choose a drawing. The receiver opens it before the signal returns.
+    void drawingWanted();
+    // The start page is shown: what was said of the drawing before holds no longer.
+    void drawingLeft();
+    // The user ends the program after a program was written.
+    void endWanted();
+
+private:
+    void fromStep2(std::int16_t direction);
+    void fromStep3(std::int16_t direction);
+    void fromStep4(std::int16_t direction);
+    void fromStep5(std::int16_t direction);
+    void fromStep6(std::int16_t direction);
+    void warnOfEmptyDrawing();
+    void writeOutput();
+    // tmrToolSelect has run out: the tool selection, then PenPage::ToolSelection.
+    void selectTool();
+    void warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen);
+
+    Workshop& m_workshop;
+    const MainControls& m_controls;
+    QWidget& m_window;
+    KeptAnswers m_kept;
+    QTimer m_flash;
+    QTimer m_toolSelect;
+};
+
+} // namespace torvik
