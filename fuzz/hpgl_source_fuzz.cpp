@@ -59,6 +59,7 @@ void prepare(const SourceDrawing& source, const PrepareOptions& options) {
     holds(!reportText("drawing", prepared.report).empty(), "there is a report");
     if (!isNear(prepared.report.extents))
         return;
+    holds(isPlainDrawing(prepared.text), "what is written is read as it is written");
     PrepareOptions again;
     again.tolerance = options.tolerance;
     again.arcs = options.arcs;

@@ -4,6 +4,7 @@
 #include "base/errors.h"
 #include "job/records.h"
 #include "prepare/arcs.h"
+#include "prepare/fitting/grid.h"
 #include "prepare/source/stroke_recorder.h"
 
 #include <set>
@@ -82,16 +83,26 @@ void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {
                        std::to_string(*tooHigh.begin()) + "=1");
 }
 
+namespace {
+
+// Nothing would be left of such a circle when it is written.
+bool isPoint(const Stroke& stroke) {
+    return stroke.isDot() ||
+           (stroke.isCircle() && toGrid(distance(stroke.segments[0].first, stroke.start)) == 0);
+}
+
+} // namespace
+
 long replaceDots(std::vector<Stroke>& strokes, std::optional<double> diameter) {
     long count = 0;
     for (Stroke& stroke : strokes) {
-        if (!stroke.isDot())
+        if (!isPoint(stroke))
             continue;
         ++count;
         if (diameter)
             stroke = circleStroke(stroke.pen, stroke.start, *diameter / 2);
     }
-    std::erase_if(strokes, [](const Stroke& stroke) { return stroke.isDot(); });
+    std::erase_if(strokes, isPoint);
     return count;
 }
 

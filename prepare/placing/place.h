@@ -27,8 +27,8 @@ void place(std::vector<Stroke>& strokes, const Placement& placement);
 // Gives strokes another pen. Raises RunTimeError with a list where pens above 8 are left.
 void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens);
 
-// Makes circles of dots, of the diameter in plotter units; without one takes them out. Returns
-// their count.
+// Makes circles of dots, of the diameter in plotter units; without one takes them out. A circle so
+// small that it would be written without a size is a dot, too. Returns their count.
 long replaceDots(std::vector<Stroke>& strokes, std::optional<double> diameter);
 
 } // namespace torvik
