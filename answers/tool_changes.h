@@ -6,7 +6,6 @@
 #include "job/job.h"
 #include "tools/tool_list.h"
 
-#include <string>
 #include <vector>
 
 namespace torvik {
@@ -16,10 +15,17 @@ class ToolsOfGroups {
 public:
     ToolsOfGroups(const Job& job, const ToolList& tools);
 
-    // The colours and hole sizes whose tool is now another one or missing, as the user reads them;
-    // without the settings group `passedOver` (0: none is passed over).
-    std::vector<std::string> changedSince(const Job& job, const ToolList& tools,
-                                          std::int16_t passedOver) const;
+    struct Group {
+        std::int16_t pen;
+        std::int16_t radius; // subscript of the pen's sngRadii, 0 for the pen's own
+
+        bool operator==(const Group&) const = default;
+    };
+
+    // The colours and hole sizes whose tool is now another one or missing, without the settings
+    // group `passedOver` (0: none is passed over).
+    std::vector<Group> changedSince(const Job& job, const ToolList& tools,
+                                    std::int16_t passedOver) const;
 
 private:
     std::vector<int> m_numbers; // per settings group, the tool's own number; 0 for none

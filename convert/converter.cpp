@@ -142,10 +142,11 @@ private:
     }
 
     void requireTools(const Job& job, const std::filesystem::path& drawing) const {
-        const std::string group = groupWithoutTool(job, m_tools);
-        if (!group.empty())
-            throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + group +
-                                             " have no tool of the tool library"};
+        if (const auto group = groupWithoutTool(job, m_tools))
+            throw Failure{ExitCode::job,
+                          utf8FromPath(drawing) + ": " +
+                              groupText(job.answers.gudtPens[group->pen], group->radius) +
+                              " have no tool of the tool library"};
     }
 
     // A program, and the text beside it, may take the place of nothing that this run reads.

@@ -17,7 +17,7 @@ namespace {
 // With the given hole size, 0 where the pen is cut.
 Work workWith(const Answers& answers, const ToolList& tools, const Pen& pen, std::int16_t size) {
     const Settings& settings = answers.gudtSettings[settingsOfSize(pen, size)];
-    if (settings.intTool < 1 || settings.intTool > tools.gintToolCount)
+    if (!isInList(tools, settings.intTool))
         throw InvalidCall(groupText(pen, size) + " have no tool");
     return {settings.sngDepth, toolAt(tools, settings.intTool).sngDiameter, size > 0};
 }

@@ -54,7 +54,7 @@ PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logg
     m_picBack->installEventFilter(this);
     m_picPlot = new Sheet(image, m_picBack);
     m_picPlot->setObjectName(QStringLiteral("picPlot"));
-    m_picPlot->setAccessibleName(QStringLiteral("Preview of the drawing"));
+    m_picPlot->setAccessibleName(tr("Preview of the drawing"));
     m_picPlot->setProperty(helpContextProperty, helpPreview);
 
     setFrameShape(QFrame::StyledPanel);
@@ -67,7 +67,7 @@ PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logg
     m_layout->addWidget(m_strip);
     placeLegendStrip();
 
-    m_noDrawing = new QLabel(QStringLiteral("The drawing appears here."), this);
+    m_noDrawing = new QLabel(tr("The drawing appears here."), this);
     m_noDrawing->setObjectName(QStringLiteral("lblNoDrawing"));
     m_noDrawing->setAlignment(Qt::AlignCenter);
     m_noDrawing->setPalette(quietPaper());
@@ -87,7 +87,7 @@ void PreviewWidget::buildLegendStrip() {
     m_legendArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_legend = new Legend;
     m_legend->setObjectName(QStringLiteral("lblDepths"));
-    m_legend->setAccessibleName(QStringLiteral("Depths of the piece"));
+    m_legend->setAccessibleName(tr("Depths of the piece"));
     m_legendArea->setWidget(m_legend);
     m_legendArea->viewport()->installEventFilter(this);
 

@@ -19,11 +19,6 @@ void checkWholeList(const ToolList& tools) {
 
 } // namespace
 
-std::int16_t loadedToolCount(const ToolList& tools) {
-    const auto loaded = std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
-    return static_cast<std::int16_t>(std::max<std::ptrdiff_t>(loaded, 0));
-}
-
 void addTool(ToolList& tools, Tool tool) {
     checkWholeList(tools);
     const std::int16_t place = toInt16(loadedToolCount(tools) + 1);
@@ -38,11 +33,6 @@ void deleteTool(ToolList& tools, std::int16_t place) {
     for (int i = place; i < tools.gintToolCount; ++i)
         tools.gudtTools[i] = tools.gudtTools[i + 1];
     --tools.gintToolCount;
-}
-
-std::string deletionQuestion(const Tool& tool) {
-    return "Are you sure you want to delete:\nTool no. " + formatInteger(tool.intNumber) + "\n(" +
-           tool.strType + "  " + formatFixed(tool.sngDiameter, 3) + " mm)?\n";
 }
 
 bool isTypeInUse(const ToolList& tools, std::string_view type) {

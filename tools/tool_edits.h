@@ -11,18 +11,12 @@
 
 namespace torvik {
 
-// How many places can be read: fewer than gintToolCount where the loading broke off, none for a
-// damaged count below 0.
-std::int16_t loadedToolCount(const ToolList& tools);
-
 // Puts the tool behind the last one. Raises Overflow for more than 32767 tools and InvalidCall for
 // a list that was not loaded to its end.
 void addTool(ToolList& tools, Tool tool);
 // Takes the tool at the place, 1 to gintToolCount, out; later ones move down by one place and the
 // array keeps its size. Raises SubscriptOutOfRange for another place, InvalidCall as addTool.
 void deleteTool(ToolList& tools, std::int16_t place);
-// The question asked before.
-std::string deletionQuestion(const Tool& tool);
 
 // Whether a tool of the list has exactly this type.
 bool isTypeInUse(const ToolList& tools, std::string_view type);

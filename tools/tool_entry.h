@@ -20,13 +20,15 @@ struct ToolEntry {
 // Whether the entry says enough to be checked: a number above 0, a type and some diameter.
 bool isToolComplete(const ToolEntry& entry);
 
-enum class ToolField { number, diameter };
-
-// Why the entry is refused, and which text is to blame.
-struct ToolFault {
-    ToolField field;
-    std::string message;
-    std::string title;
+// Why an entry is refused.
+enum class ToolFault {
+    numberTooLarge,
+    numberNotWhole,
+    numberTaken,
+    diameterTooLarge,
+    diameterNegative,
+    sameTool,     // another tool has this type and diameter
+    recordTooLong // type and diameter together
 };
 
 // The first fault of the entry beside every tool but the one at ownPlace (0: a new tool).

@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "tools/tool_list.h"
 
+#include <algorithm>
+
 namespace torvik {
+
+std::int16_t loadedToolCount(const ToolList& tools) {
+    const auto loaded = std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
+    return static_cast<std::int16_t>(std::max<std::ptrdiff_t>(loaded, 0));
+}
+
+bool isInList(const ToolList& tools, std::int16_t place) {
+    return place >= 1 && place <= loadedToolCount(tools);
+}
 
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
     if (number == 0) // a record that could not be read has it

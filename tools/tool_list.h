@@ -34,6 +34,13 @@ struct ToolList {
 inline constexpr std::array<std::string_view, 7> standardToolTypes{
     "Ball end", "Bull nose", "Drill", "End mill", "Reamer", "Router cutter", "Slot drill"};
 
+// How many places can be read: fewer than gintToolCount where the loading broke off, none for a
+// damaged count below 0.
+std::int16_t loadedToolCount(const ToolList& tools);
+
+// Whether a tool stands at the place; a place behind the list's end holds none.
+bool isInList(const ToolList& tools, std::int16_t place);
+
 // The place of the first tool with that number, or 0; 0 for the number 0, which no tool has.
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number);
 

@@ -6,8 +6,9 @@
 #include "base/picture.h"
 #include "base/std_message_box.h"
 #include "forms/dialog_places.h"
-#include "forms/filtered_box.h"
+#include "forms/number_box.h"
 #include "tools/dialogs/frm_tool_type.h"
+#include "tools/dialogs/tool_fault_text.h"
 #include "tools/dialogs/type_lists.h"
 #include "tools/tool_store.h"
 
@@ -56,7 +57,7 @@ void FrmToolData::buildForm() {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(dialogMargin, dialogMargin, dialogMargin, dialogMargin);
     grid->setSizeConstraint(QLayout::SetFixedSize);
-    m_number = new FilteredBox(toolNumberHint);
+    m_number = new NumberBox(toolNumberHint);
     m_number->setObjectName(QStringLiteral("txtToolNumber"));
     m_number->setToolTip(tr("The number on the tool holder, 1 to 32767"));
     addRow(*grid, 0, "lblToolNumber", tr("Tool &number:"), m_number);
@@ -66,7 +67,7 @@ void FrmToolData::buildForm() {
     m_type->setMinimumContentsLength(20);
     m_type->setToolTip(tr("What kind of tool it is"));
     addRow(*grid, 1, "lblToolType", tr("Tool &type:"), m_type);
-    m_diameter = new FilteredBox(toolDiameterHint);
+    m_diameter = new NumberBox(toolDiameterHint);
     m_diameter->setObjectName(QStringLiteral("txtToolDiam"));
     m_diameter->setToolTip(tr("The cutting diameter in millimetres, with a point"));
     addRow(*grid, 2, "lblToolDiam", tr("Tool &diameter (mm):"), m_diameter);
@@ -81,6 +82,7 @@ QLabel* FrmToolData::addRow(QGridLayout& grid, int row, const char* name, const 
     auto* const label = new QLabel(caption);
     label->setObjectName(QString::fromUtf8(name));
     label->setBuddy(control);
+    control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     control->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
     grid.addWidget(label, row, 0);
     grid.addWidget(control, row, 1);
@@ -154,8 +156,10 @@ void FrmToolData::confirm() {
             accept();
             return;
         }
-        m_messages.intStdMsgBox(fault->message, styleExclamation, fault->title);
-        FilteredBox* const box = fault->field == ToolField::number ? m_number : m_diameter;
+        const ToolFaultText text = toolFaultText(*fault, entry());
+        m_messages.intStdMsgBox(text.message.toStdString(), styleExclamation,
+                                text.title.toStdString());
+        NumberBox* const box = text.field == ToolField::number ? m_number : m_diameter;
         box->selectAll();
         box->setFocus();
     });

@@ -17,7 +17,7 @@ class QPushButton;
 
 namespace torvik {
 
-class FilteredBox;
+class NumberBox;
 class Logger;
 class Registry;
 class StdMessageBox;
@@ -59,9 +59,9 @@ private:
     Logger& m_logger;
     StdMessageBox& m_messages;
     QString m_ownType; // of the edited tool; it stays on offer though no list has it
-    FilteredBox* m_number;
+    NumberBox* m_number;
     QComboBox* m_type;
-    FilteredBox* m_diameter;
+    NumberBox* m_diameter;
     QPushButton* m_types;
     QPushButton* m_ok;
 };

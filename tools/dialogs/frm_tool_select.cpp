@@ -3,6 +3,7 @@
 
 #include "base/error_trap.h"
 #include "base/numbers.h"
+#include "base/picture.h"
 #include "base/std_message_box.h"
 #include "forms/dialog_places.h"
 #include "forms/help_key.h"
@@ -98,7 +99,7 @@ void FrmToolSelect::connectButtons() {
 }
 
 void FrmToolSelect::setToolTitle(const std::string& title) {
-    setWindowTitle(QString::fromStdString("Select the Tool for the " + title));
+    setWindowTitle(tr("Select the Tool for the %1").arg(QString::fromStdString(title)));
 }
 
 void FrmToolSelect::placeBeside(const QWidget& page) {
@@ -177,8 +178,13 @@ void FrmToolSelect::deleteSelectedTool() {
     trapped("cmdDelete_Click", [&] {
         const int row = m_grid->selectedRow();
         const std::int16_t place = m_grid->placeAt(row);
-        const int answer = m_messages.intStdMsgBox(deletionQuestion(toolAt(m_tools, place)),
-                                                   styleQuestionDefaultNo, "Tool Deletion");
+        const Tool& tool = toolAt(m_tools, place);
+        const int answer = m_messages.intStdMsgBox(
+            tr("Are you sure you want to delete:\nTool no. %1\n(%2  %3 mm)?\n")
+                .arg(QString::number(tool.intNumber), QString::fromStdString(tool.strType),
+                     QString::fromStdString(formatFixed(tool.sngDiameter, 3)))
+                .toStdString(),
+            styleQuestionDefaultNo, tr("Tool Deletion").toStdString());
         if (answer != buttonYes) {
             m_grid->selectRow(row);
             m_grid->setFocus();

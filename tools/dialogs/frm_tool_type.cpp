@@ -177,8 +177,9 @@ void FrmToolType::addType() {
         const QString name = m_name->text();
         if (name.toStdString().size() > Registry::maxValueBytes) {
             m_messages.intStdMsgBox(
-                "The tool type is too long to be stored\nPlease enter a shorter name",
-                styleExclamation, "Tool type");
+                tr("The tool type is too long to be stored\nPlease enter a shorter name")
+                    .toStdString(),
+                styleExclamation, tr("Tool type").toStdString());
             m_name->selectAll();
             m_name->setFocus();
             return;

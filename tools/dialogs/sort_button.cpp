@@ -16,9 +16,12 @@ struct HeaderCaption {
 };
 
 constexpr std::array<HeaderCaption, shownColumns> captions{{
-    {"Tool &Number", "Sort the tools by number"},
-    {"Tool &Type", "Sort the tools by type"},
-    {"Tool Dia&meter (mm)", "Sort the tools by diameter"},
+    {QT_TRANSLATE_NOOP("SortButton", "Tool &Number"),
+     QT_TRANSLATE_NOOP("SortButton", "Sort the tools by number")},
+    {QT_TRANSLATE_NOOP("SortButton", "Tool &Type"),
+     QT_TRANSLATE_NOOP("SortButton", "Sort the tools by type")},
+    {QT_TRANSLATE_NOOP("SortButton", "Tool Dia&meter (mm)"),
+     QT_TRANSLATE_NOOP("SortButton", "Sort the tools by diameter")},
 }};
 
 } // namespace
