@@ -28,17 +28,13 @@ std::optional<InputFault> relationFault(const PenBoxes& boxes, PenForm form) {
     };
     if (form == PenForm::drilling) {
         if (less(rowHoleDepth, rowPeck))
-            return InputFault{rowPeck,
-                              "The Peck Distance may not be greater than the Depth of Hole"};
+            return InputFault{rowPeck, PenFault::aboveOther, rowHoleDepth};
         return std::nullopt;
     }
     if (less(rowDepth, rowPass))
-        return InputFault{rowPass,
-                          "The Maximum Depth per Pass may not be greater than the Final Depth"};
+        return InputFault{rowPass, PenFault::aboveOther, rowDepth};
     if (less(rowPass, rowFinalPass))
-        return InputFault{
-            rowFinalPass,
-            "The Final Pass Depth of Cut may not be greater than the Maximum Depth per Pass"};
+        return InputFault{rowFinalPass, PenFault::aboveOther, rowPass};
     return std::nullopt;
 }
 
@@ -84,9 +80,9 @@ std::optional<InputFault> inputFault(const PenBoxes& boxes, PenForm form, bool s
             continue;
         const double number = boxNumber(boxes.text[i]);
         if (number < 0 && rows[i].mayBeZero)
-            return InputFault{i, "The " + std::string(rows[i].name) + " may not be negative"};
+            return InputFault{i, PenFault::negative};
         if (number <= 0 && !rows[i].mayBeZero)
-            return InputFault{i, "The " + std::string(rows[i].name) + " may not be zero"};
+            return InputFault{i, PenFault::zero};
     }
     return relationFault(boxes, form);
 }

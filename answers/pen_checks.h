@@ -25,10 +25,20 @@ void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float fe
 // Whether each box that can be edited holds something.
 bool allEditableFilled(const PenBoxes& boxes);
 
+enum class PenFault {
+    zero,
+    negative,
+    tooLarge,  // for the field it is stored in
+    aboveOther // than another row's number, which it may not be
+};
+
 // Why the page may not be left, and which box is to blame.
 struct InputFault {
     std::size_t row;
-    std::string message;
+    PenFault kind;
+    std::size_t other = 0; // the row that aboveOther compares with
+
+    bool operator==(const InputFault&) const = default;
 };
 
 // The first fault: a zero (or less) where none may stand, row by row, then depths that contradict

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "answers/pen_position.h"
 
-#include "base/picture.h"
 #include "job/colour_tree.h"
 #include "job/hole_sizes.h"
 #include "job/pens.h"
@@ -74,6 +73,10 @@ Settings& currentSettings(Job& job) {
     return job.answers.gudtSettings[job.position.gintCurrentSettings];
 }
 
+const Settings& currentSettings(const Job& job) {
+    return job.answers.gudtSettings[job.position.gintCurrentSettings];
+}
+
 PenForm currentForm(const Job& job) {
     return currentPen(job).blnDrill ? PenForm::drilling : PenForm::cutting;
 }
@@ -83,13 +86,10 @@ bool isOwnPageOfDrilledPen(const Job& job) {
     return pen.blnDrill && !pen.blnOmit && job.position.gintCurrentRadius == 0;
 }
 
-std::string strToolTitle(const Job& job) {
-    const Pen& pen = currentPen(job);
-    if (!pen.blnDrill)
-        return pen.strColour + " lines";
-    if (job.position.gintCurrentRadius == 0)
-        return pen.strColour + " holes";
-    return formatFixed(holeDiameter(job), 1) + " mm diam. holes";
+PageSubject pageSubject(const Job& job) {
+    if (!currentPen(job).blnDrill)
+        return PageSubject::lines;
+    return job.position.gintCurrentRadius == 0 ? PageSubject::holes : PageSubject::holesOfSize;
 }
 
 float holeDiameter(const Job& job) {

@@ -8,7 +8,6 @@
 #include "job/job.h"
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace torvik {
@@ -24,13 +23,15 @@ PenMove movePosition(Job& job, int direction);
 Pen& currentPen(Job& job);
 const Pen& currentPen(const Job& job);
 Settings& currentSettings(Job& job);
+const Settings& currentSettings(const Job& job);
 
 PenForm currentForm(const Job& job);
 // The page about a drilled pen as a whole: nothing is asked for there.
 bool isOwnPageOfDrilledPen(const Job& job);
 
-// What the page is about: "6.0 mm diam. holes", "Red holes" or "Red lines".
-std::string strToolTitle(const Job& job);
+// What the page is about: a pen that is cut, all holes of a drilled pen, or those of one size.
+enum class PageSubject { lines, holes, holesOfSize };
+PageSubject pageSubject(const Job& job);
 
 // Whether a tool's diameter differs from the current hole's by more than 0.01 mm; False where the
 // page is about no hole.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The rows of a pen page as one table for each of its two forms: what a row is called, which field
-// of the settings group it holds and how its number is shown. Lengths are mm, speeds rpm, times s;
+// The rows of a pen page as one table for each of its two forms: which field of the settings group
+// a row holds and how its number is shown. Lengths are mm, speeds rpm, times s;
 // feeds are stored in mm/min and shown divided by the job's feed factor.
 #pragma once
 
@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace torvik {
 
@@ -23,12 +22,9 @@ enum class PenForm { cutting, drilling };
 enum class RowUnit { rpm, feed, millimetres, seconds };
 
 struct PenRow {
-    std::string_view name; // as messages say it
-    RowUnit unit;
-    int help; // help context number
     float Settings::*field;
-    bool mayBeZero;
-    std::string_view tip;
+    RowUnit unit;
+    bool mayBeZero = false;
 };
 
 // Rows that the rules call by number, of the cutting form ...
@@ -45,11 +41,6 @@ inline constexpr std::size_t rowPeck = 4;
 
 // Row 0 first: seven rows to cut, five to drill.
 std::span<const PenRow> penRows(PenForm form);
-
-// The unit without its brackets; feedUnits is the job's gstrFeedUnits.
-std::string rowUnit(const PenRow& row, std::string_view feedUnits);
-// The name, a blank and the unit in brackets.
-std::string rowCaption(const PenRow& row, std::string_view feedUnits);
 
 // Decimals of a feed: none in mm/min (factor 1), two in mm/sec.
 int feedDecimals(float feedFactor);

@@ -5,7 +5,6 @@
 #include "base/numbers.h"
 #include "base/picture.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace torvik {
@@ -43,12 +42,6 @@ double boxNumber(const std::string& text) {
         const double size = std::numeric_limits<double>::infinity();
         return text[first] == '-' ? -size : size;
     }
-}
-
-bool hasTool(const Settings& settings, const ToolList& tools) {
-    return settings.intTool >= 1 &&
-           settings.intTool <=
-               std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
 }
 
 PenTexts shownTexts(const Settings& settings, PenForm form, float feedFactor) {
@@ -92,12 +85,8 @@ std::optional<std::size_t> storeTexts(const PenTexts& texts, bool peck, PenForm 
     return std::nullopt;
 }
 
-std::string cannotBeStored(PenForm form, std::size_t row) {
-    return "The " + std::string(penRows(form)[row].name) + " is too large to be stored";
-}
-
 bool isCompleteGroup(const Settings& settings, PenForm form, const ToolList& tools) {
-    if (!hasTool(settings, tools) || !(settings.sngSpindleSpeed > 0) ||
+    if (!isInList(tools, settings.intTool) || !(settings.sngSpindleSpeed > 0) ||
         !(settings.sngFeedVertical > 0))
         return false;
     const bool depths = settings.sngDepth > 0 && settings.sngDepthPerPass > 0;

@@ -14,9 +14,6 @@ namespace torvik {
 // The number a box's text stands for, infinite where it is larger than any number that is kept.
 double boxNumber(const std::string& text);
 
-// Whether the group's tool is one of the list; a place behind its end counts as none.
-bool hasTool(const Settings& settings, const ToolList& tools);
-
 // The form's numbers of the group as its boxes show them. A zero shows as an empty box, but for
 // the zeros that say something in a complete group: no dwell, and no final pass where one would be
 // possible. Raises DivisionByZero for the feed factor 0.
@@ -26,9 +23,6 @@ PenTexts shownTexts(const Settings& settings, PenForm form, float feedFactor);
 // then. A number that does not fit stores nothing, and its row is returned.
 std::optional<std::size_t> storeTexts(const PenTexts& texts, bool peck, PenForm form,
                                       float feedFactor, const ToolList& tools, Settings& settings);
-
-// What the user is told about a row that cannot be stored.
-std::string cannotBeStored(PenForm form, std::size_t row);
 
 // Whether the group holds all that its form needs to be machined.
 bool isCompleteGroup(const Settings& settings, PenForm form, const ToolList& tools);

@@ -12,26 +12,38 @@ bool isDigit(char32_t character) {
     return character >= U'0' && character <= U'9';
 }
 
-} // namespace
-
-std::string toolNumberHint(char32_t character, const BoxState& /*box*/) {
-    return isControl(character) || isDigit(character) ? "" : "Digits only";
+// For a box of digits and points; `other` is for what is neither, nor a comma.
+KeyHint hintBeyondPoint(char32_t character, KeyHint other) {
+    if (isControl(character) || isDigit(character) || character == U'.')
+        return KeyHint::none;
+    return character == U',' ? KeyHint::usePoint : other;
 }
 
-std::string toolDiameterHint(char32_t character, const BoxState& box) {
+} // namespace
+
+KeyHint toolNumberHint(char32_t character, const BoxState& /*box*/) {
+    return isControl(character) || isDigit(character) ? KeyHint::none : KeyHint::digitsOnly;
+}
+
+KeyHint toolDiameterHint(char32_t character, const BoxState& box) {
     constexpr std::size_t mostDecimals = 3;
-    if (isControl(character))
-        return "";
     const std::size_t point = box.text.find('.');
     if (!box.hasSelection && point != std::string_view::npos) {
         if (character == U'.')
-            return "There is a point already";
+            return KeyHint::pointThere;
         if (isDigit(character) && box.caret > point && box.text.size() - point > mostDecimals)
-            return "Three digits after the point at most";
+            return KeyHint::threeDecimals;
     }
-    if (isDigit(character) || character == U'.')
-        return "";
-    return character == U',' ? "Use the point" : "Digits and the point only";
+    return hintBeyondPoint(character, KeyHint::digitsAndPoint);
+}
+
+KeyHint measureHint(char32_t character, const BoxState& /*box*/) {
+    return hintBeyondPoint(character, KeyHint::digitsAndPoint);
+}
+
+KeyHint signedMeasureHint(char32_t character, const BoxState& /*box*/) {
+    return character == U'-' ? KeyHint::none
+                             : hintBeyondPoint(character, KeyHint::digitsPointAndMinus);
 }
 
 } // namespace torvik

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Which typed characters the boxes of a tool take. Each filter answers with the hint for a
-// character that is discarded, and with an empty text for one that passes; control characters
-// always pass.
+// Which typed characters the numeric boxes take. Each filter says for a character why it is
+// discarded, or that it passes; control characters always pass.
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace torvik {
@@ -17,10 +15,26 @@ struct BoxState {
     bool hasSelection = false;
 };
 
+enum class KeyHint {
+    none, // the character passes
+    digitsOnly,
+    digitsAndPoint,
+    digitsPointAndMinus,
+    usePoint,      // for a comma
+    pointThere,    // a second one
+    threeDecimals, // and no more
+};
+
+using KeyFilter = KeyHint (*)(char32_t character, const BoxState& box);
+
 // Digits only.
-std::string toolNumberHint(char32_t character, const BoxState& box);
+KeyHint toolNumberHint(char32_t character, const BoxState& box);
 // Digits and one point, three digits behind it. While something is selected, which the key will
 // replace, any digit and point passes.
-std::string toolDiameterHint(char32_t character, const BoxState& box);
+KeyHint toolDiameterHint(char32_t character, const BoxState& box);
+// Digits and the point.
+KeyHint measureHint(char32_t character, const BoxState& box);
+// Digits, the point and the minus sign.
+KeyHint signedMeasureHint(char32_t character, const BoxState& box);
 
 } // namespace torvik

@@ -1,23 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "forms/number_box.h"
 
-#include "forms/number_keys.h"
-
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QToolTip>
 
 namespace torvik {
+namespace {
 
-NumberBox::NumberBox(bool minusAllowed, QWidget* parent)
-    : QLineEdit(parent), m_minusAllowed(minusAllowed) {
+QString hintText(KeyHint hint) {
+    switch (hint) {
+    case KeyHint::none:
+        break;
+    case KeyHint::digitsOnly:
+        return NumberBox::tr("Digits only");
+    case KeyHint::digitsAndPoint:
+        return NumberBox::tr("Only digits and the point");
+    case KeyHint::digitsPointAndMinus:
+        return NumberBox::tr("Only digits, the point and the minus sign");
+    case KeyHint::usePoint:
+        return NumberBox::tr("Use the point");
+    case KeyHint::pointThere:
+        return NumberBox::tr("There is a point already");
+    case KeyHint::threeDecimals:
+        return NumberBox::tr("Three digits after the point at most");
+    }
+    return {};
+}
+
+} // namespace
+
+NumberBox::NumberBox(KeyFilter filter, QWidget* parent) : QLineEdit(parent), m_filter(filter) {
     setInputMethodHints(Qt::ImhPreferNumbers);
     setAlignment(Qt::AlignRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (const char32_t wrong = firstWrong(text))
-            showHint(wrong);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& all) {
+        for (const char32_t character : all.toUcs4()) {
+            const KeyHint hint = m_filter(character, {});
+            if (hint != KeyHint::none) {
+                showHint(hint);
+                return;
+            }
+        }
     });
 }
 
@@ -31,33 +56,30 @@ QSize NumberBox::sizeHint() const {
 }
 
 void NumberBox::keyPressEvent(QKeyEvent* event) {
-    const QString text = event->text();
-    // Delete is a key like backspace, though its character is above the control characters.
-    const char32_t wrong = text == QChar(0x7F) ? 0 : firstWrong(text);
-    if (wrong == 0) {
+    const KeyHint hint = hintFor(event->text());
+    // With Control or Alt alone a key is a command; with both it writes a third character.
+    const auto command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (hint == KeyHint::none || command == Qt::ControlModifier) {
         QLineEdit::keyPressEvent(event);
         return;
     }
-    const bool typed =
-        (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != Qt::AltModifier &&
-        !(event->modifiers() & Qt::MetaModifier);
-    if (!typed) {
+    if (command == Qt::AltModifier || (event->modifiers() & Qt::MetaModifier)) {
         event->ignore(); // an access key that nobody has
         return;
     }
     event->accept();
-    showHint(wrong);
+    showHint(hint);
 }
 
 void NumberBox::inputMethodEvent(QInputMethodEvent* event) {
-    const char32_t wrong = firstWrong(event->commitString());
-    if (wrong == 0) {
+    const KeyHint hint = hintFor(event->commitString());
+    if (hint == KeyHint::none) {
         QLineEdit::inputMethodEvent(event);
         return;
     }
     QInputMethodEvent nothing;
     QLineEdit::inputMethodEvent(&nothing);
-    showHint(wrong);
+    showHint(hint);
 }
 
 void NumberBox::focusOutEvent(QFocusEvent* event) {
@@ -68,16 +90,20 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
         emit left();
 }
 
-char32_t NumberBox::firstWrong(const QString& text) const {
-    for (const char32_t character : text.toUcs4())
-        if (!isNumberCharacter(character, m_minusAllowed))
-            return character;
-    return 0;
+KeyHint NumberBox::hintFor(const QString& characters) const {
+    const std::string all = text().toStdString();
+    const BoxState state{all, text().left(cursorPosition()).toStdString().size(),
+                         hasSelectedText()};
+    for (const char32_t character : characters.toUcs4()) {
+        const KeyHint hint = m_filter(character, state);
+        if (hint != KeyHint::none)
+            return hint;
+    }
+    return KeyHint::none;
 }
 
-void NumberBox::showHint(char32_t wrong) {
-    QToolTip::showText(mapToGlobal(QPoint(0, height())),
-                       QString::fromStdString(discardedHint(wrong, m_minusAllowed)), this);
+void NumberBox::showHint(KeyHint hint) {
+    QToolTip::showText(mapToGlobal(QPoint(0, height())), hintText(hint), this);
 }
 
 } // namespace torvik

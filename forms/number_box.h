@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// A text box for a number. It discards characters that no number has and says so in a short hint
-// at the box. Pasted text stays as it is (it is read leniently), with the same hint where it holds
-// such characters.
+// A text box for a number. It discards the keys that its filter refuses and says so in a short hint
+// at the box. Pasted text stays as it is (it is read leniently), with the same hint where a key
+// would have been discarded.
 #pragma once
+
+#include "forms/key_filters.h"
 
 #include <QLineEdit>
 
@@ -12,7 +14,7 @@ class NumberBox : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit NumberBox(bool minusAllowed, QWidget* parent = nullptr);
+    explicit NumberBox(KeyFilter filter, QWidget* parent = nullptr);
 
     // Room for eight digits.
     QSize sizeHint() const override;
@@ -27,11 +29,11 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    // The first character that the box does not take, 0 where there is none.
-    char32_t firstWrong(const QString& text) const;
-    void showHint(char32_t wrong);
+    // The hint for the first of the characters that the box would discard as it stands.
+    KeyHint hintFor(const QString& characters) const;
+    void showHint(KeyHint hint);
 
-    bool m_minusAllowed;
+    KeyFilter m_filter;
 };
 
 } // namespace torvik

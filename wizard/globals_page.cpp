@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/globals_page.h"
 
+#include "answers/job_checks.h"
 #include "base/error_trap.h"
-#include "base/errors.h"
-#include "base/numbers.h"
 #include "base/picture.h"
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
@@ -24,32 +23,26 @@ namespace torvik {
 namespace {
 
 constexpr int helpHeights = 2;
-constexpr float perMinute = 1;
-constexpr float perSecond = 60;
 
 struct Height {
     const char* name;
     const char* caption;
     const char* tip;
-    float Answers::*field;
 };
 
-constexpr std::array<Height, 3> heights{{
+constexpr std::array<Height, heightFields.size()> heights{{
     {QT_TRANSLATE_NOOP("GlobalsPage", "Tool Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "Where the tool is changed, well above the work and its clamps"),
-     &Answers::gsngToolChangeHeight},
+                       "Where the tool is changed, well above the work and its clamps")},
     {QT_TRANSLATE_NOOP("GlobalsPage", "Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "Where the tool travels quickly across the work without touching anything"),
-     &Answers::gsngSafeHeight},
+                       "Where the tool travels quickly across the work without touching anything")},
     {QT_TRANSLATE_NOOP("GlobalsPage", "Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "How far the tool comes down quickly; the rest it goes at its feed"),
-     &Answers::gsngRapidDownTo},
+                       "How far the tool comes down quickly; the rest it goes at its feed")},
 }};
 
 } // namespace
@@ -70,7 +63,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     };
     for (int i = 0; i < 3; ++i) {
         const Height& height = heights[static_cast<std::size_t>(i)];
-        auto* const box = new NumberBox(true);
+        auto* const box = new NumberBox(signedMeasureHint);
         box->setObjectName(QStringLiteral("txtGlob%1").arg(i));
         box->setToolTip(tr(height.tip));
         addFormRow(*form, i, tr(height.caption), box, QStringLiteral("mm"), helpHeights);
@@ -103,57 +96,46 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     layout->addStretch(1);
 }
 
+HeightTexts GlobalsPage::texts() const {
+    HeightTexts texts;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = m_heights[i]->text().toStdString();
+    return texts;
+}
+
 void GlobalsPage::SaveGlobals() {
     withErrorTrap(m_workshop.logger, {"SaveGlobals", "modHpgl"}, [&] {
-        Job& job = m_workshop.job;
-        for (std::size_t i = 0; i < heights.size(); ++i) {
-            try {
-                job.answers.*heights[i].field =
-                    toSingle(leadingNumber(m_heights[i]->text().toStdString()));
-            } catch (const Overflow&) {
-                // blnGlobalsValid names the box; the job keeps the height it had.
-            }
-        }
-        const bool minutes = m_units[0]->isChecked();
-        job.answers.gstrFeedUnits = minutes ? "(mm/min)" : "(mm/sec)";
-        job.answers.gsngFeedFactor = minutes ? perMinute : perSecond;
+        storeHeights(texts(), m_workshop.job.answers);
+        chooseFeedUnits(m_units[0]->isChecked(), m_workshop.job.answers);
     });
 }
 
 void GlobalsPage::RestoreGlobals() {
     withErrorTrap(m_workshop.logger, {"RestoreGlobals", "modHpgl"}, [&] {
-        const Job& job = m_workshop.job;
-        for (std::size_t i = 0; i < heights.size(); ++i) {
-            const float height = job.answers.*heights[i].field;
+        const Answers& answers = m_workshop.job.answers;
+        for (std::size_t i = 0; i < heightFields.size(); ++i) {
+            const float height = answers.*heightFields[i];
             m_heights[i]->setText(height == 0 ? QString()
                                               : QString::fromStdString(formatFixed(height, 0)));
         }
-        m_units[job.answers.gsngFeedFactor == perMinute ? 0 : 1]->setChecked(true);
+        m_units[isPerMinute(answers) ? 0 : 1]->setChecked(true);
     });
 }
 
 bool GlobalsPage::blnGlobalsValid() {
     bool valid = false;
     withErrorTrap(m_workshop.logger, {"blnGlobalsValid", "modHpgl"}, [&] {
-        for (std::size_t i = 0; i < heights.size(); ++i) {
-            QString wrong;
-            try {
-                const double height = leadingNumber(m_heights[i]->text().toStdString());
-                toSingle(height);
-                if (height == 0)
-                    wrong = tr("The %1 may not be zero");
-            } catch (const Overflow&) {
-                wrong = tr("The %1 is too large a number");
-            }
-            if (wrong.isEmpty())
-                continue;
-            m_heights[i]->selectAll();
-            m_workshop.messages.intStdMsgBox(wrong.arg(tr(heights[i].name)).toStdString(),
-                                             styleExclamation, usualTitle);
-            m_heights[i]->setFocus();
+        const auto fault = heightFault(texts());
+        valid = !fault;
+        if (!fault)
             return;
-        }
-        valid = true;
+        NumberBox& box = *m_heights[fault->height];
+        box.selectAll();
+        const QString wrong =
+            fault->isTooLarge ? tr("The %1 is too large a number") : tr("The %1 may not be zero");
+        m_workshop.messages.intStdMsgBox(wrong.arg(tr(heights[fault->height].name)).toStdString(),
+                                         styleExclamation, usualTitle);
+        box.setFocus();
     });
     return valid;
 }

@@ -2,15 +2,17 @@
 // Step 2: the three heights of the whole job and the unit in which feeds are typed.
 #pragma once
 
+#include "answers/job_checks.h"
+
 #include <QWidget>
 
 #include <array>
 
-class QLineEdit;
 class QRadioButton;
 
 namespace torvik {
 
+class NumberBox;
 struct Workshop;
 class WizardHost;
 
@@ -34,9 +36,11 @@ public:
     void enter();
 
 private:
+    HeightTexts texts() const;
+
     Workshop& m_workshop;
     WizardHost& m_host;
-    std::array<QLineEdit*, 3> m_heights{};
+    std::array<NumberBox*, 3> m_heights{};
     std::array<QRadioButton*, 2> m_units{};
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/header_page.h"
 
+#include "answers/job_checks.h"
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
 #include "base/text.h"
@@ -23,16 +24,17 @@ constexpr int helpHeader = 5;
 struct Field {
     const char* caption;
     const char* unit;
-    const char* tag; // as the question for it names it; empty: need not be filled
+    const char* tag; // as the question for it names it
 };
 
-constexpr std::array<Field, 9> fields{{
-    {QT_TRANSLATE_NOOP("HeaderPage", "D&ate"), "", "date"},
-    {QT_TRANSLATE_NOOP("HeaderPage", "&Designer"), "", "designer"},
+constexpr std::array<Field, headerLines> fields{{
+    {QT_TRANSLATE_NOOP("HeaderPage", "D&ate"), "", QT_TRANSLATE_NOOP("HeaderPage", "date")},
+    {QT_TRANSLATE_NOOP("HeaderPage", "&Designer"), "", QT_TRANSLATE_NOOP("HeaderPage", "designer")},
     {QT_TRANSLATE_NOOP("HeaderPage", "&Teacher"), "", ""},
     {QT_TRANSLATE_NOOP("HeaderPage", "Teaching &Group"), "", ""},
-    {QT_TRANSLATE_NOOP("HeaderPage", "Name of &Part"), "", "name of the part"},
-    {QT_TRANSLATE_NOOP("HeaderPage", "&Material"), "", "material"},
+    {QT_TRANSLATE_NOOP("HeaderPage", "Name of &Part"), "",
+     QT_TRANSLATE_NOOP("HeaderPage", "name of the part")},
+    {QT_TRANSLATE_NOOP("HeaderPage", "&Material"), "", QT_TRANSLATE_NOOP("HeaderPage", "material")},
     {QT_TRANSLATE_NOOP("HeaderPage", "Billet Length &X"), "mm", ""},
     {QT_TRANSLATE_NOOP("HeaderPage", "Billet Width &Y"), "mm", ""},
     {QT_TRANSLATE_NOOP("HeaderPage", "Billet Depth &Z"), "mm", ""},
@@ -69,7 +71,7 @@ HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
         auto* const box = new QLineEdit;
         box->setObjectName(QStringLiteral("txtHead%1").arg(i));
         box->setProperty(tagProperty, QString::fromUtf8(field.tag));
-        const bool needed = *field.tag != '\0';
+        const bool needed = isHeaderLineNeeded(static_cast<std::size_t>(i));
         box->setToolTip(needed ? tr("Must be filled; it stands at the top of the program")
                                : tr("Optional; it stands at the top of the program"));
         QLabel* const caption =
@@ -117,17 +119,17 @@ void HeaderPage::readBoxes() {
 bool HeaderPage::blnHeaderDone() {
     bool done = false;
     withErrorTrap(m_workshop.logger, {"blnHeaderDone", "modHpgl"}, [&] {
-        for (QLineEdit* const box : m_boxes) {
-            const QString tag = box->property(tagProperty).toString();
-            if (tag.isEmpty() || !trimmed(*box).isEmpty())
-                continue;
-            m_workshop.messages.intStdMsgBox(tr("Please enter the %1").arg(tag).toStdString(),
-                                             styleExclamation,
-                                             tr("Required information").toStdString());
-            box->setFocus();
+        HeaderTexts texts;
+        for (std::size_t i = 0; i < m_boxes.size(); ++i)
+            texts[i] = m_boxes[i]->text().toStdString();
+        const auto missing = missingHeaderLine(texts);
+        done = !missing;
+        if (!missing)
             return;
-        }
-        done = true;
+        m_workshop.messages.intStdMsgBox(
+            tr("Please enter the %1").arg(tr(fields[*missing].tag)).toStdString(), styleExclamation,
+            tr("Required information").toStdString());
+        m_boxes[*missing]->setFocus();
     });
     return done;
 }

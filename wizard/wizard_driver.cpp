@@ -3,13 +3,13 @@
 
 #include "answers/tool_changes.h"
 #include "base/error_trap.h"
-#include "gcode/tool_check.h"
 #include "job/colour_tree.h"
 #include "preview/preview_widget.h"
 #include "tools/dialogs/frm_tool_select.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/globals_page.h"
 #include "wizard/header_page.h"
+#include "wizard/host/group_name.h"
 #include "wizard/later.h"
 #include "wizard/order_page.h"
 #include "wizard/output/output_page.h"
@@ -116,13 +116,8 @@ void WizardDriver::fromStep4(std::int16_t direction) {
         m_controls.pens->ShowPen(0);
         return;
     }
-    const std::string missing = groupWithoutTool(job, m_workshop.tools);
-    if (!missing.empty()) {
-        m_workshop.messages.intStdMsgBox(
-            tr("Please choose a tool for %1").arg(QString::fromStdString(missing)).toStdString(),
-            styleExclamation, usualTitle);
+    if (asksForTool(m_workshop))
         return;
-    }
     showStep(5);
     m_controls.preview->DrawPiece();
     m_controls.header->fill();
@@ -199,15 +194,14 @@ void WizardDriver::warnOfToolChanges(const ToolsOfGroups& before, std::int16_t c
     // The group on show gets the tool that was just chosen.
     const std::int16_t passedOver =
         chosen > 0 ? m_workshop.job.position.gintCurrentSettings : std::int16_t{0};
-    std::string text;
-    for (const std::string& group :
+    QString text;
+    for (const auto& [pen, radius] :
          before.changedSince(m_workshop.job, m_workshop.tools, passedOver))
-        text += "\n" + group;
-    if (!text.empty())
+        text += u'\n' + groupName(m_workshop.job.answers.gudtPens[pen], radius);
+    if (!text.isEmpty())
         m_workshop.messages.intStdMsgBox(
-            tr("After the deletion these have another tool, or none. Please check them:")
-                    .toStdString() +
-                text,
+            (tr("After the deletion these have another tool, or none. Please check them:") + text)
+                .toStdString(),
             styleExclamation, usualTitle);
 }
 

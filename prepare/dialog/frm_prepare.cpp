@@ -170,9 +170,11 @@ void FrmPrepare::save() {
 
 void FrmPrepare::offerToOpen(const fs::path& drawing) {
     if (!m_surroundings.agrees || !m_surroundings.openResult ||
-        !m_surroundings.agrees("The prepared drawing is saved as\n" + utf8FromPath(drawing) +
-                                   "\n\nDo you want to open it now?",
-                               "Drawing saved"))
+        !m_surroundings.agrees(
+            tr("The prepared drawing is saved as\n%1\n\nDo you want to open it now?")
+                .arg(named(drawing))
+                .toStdString(),
+            tr("Drawing saved").toStdString()))
         return;
     accept();
     m_surroundings.openResult(drawing);

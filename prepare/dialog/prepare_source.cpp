@@ -9,11 +9,17 @@
 #include "job/records.h"
 #include "prepare/files/drawing_files.h"
 
+#include <QCoreApplication>
+
 #include <exception>
 #include <new>
 
 namespace torvik {
 namespace {
+
+std::string tr(const char* text) {
+    return QCoreApplication::translate("FrmPrepare", text).toStdString();
+}
 
 std::vector<SourcePen> pensOf(const SourceDrawing& drawing, const std::map<int, int>& mapped) {
     std::vector<SourcePen> pens;
@@ -39,8 +45,11 @@ void requirePens(const std::vector<SourcePen>& pens) {
         if (pen.target == 0)
             list += (list.empty() ? "" : ", ") + std::to_string(pen.number);
     if (!list.empty())
-        throw RunTimeError("The drawing uses pens above 8 (" + list +
-                           "). Choose a pen for each in the list of pens.");
+        throw RunTimeError(QCoreApplication::translate("FrmPrepare",
+                                                       "The drawing uses pens above 8 (%1). "
+                                                       "Choose a pen for each in the list of pens.")
+                               .arg(QString::fromStdString(list))
+                               .toStdString());
 }
 
 // What would be lost of the source if it were opened as it is; a picture cannot be.
@@ -51,9 +60,11 @@ std::string lossAsItIs(const SourceDrawing& source, const std::string& bytes) {
         Drawing drawing;
         Logger logger;
         readInstructions(drawing, bytes, "the drawing", logger);
-        return std::to_string(drawing.reading.lost) + " instructions";
+        return QCoreApplication::translate("FrmPrepare", "%1 instructions")
+            .arg(drawing.reading.lost)
+            .toStdString();
     } catch (const RunTimeError&) {
-        return "all of it";
+        return tr("all of it");
     }
 }
 
@@ -77,7 +88,7 @@ void prepareInto(PrepareResult& result, const PrepareRequest& request) {
     result.after = std::make_shared<const StrokePicture>(pictureOf(prepared.strokes));
     result.rows = reportRows(prepared.report);
     if (!loss.empty())
-        result.rows.push_back({"Lost without preparing", loss});
+        result.rows.push_back({tr("Lost without preparing"), loss});
     result.lost = lossLine(prepared.report);
     result.text = prepared.text;
 }
@@ -97,7 +108,7 @@ PrepareResult prepareSource(const PrepareRequest& request) {
     try {
         prepareInto(result, request);
     } catch (const std::bad_alloc&) {
-        result.error = "There is not enough memory for this drawing";
+        result.error = tr("There is not enough memory for this drawing");
     } catch (const std::exception& error) {
         result.error = asSentence(error.what());
     }

@@ -2,7 +2,7 @@
 #include "wizard/output/frm_output.h"
 
 #include "forms/dialog_places.h"
-#include "forms/filtered_box.h"
+#include "forms/number_box.h"
 #include "gcode/dialects.h"
 
 #include <QDialogButtonBox>
@@ -14,7 +14,7 @@
 namespace torvik {
 
 FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent)
-    : QDialog(parent), m_number(new FilteredBox(toolNumberHint)) {
+    : QDialog(parent), m_number(new NumberBox(toolNumberHint)) {
     setObjectName(QStringLiteral("frmOutput"));
     setWindowTitle(tr("%1 Program Number").arg(QString::fromUtf8(dialect.name)));
     auto* const prompt =
@@ -24,6 +24,7 @@ FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent)
     auto* const prefix = new QLabel(QString::fromUtf8(dialect.diskettePrefix));
     prefix->setObjectName(QStringLiteral("lblPrefix"));
     m_number->setObjectName(QStringLiteral("txtNumber"));
+    m_number->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_number->setAccessibleName(prompt->text());
     m_number->setToolTip(tr("A whole number from 1 to 32767"));
     prompt->setBuddy(m_number);

@@ -11,7 +11,7 @@ class QPushButton;
 namespace torvik {
 
 struct Dialect;
-class FilteredBox;
+class NumberBox;
 
 class FrmOutput : public QDialog {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     std::string tag() const;
 
 private:
-    FilteredBox* m_number;
+    NumberBox* m_number;
     QPushButton* m_ok;
 };
 

@@ -10,6 +10,7 @@
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/tool_check.h"
+#include "wizard/host/group_name.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/file_dialogs.h"
@@ -32,16 +33,22 @@ public:
 
 } // namespace
 
+bool asksForTool(Workshop& workshop) {
+    const auto group = groupWithoutTool(workshop.job, workshop.tools);
+    if (group)
+        workshop.messages.intStdMsgBox(
+            OutputStep::tr("Please choose a tool for %1")
+                .arg(groupName(workshop.job.answers.gudtPens[group->pen], group->radius))
+                .toStdString(),
+            styleExclamation, usualTitle);
+    return group.has_value();
+}
+
 AfterOutput OutputStep::run(std::int16_t target) {
     AfterOutput after = AfterOutput::nothing;
     withErrorTrap(m_workshop.logger, {"Wizard", "frmMain"}, [&] {
-        const std::string group = groupWithoutTool(m_workshop.job, m_workshop.tools);
-        if (!group.empty()) {
-            m_workshop.messages.intStdMsgBox(
-                tr("Please choose a tool for %1").arg(QString::fromStdString(group)).toStdString(),
-                styleExclamation, usualTitle);
+        if (asksForTool(m_workshop))
             return;
-        }
         const Dialect& dialect = dialectFor(target);
         if (!dialect.needsNumber()) {
             after = WriteFile(target, 0);

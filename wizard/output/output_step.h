@@ -24,6 +24,9 @@ enum class AfterOutput {
     close,     // "Close"
 };
 
+// Whether something that is to be milled has no tool; the user is then asked to choose one.
+bool asksForTool(Workshop& workshop);
+
 class OutputStep {
     Q_DECLARE_TR_FUNCTIONS(OutputStep)
 

@@ -4,9 +4,11 @@
 #include "forms/help_key.h"
 #include "forms/number_box.h"
 #include "wizard/pens/pen_diagram.h"
+#include "wizard/pens/pen_words.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFont>
 #include <QGridLayout>
 #include <QLabel>
@@ -34,10 +36,17 @@ struct ToolLabelText {
 };
 
 constexpr std::array<ToolLabelText, 3> toolLabelTexts{{
-    {"lblToolNumber", "Tool number", "The chosen tool's number in the tool list"},
-    {"lblToolType", "Tool type", "The chosen tool's type"},
-    {"lblToolDiameter", "Diameter (mm)", "The chosen tool's diameter in millimetres"},
+    {"lblToolNumber", QT_TRANSLATE_NOOP("PenPage", "Tool number"),
+     QT_TRANSLATE_NOOP("PenPage", "The chosen tool's number in the tool list")},
+    {"lblToolType", QT_TRANSLATE_NOOP("PenPage", "Tool type"),
+     QT_TRANSLATE_NOOP("PenPage", "The chosen tool's type")},
+    {"lblToolDiameter", QT_TRANSLATE_NOOP("PenPage", "Diameter (mm)"),
+     QT_TRANSLATE_NOOP("PenPage", "The chosen tool's diameter in millimetres")},
 }};
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("PenPage", text);
+}
 
 QLabel* makeLabel(QWidget& page, const QString& name, const QString& text = {}) {
     auto* label = new QLabel(text, &page);
@@ -67,8 +76,8 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     for (std::size_t i = 0; i < controls.optCut.size(); ++i) {
         auto* option = new QRadioButton(&page);
         option->setObjectName("optCut" + QString::number(i));
-        option->setToolTip(i == 0 ? "This part of the drawing is machined"
-                                  : "This part of the drawing is left out");
+        option->setToolTip(i == 0 ? tr("This part of the drawing is machined")
+                                  : tr("This part of the drawing is left out"));
         controls.choice->addButton(option, static_cast<int>(i));
         controls.optCut[i] = option;
         column->addWidget(option);
@@ -76,7 +85,7 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
 
     controls.diagram = new PenDiagram(&page);
     controls.diagram->setObjectName("picCut");
-    controls.diagram->setToolTip("What the details below are about, seen from the side");
+    controls.diagram->setToolTip(tr("What the details below are about, seen from the side"));
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addLayout(column, 1);
@@ -96,7 +105,7 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         const ToolLabelText& about = toolLabelTexts[i];
         const int column = static_cast<int>(i);
         grid->addWidget(
-            makeLabel(*controls.toolPanel, QString(about.name) + "Caption", about.caption), 0,
+            makeLabel(*controls.toolPanel, QString(about.name) + "Caption", tr(about.caption)), 0,
             column);
         QLabel* label = makeLabel(*controls.toolPanel, about.name);
         label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | QFrame::Sunken);
@@ -108,10 +117,10 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         grid->addWidget(label, 1, column);
         grid->setColumnStretch(column, i == toolType ? 3 : 2);
     }
-    controls.cmdTool = new QPushButton("Choose too&l...", controls.toolPanel);
+    controls.cmdTool = new QPushButton(tr("Choose too&l..."), controls.toolPanel);
     controls.cmdTool->setObjectName("cmdTool");
-    controls.cmdTool->setAccessibleName("Choose tool");
-    controls.cmdTool->setToolTip("Opens the tool list to choose the tool for this page");
+    controls.cmdTool->setAccessibleName(tr("Choose tool"));
+    controls.cmdTool->setToolTip(tr("Opens the tool list to choose the tool for this page"));
     controls.cmdTool->setAutoDefault(false);
     grid->addWidget(controls.cmdTool, 1, static_cast<int>(toolLabelTexts.size()));
     layout.addWidget(controls.toolPanel);
@@ -125,7 +134,7 @@ void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         const QString number = QString::number(i);
         const int gridRow = static_cast<int>(i) + (i >= rowPeck ? 1 : 0);
         controls.lblDet[i] = makeWrappedLabel(page, "lblDet" + number);
-        controls.txtDet[i] = new NumberBox(false, &page);
+        controls.txtDet[i] = new NumberBox(measureHint, &page);
         controls.txtDet[i]->setObjectName("txtDet" + number);
         controls.lblUnit[i] = makeLabel(page, "lblUnit" + number);
         controls.lblDet[i]->setBuddy(controls.txtDet[i]);
@@ -133,17 +142,18 @@ void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         grid->addWidget(controls.txtDet[i], gridRow, columnBox);
         grid->addWidget(controls.lblUnit[i], gridRow, columnUnit);
     }
-    controls.chkPeck = new QCheckBox("Drill in &pecks", &page);
+    controls.chkPeck = new QCheckBox(tr("Drill in &pecks"), &page);
     controls.chkPeck->setObjectName("chkPeck");
-    controls.chkPeck->setAccessibleName("Drill in pecks");
-    controls.chkPeck->setToolTip("The drill comes up after each peck to clear the hole of chips");
-    controls.chkPeck->setProperty(helpContextProperty, penRows(PenForm::drilling)[rowPeck].help);
+    controls.chkPeck->setAccessibleName(tr("Drill in pecks"));
+    controls.chkPeck->setToolTip(
+        tr("The drill comes up after each peck to clear the hole of chips"));
+    controls.chkPeck->setProperty(helpContextProperty, rowHelp(PenForm::drilling, rowPeck));
     grid->addWidget(controls.chkPeck, gridRowPeck, columnCaption, 1, 3);
     layout.addLayout(grid);
 
-    controls.holesFollow = makeWrappedLabel(
-        page, "lblHolesFollow",
-        "The circles are drilled as holes. The next pages ask for the details of each hole size.");
+    controls.holesFollow = makeWrappedLabel(page, "lblHolesFollow",
+                                            tr("The circles are drilled as holes. The next pages "
+                                               "ask for the details of each hole size."));
     layout.addWidget(controls.holesFollow);
 }
 
@@ -195,16 +205,15 @@ void showPenRows(const PenControls& controls, PenForm form, std::string_view fee
             widget->setVisible(visible);
         if (i >= rows.size())
             continue;
-        const QString caption = QString::fromStdString(rowCaption(rows[i], feedUnits));
-        const QString tip =
-            QString::fromUtf8(rows[i].tip.data(), static_cast<qsizetype>(rows[i].tip.size()));
+        const QString caption = rowCaption(form, i, feedUnits);
+        const QString tip = rowTip(form, i);
         controls.lblDet[i]->setText(caption);
-        controls.lblUnit[i]->setText(QString::fromStdString(rowUnit(rows[i], feedUnits)));
+        controls.lblUnit[i]->setText(rowUnit(form, i, feedUnits));
         controls.txtDet[i]->setAccessibleName(caption);
         controls.txtDet[i]->setToolTip(tip);
         controls.lblDet[i]->setToolTip(tip);
-        controls.lblDet[i]->setProperty(helpContextProperty, rows[i].help);
-        controls.txtDet[i]->setProperty(helpContextProperty, rows[i].help);
+        controls.lblDet[i]->setProperty(helpContextProperty, rowHelp(form, i));
+        controls.txtDet[i]->setProperty(helpContextProperty, rowHelp(form, i));
     }
     controls.chkPeck->setVisible(asked && form == PenForm::drilling);
     controls.toolPanel->setVisible(asked);
@@ -227,12 +236,12 @@ void openBox(NumberBox& box, bool open) {
 void setToolLabel(const PenControls& controls, std::size_t label, const QString& text) {
     const ToolLabelText& about = toolLabelTexts[label];
     controls.toolLabels[label]->setText(text);
-    controls.toolLabels[label]->setAccessibleName(QString(about.caption) + ": " +
-                                                  (text.isEmpty() ? "none" : text));
+    controls.toolLabels[label]->setAccessibleName(tr(about.caption) + ": " +
+                                                  (text.isEmpty() ? tr("none") : text));
     // A long type is cut off in its label.
     controls.toolLabels[label]->setToolTip(
-        text.isEmpty() ? about.tip
-                       : QString("<span>%1: %2</span>").arg(about.tip, text.toHtmlEscaped()));
+        text.isEmpty() ? tr(about.tip)
+                       : QString("<span>%1: %2</span>").arg(tr(about.tip), text.toHtmlEscaped()));
 }
 
 void colourToolLabels(const PenControls& controls, bool leftOut) {

@@ -3,6 +3,7 @@
 
 #include "answers/pen_position.h"
 #include "forms/number_box.h"
+#include "wizard/pens/pen_words.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -90,7 +91,7 @@ void PenPage::plotBlinkFrame() {
 }
 
 std::string PenPage::strToolTitle() const {
-    return torvik::strToolTitle(m_workshop.job);
+    return pageSubjectText(m_workshop.job).toStdString();
 }
 
 } // namespace torvik

@@ -93,7 +93,7 @@ private:
     void writeBoxes(const PenBoxes& state);
     void keepTypedZeros(PenTexts& texts) const;
     void focusFirstEmptyBox();
-    void refuse(std::size_t row, const std::string& message);
+    void refuse(const InputFault& fault);
     void select(int choice);
 
     // Runs the work; a failure is logged unless the last run failed too.

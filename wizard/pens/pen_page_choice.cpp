@@ -56,19 +56,18 @@ void PenPage::showState() {
         select(leaveOut);
     } else if (isOwnPageOfDrilledPen(job)) {
         select(machine);
-    } else if (hasTool(job.answers.gudtSettings[job.position.gintCurrentSettings],
-                       m_workshop.tools)) {
+    } else if (isInList(m_workshop.tools, currentSettings(job).intTool)) {
         select(machine);
         m_controls.cmdTool->setEnabled(true);
     }
 
-    const std::string what = pen.strColour + (drilled ? " holes" : " lines");
-    const std::array<std::string, 2> captions{
-        (drilled ? "&Drill the " : "&Cut the ") + what,
-        (drilled ? "Do NO&T drill the " : "Do NO&T cut the ") + what};
+    const std::array<QString, 2> captions =
+        drilled ? std::array{tr("&Drill the %1 holes"), tr("Do NO&T drill the %1 holes")}
+                : std::array{tr("&Cut the %1 lines"), tr("Do NO&T cut the %1 lines")};
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        m_controls.optCut[i]->setText(QString::fromStdString(captions[i]));
-        m_controls.optCut[i]->setAccessibleName(QString::fromStdString(captions[i]).remove('&'));
+        const QString caption = captions[i].arg(QString::fromStdString(pen.strColour));
+        m_controls.optCut[i]->setText(caption);
+        m_controls.optCut[i]->setAccessibleName(QString(caption).remove(u'&'));
         m_controls.optCut[i]->setProperty(helpContextProperty, drilled ? helpDrill : helpCut);
     }
 }
@@ -108,13 +107,14 @@ void PenPage::setCut(std::int16_t Index) {
 }
 
 bool PenPage::askForDrilling() {
-    return m_workshop.messages.intStdMsgBox("Would you like to cut the circles as drilled holes?",
-                                            styleQuestion, "Drilling") == buttonYes;
+    return m_workshop.messages.intStdMsgBox(
+               tr("Would you like to cut the circles as drilled holes?").toStdString(),
+               styleQuestion, tr("Drilling").toStdString()) == buttonYes;
 }
 
 // A group that is to be machined and has no tool yet: the choice stays, and the tool comes next.
 void PenPage::offerTool() {
-    if (!asksForDetails() || hasTool(currentSettings(m_workshop.job), m_workshop.tools))
+    if (!asksForDetails() || isInList(m_workshop.tools, currentSettings(m_workshop.job).intTool))
         return;
     select(machine);
     m_controls.cmdTool->setEnabled(true);
@@ -176,11 +176,13 @@ void PenPage::SetTool(std::int16_t position) {
         ShowDetails();
         if (!toolMissesHole(job, diameter))
             return;
-        const std::string question =
-            "You have chosen a " + formatFixed(diameter, 2) + " mm diameter tool to drill a " +
-            formatFixed(holeDiameter(job), 2) +
-            " mm diameter circle.\nAre you sure you want to use this tool?";
-        if (m_workshop.messages.intStdMsgBox(question, styleQuestion, usualTitle) == buttonNo)
+        const QString question =
+            tr("You have chosen a %1 mm diameter tool to drill a %2 mm diameter circle.\nAre you "
+               "sure you want to use this tool?")
+                .arg(QString::fromStdString(formatFixed(diameter, 2)),
+                     QString::fromStdString(formatFixed(holeDiameter(job), 2)));
+        if (m_workshop.messages.intStdMsgBox(question.toStdString(), styleQuestion, usualTitle) ==
+            buttonNo)
             m_host.startToolSelection();
     });
 }

@@ -5,6 +5,7 @@
 #include "base/picture.h"
 #include "forms/number_box.h"
 #include "wizard/pens/pen_page.h"
+#include "wizard/pens/pen_words.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -37,8 +38,7 @@ void PenPage::showDetails() {
     Job& job = m_workshop.job;
     const PenForm form = currentForm(job);
     const Settings& settings = currentSettings(job);
-    m_controls.title->setText(
-        QString::fromStdString("Please give the details for the " + torvik::strToolTitle(job)));
+    m_controls.title->setText(tr("Please give the details for the %1").arg(pageSubjectText(job)));
     showPenRows(m_controls, form, job.answers.gstrFeedUnits, !isOwnPageOfDrilledPen(job));
     m_controls.chkPeck->setChecked(settings.blnPeck);
     showTool();
@@ -52,7 +52,7 @@ void PenPage::showDetails() {
         shown.enabled[i] = isEditableRow(i);
     writeBoxes(shown);
 
-    if (!hasTool(settings, m_workshop.tools)) {
+    if (!isInList(m_workshop.tools, settings.intTool)) {
         m_controls.cmdTool->setEnabled(false);
         select(noChoice);
     }
@@ -64,7 +64,7 @@ void PenPage::showDetails() {
 void PenPage::showTool() {
     const Settings& settings = currentSettings(m_workshop.job);
     std::array<std::string, 3> texts;
-    if (hasTool(settings, m_workshop.tools)) {
+    if (isInList(m_workshop.tools, settings.intTool)) {
         const Tool& tool = toolAt(m_workshop.tools, settings.intTool);
         texts = {formatInteger(tool.intNumber), tool.strType, formatFixed(tool.sngDiameter, 3)};
     }
@@ -87,7 +87,7 @@ bool PenPage::isEditableRow(std::size_t row) const {
     if (currentPen(job).blnOmit)
         return false;
     return row != rowPeck || currentForm(job) == PenForm::cutting || settings.blnPeck ||
-           !hasTool(settings, m_workshop.tools);
+           !isInList(m_workshop.tools, settings.intTool);
 }
 
 PenBoxes PenPage::boxes() const {
@@ -137,7 +137,7 @@ bool PenPage::SaveDetails() {
             storeTexts(boxes().text, m_controls.chkPeck->isChecked(), form,
                        job.answers.gsngFeedFactor, m_workshop.tools, currentSettings(job));
         if (refused)
-            refuse(*refused, cannotBeStored(form, *refused));
+            refuse({*refused, PenFault::tooLarge});
         kept = !refused;
     });
     return kept;
@@ -177,15 +177,16 @@ bool PenPage::blnInputValid() {
                                : std::nullopt;
         valid = !fault;
         if (fault)
-            refuse(fault->row, fault->message);
+            refuse(*fault);
     });
     return valid;
 }
 
-void PenPage::refuse(std::size_t row, const std::string& message) {
-    NumberBox& box = *m_controls.txtDet[row];
+void PenPage::refuse(const InputFault& fault) {
+    NumberBox& box = *m_controls.txtDet[fault.row];
     box.setSelection(0, wholeText);
-    m_workshop.messages.intStdMsgBox(message, styleExclamation, usualTitle);
+    m_workshop.messages.intStdMsgBox(faultText(currentForm(m_workshop.job), fault).toStdString(),
+                                     styleExclamation, usualTitle);
     // The peck distance may be closed: its check box is the way to it.
     if (box.isEnabledTo(this))
         box.setFocus();

@@ -121,7 +121,7 @@ TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     QApplication::sendEvent(&box(0), &composed);
     EXPECT_EQ(box(0).text(), "3");
     EXPECT_EQ(QToolTip::text(), "Use the point");
-    NumberBox height(true);
+    NumberBox height(signedMeasureHint);
     QTest::keyClicks(&height, "-5x");
     EXPECT_EQ(height.text(), "-5");
 }
