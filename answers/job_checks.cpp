@@ -51,6 +51,11 @@ bool isHeaderLineNeeded(std::size_t line) {
     return needed.at(line);
 }
 
+void trimHeader(Answers& answers) {
+    for (std::string& line : answers.gstrHeader)
+        line = std::string(trimBlanks(line));
+}
+
 std::optional<std::size_t> missingHeaderLine(const HeaderTexts& texts) {
     for (std::size_t i = 0; i < texts.size(); ++i)
         if (isHeaderLineNeeded(i) && trimBlanks(texts[i]).empty())

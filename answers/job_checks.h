@@ -38,6 +38,8 @@ using HeaderTexts = std::array<std::string, headerLines>;
 // Whether the header's line must be filled: the date, the designer, the name of the part and the
 // material.
 bool isHeaderLineNeeded(std::size_t line);
+// Takes the blanks before and behind the lines away, as they are written and saved.
+void trimHeader(Answers& answers);
 // The first needed line that holds nothing but blanks.
 std::optional<std::size_t> missingHeaderLine(const HeaderTexts& texts);
 

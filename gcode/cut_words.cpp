@@ -31,7 +31,7 @@ std::string tailOf(std::string_view feedWord) {
 
 } // namespace
 
-CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedWord)
+CutWords::CutWords(const Drawing& drawing, const PathSubscripts& paths, std::string_view feedWord)
     : m_tail(tailOf(feedWord)) {
     constexpr std::size_t usualBytes = 32; // of "G1 X123.456 Y123.456 F600" and some arcs
     m_cuts.reserve(paths.size());
@@ -39,15 +39,15 @@ CutWords::CutWords(Job& job, const PathSubscripts& paths, std::string_view feedW
     const Path* before = nullptr;
     StatementText words;
     for (const std::int16_t subscript : paths) {
-        Path& path = job.drawing.gudtPaths[subscript];
+        const Path& path = drawing.gudtPaths[subscript];
         if (path.intType != straightLine && !isArc(path))
             continue;
         words.clear();
         words.put(motion(path)).position(" X", path.sngEndX).position(" Y", path.sngEndY);
         if (isArc(path)) {
-            path.sngOffsetI = toSingle(double{path.sngCentreX} - path.sngStartX);
-            path.sngOffsetJ = toSingle(double{path.sngCentreY} - path.sngStartY);
-            words.position(" I", path.sngOffsetI).position(" J", path.sngOffsetJ);
+            const float sngOffsetI = toSingle(double{path.sngCentreX} - path.sngStartX);
+            const float sngOffsetJ = toSingle(double{path.sngCentreY} - path.sngStartY);
+            words.position(" I", sngOffsetI).position(" J", sngOffsetJ);
         }
         words.put(m_tail);
         m_cuts.push_back({static_cast<std::uint32_t>(m_text.size()),

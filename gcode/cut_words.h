@@ -23,7 +23,7 @@ public:
 
     // Takes the lines and arcs among the paths; paths of other kinds are passed over. Stores
     // centre minus start in the arcs' sngOffsetI and sngOffsetJ.
-    CutWords(Job& job, const PathSubscripts& paths, std::string_view feedWord);
+    CutWords(const Drawing& drawing, const PathSubscripts& paths, std::string_view feedWord);
 
     // Puts another feed at the end of every statement.
     void changeFeed(std::string_view feedWord);

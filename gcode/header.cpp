@@ -47,7 +47,7 @@ std::string toolLine(const Tool& tool) {
            latin1Line(tool.strType);
 }
 
-void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
+void writeHeader(const Job& job, const ToolList& tools, const std::string& opener,
                  const std::string& closer, ProgramOutput& output) {
     for (std::size_t i = 0; i < labels.size(); ++i)
         HeaderLine(job, opener + std::string(labels[i].label), labels[i].unit, closer,
@@ -68,17 +68,16 @@ void writeHeader(Job& job, const ToolList& tools, const std::string& opener,
 
 } // namespace
 
-bool WriteHeader(Job& job, const ToolList& tools, std::string_view opener, std::string_view closer,
-                 ProgramOutput& output, Logger& logger) {
+bool WriteHeader(const Job& job, const ToolList& tools, std::string_view opener,
+                 std::string_view closer, ProgramOutput& output, Logger& logger) {
     return withErrorTrap(logger, {"WriteHeader", "modHpgl"}, [&] {
         writeHeader(job, tools, std::string(opener), std::string(closer), output);
     });
 }
 
-void HeaderLine(Job& job, std::string_view labelledOpener, std::string_view unit,
+void HeaderLine(const Job& job, std::string_view labelledOpener, std::string_view unit,
                 std::string_view closer, std::int16_t index, ProgramOutput& output) {
-    std::string& value = job.answers.gstrHeader[index];
-    value = std::string(trimBlanks(value));
+    const std::string value(trimBlanks(job.answers.gstrHeader[index]));
     if (!value.empty())
         output.WriteLine(std::string(labelledOpener) + latin1Line(value) + std::string(unit) +
                          std::string(closer));

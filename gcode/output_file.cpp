@@ -16,7 +16,7 @@
 namespace torvik {
 namespace {
 
-void writeOpening(Job& job, std::span<const Statement> statements, std::int16_t number,
+void writeOpening(std::span<const Statement> statements, std::int16_t number,
                   ProgramOutput& output) {
     StatementValues values;
     values.programNumber = number;
@@ -24,7 +24,7 @@ void writeOpening(Job& job, std::span<const Statement> statements, std::int16_t 
         std::string text;
         expand(text, statement.text, values);
         if (statement.numbered)
-            output.CommandLine(job, text);
+            output.CommandLine(text);
         else
             output.WriteLine(text);
     }
@@ -38,20 +38,19 @@ std::string absolutePlotFile(const Job& job) {
 
 } // namespace
 
-bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
-                  ByteSink& sink, Logger& logger) {
-    job.output.gintLineNumber = 0;
+bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  std::int16_t number, ByteSink& sink, Logger& logger) {
     ProgramOutput output(sink);
-    writeOpening(job, dialect.opening, number, output);
+    writeOpening(dialect.opening, number, output);
     if (!dialect.commentOpener.empty())
         WriteHeader(job, tools, dialect.commentOpener, dialect.commentCloser, output, logger);
-    writeOpening(job, dialect.openingAfterHeader, number, output);
+    writeOpening(dialect.openingAfterHeader, number, output);
     const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
     output.flush();
     return whole && !output.failed();
 }
 
-bool writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+bool writeSideText(const Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger) {
     ProgramOutput output(sink);
     output.WriteLine("Origin - " + latin1Line(absolutePlotFile(job)));
@@ -66,8 +65,8 @@ std::filesystem::path sideTextPath(const std::filesystem::path& program) {
     return path += ".txt";
 }
 
-WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std::int16_t number,
-                       const std::filesystem::path& file, Logger& logger) {
+WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger) {
     constexpr Location here{"WriteFile", "modHpgl"};
     const Dialect& dialect = dialectFor(target);
     std::optional<FileSink> program;

@@ -25,18 +25,18 @@ enum class WriteOutcome {
 // Writes the program for the target code to the file, replacing any of that name, and the text
 // file beside it where the target has one. Restarts the job's line counter. `number` is the
 // program number of the targets that have one, 1 to 32767.
-WriteOutcome WriteFile(Job& job, const ToolList& tools, std::int16_t target, std::int16_t number,
-                       const std::filesystem::path& file, Logger& logger);
+WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger);
 
 // The program alone, into any sink. False after a trapped error that ended the body; an error in
 // the header (more than sixteen tools) is reported and passed over, a failed write excepted.
-bool writeProgram(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
-                  ByteSink& sink, Logger& logger);
+bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  std::int16_t number, ByteSink& sink, Logger& logger);
 
 // The text beside a program: where the drawing is, the program's name without its folder, and the
 // header. Raises FileError where the sink does; False where that was reported already, in the
 // header.
-bool writeSideText(Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
+bool writeSideText(const Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger);
 
 // The program's name with ".txt" behind it.

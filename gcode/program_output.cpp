@@ -4,7 +4,6 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/picture.h"
-#include "job/job.h"
 
 #include <array>
 #include <bit>
@@ -83,17 +82,17 @@ void ProgramOutput::WriteLine(std::string_view text, bool withLineEnd) {
     use(withLineEnd ? put(out, lineEnd) : out);
 }
 
-void ProgramOutput::CommandLine(Job& job, std::string_view text) {
-    writeBlock(job, text);
+void ProgramOutput::CommandLine(std::string_view text) {
+    writeBlock(text);
     WriteLine({});
 }
 
-void ProgramOutput::writeBlock(Job& job, std::string_view line) {
-    ++job.output.gintLineNumber;
-    if (job.output.gintLineNumber > lastBlockNumber)
-        job.output.gintLineNumber = 1;
+void ProgramOutput::writeBlock(std::string_view line) {
+    ++gintLineNumber;
+    if (gintLineNumber > lastBlockNumber)
+        gintLineNumber = 1;
     char* const out = room(BlockNumber::maxSize + line.size());
-    use(put(m_blockNumber.put(out, job.output.gintLineNumber), line));
+    use(put(m_blockNumber.put(out, gintLineNumber), line));
 }
 
 void ProgramOutput::flush() {

@@ -16,8 +16,6 @@
 
 namespace torvik {
 
-struct Job;
-
 inline constexpr std::string_view lineEnd = "\r\n";
 
 // A file opened for writing, replacing any of that name. Raises FileError where it cannot be
@@ -59,11 +57,11 @@ public:
 
     // The text as it stands (bytes of the program's own encoding), with a line end or without.
     void WriteLine(std::string_view text, bool withLineEnd = true);
-    // The text as a block: "N", the job's next block number (9999 is followed by 1), a blank, the
-    // text and a line end.
-    void CommandLine(Job& job, std::string_view text);
+    // The text as a block: "N", the next block number (9999 is followed by 1), a blank, the text
+    // and a line end.
+    void CommandLine(std::string_view text);
     // The same for a text that ends in its line end already.
-    void writeBlock(Job& job, std::string_view line);
+    void writeBlock(std::string_view line);
     // Passes what is gathered on. Whatever is not flushed is lost with the object. After a failed
     // write there is nothing more to pass on: the failure was raised once.
     void flush();
@@ -78,6 +76,7 @@ private:
     ByteSink& m_sink;
     std::string m_buffer; // of fixed size, filled up to m_used
     std::size_t m_used = 0;
+    std::int16_t gintLineNumber = 0; // the last block number written, 1 to 9999
     BlockNumber m_blockNumber;
     bool m_failed = false;
 };

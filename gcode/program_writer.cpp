@@ -34,7 +34,7 @@ float stepOrDepth(const Settings& settings) {
 
 class BodyWriter {
 public:
-    BodyWriter(Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
+    BodyWriter(const Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
         : m_job(job), m_dialect(dialect), m_output(output), m_paths(job),
           m_z(job.answers.gsngToolChangeHeight) {
         m_values.tools = &tools;
@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    void command(std::string_view text) { m_output.CommandLine(m_job, text); }
+    void command(std::string_view text) { m_output.CommandLine(text); }
 
     void put(std::string_view statement) {
         if (statement.empty())
@@ -154,7 +154,7 @@ private:
             if (words)
                 words->changeFeed(feedWord(feed));
             else
-                words.emplace(m_job, m_paths.ofPen(pen), feedWord(feed));
+                words.emplace(m_job.drawing, m_paths.ofPen(pen), feedWord(feed));
             cutPass(*words, z, settings.sngFeedVertical);
         }
     }
@@ -171,7 +171,7 @@ private:
                 rapidToHeight(m_job.answers.gsngRapidDownTo);
             if (m_z > z)
                 feedToHeight(z, feedDown);
-            m_output.writeBlock(m_job, words.text(cut));
+            m_output.writeBlock(words.text(cut));
         }
         if (!cuts.empty()) {
             const Path& last = m_job.drawing.gudtPaths[cuts.back().path];
@@ -210,7 +210,7 @@ private:
         }
     }
 
-    Job& m_job;
+    const Job& m_job;
     const Dialect& m_dialect;
     ProgramOutput& m_output;
     PathIndex m_paths;
@@ -226,7 +226,7 @@ private:
 
 } // namespace
 
-bool WriteGcodes(Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
+bool WriteGcodes(const Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
                  Logger& logger) {
     return withErrorTrap(logger, {"WriteGcodes", "modHpgl"},
                          [&] { BodyWriter(job, tools, dialectFor(target), output).write(); });

@@ -15,7 +15,7 @@ class ProgramOutput;
 // spindle and end statements. The job's arcs get their sngOffsetI and sngOffsetJ, its line counter
 // runs on. False after a trapped error (a tool or pen that does not exist, a step that never
 // reaches its depth, a number that does not fit, a failed write); the lines before it stay.
-bool WriteGcodes(Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
+bool WriteGcodes(const Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
                  Logger& logger);
 
 } // namespace torvik

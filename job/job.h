@@ -74,8 +74,7 @@ struct Position {
 
 // How far the written program is.
 struct Output {
-    bool gblnUnsaved = false;        // imported, and no program written yet
-    std::int16_t gintLineNumber = 0; // last block number written, 1 to 9999
+    bool gblnUnsaved = false; // imported, and no program written yet
     BoundedArray<std::string, 1, 16> gstrOrdinal;
 };
 

@@ -31,8 +31,6 @@ struct Path {
     float sngAngleFrom = 0; // the arc runs counter-clockwise from here ...
     float sngAngleTo = 0;   // ... to here, whichever way it was drawn
     float sngRadius = 0;
-    float sngOffsetI = 0; // centre minus start, filled by the program writer
-    float sngOffsetJ = 0;
 };
 
 // One pen of the plotter, and what the user decided for it.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The rules of the pen pages, without a window. Rows of a page stand as one text, "-" for an empty
 // box.
+#include "answers/job_checks.h"
 #include "answers/pen_checks.h"
 #include "answers/pen_position.h"
 #include "answers/pen_values.h"
@@ -144,6 +145,29 @@ TEST(InputFault, IsTheFirstOne) {
             boxes.enabled[i] = !boxes.text[i].empty();
         EXPECT_TRUE(inputFault(boxes, row.form, row.peck) == row.fault) << row.texts;
     }
+}
+
+TEST(JobChecks, HeightsStandAndTheHeaderIsFilled) {
+    const auto fault = [](const HeightTexts& texts) {
+        const auto found = heightFault(texts);
+        return found ? std::to_string(found->height) + (found->isTooLarge ? " large" : " zero")
+                     : "";
+    };
+    EXPECT_EQ(fault({"50", "-5", "2mm"}), "");
+    EXPECT_EQ(fault({"50", "5", "x2"}), "2 zero");
+    EXPECT_EQ(fault({"50", "1e39", ""}), "1 large");
+    Answers answers;
+    storeHeights({"60.5", "1e39", ""}, answers);
+    EXPECT_EQ(answers.gsngToolChangeHeight, 60.5F);
+    EXPECT_EQ(answers.gsngSafeHeight, Answers().gsngSafeHeight);
+    EXPECT_EQ(answers.gsngRapidDownTo, 0);
+
+    EXPECT_EQ(missingHeaderLine({"1 May", "Ada", "", "", "Gear", " ", "", "", ""}), 5U);
+    EXPECT_EQ(missingHeaderLine({"1 May", "Ada", "", "", "Gear", "Wood", "", "", ""}),
+              std::nullopt);
+    answers.gstrHeader[8] = " 12 ";
+    trimHeader(answers);
+    EXPECT_EQ(answers.gstrHeader[8], "12");
 }
 
 TEST(MovePosition, GoesPenByPenAndHoleByHole) {

@@ -55,10 +55,6 @@ TEST(WriteHeader, WritesFieldsAndTools) {
         EXPECT_EQ(header(work, row.opener), row.lines) << row.says;
         EXPECT_TRUE(work.whole) << row.says;
     }
-    JobToWrite work(threePens);
-    work.job.answers.gstrHeader[8] = " 12 ";
-    header(work, "");
-    EXPECT_EQ(work.job.answers.gstrHeader[8], "12");
 }
 
 TEST(WriteHeader, StopsWhereItCannotGoOn) {

@@ -25,7 +25,6 @@ TEST(WriteFile, WritesProgramAndTextBesideIt) {
     const std::string folderOfDrawing = "/drawings/";
 #endif
     work.job.drawing.gstrPlotFile = folderOfDrawing + "Ha\xC3\xBC\xCE\xA9.plt";
-    work.job.output.gintLineNumber = 70;
     ASSERT_EQ(WriteFile(work.job, work.tools, targetWinCam, 12, program, work.logger),
               WriteOutcome::written);
     EXPECT_EQ(contents(program), "%MPF12\r\nN1 G54\r\nN2 G97 G94\r\nN3 G58 X0 Y0 Z0\r\n"

@@ -136,10 +136,6 @@ TEST(WriteGcodes, CutsPaths) {
     expectBody({"paths of another kind are passed over, their moves too", "", "", targetMaskor,
                 start + cutLine + end},
                other);
-    JobToWrite arcs("SP1;PU400,0;AA0,0,-90;AA0,0,90");
-    arcs.body(targetMaskor);
-    EXPECT_EQ(arcs.job.drawing.gudtPaths[1].sngOffsetI, -10);
-    EXPECT_EQ(arcs.job.drawing.gudtPaths[2].sngOffsetJ, 10);
 }
 
 TEST(WriteGcodes, DrillsHoles) {
@@ -234,10 +230,10 @@ TEST(CommandLine, NumbersRunFrom1To9999AndAgain) {
     ProgramOutput output(sink);
     std::string expected;
     for (int i = 0; i < 10100; ++i) {
-        output.CommandLine(job, "M1");
+        output.CommandLine("M1");
         expected += "N" + std::to_string(i % 9999 + 1) + " M1\r\n";
     }
-    output.CommandLine(job, "");
+    output.CommandLine("");
     output.WriteLine("half ", false);
     output.WriteLine("line");
     output.flush();

@@ -198,8 +198,7 @@ TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
         true;
     job.answers.gsngToolChangeHeight = job.answers.gsngSafeHeight = job.answers.gsngRapidDownTo =
         job.answers.gsngFeedFactor = 60;
-    job.output.gintLineNumber = job.position.gintCurrentPen = job.answers.gintOrder[1] =
-        job.answers.gintOrderCount = 3;
+    job.position.gintCurrentPen = job.answers.gintOrder[1] = job.answers.gintOrderCount = 3;
     job.answers.gstrHeader[headerDesigner] = "Ada";
     job.position.gudtColourTree.emplace_back();
     ASSERT_TRUE(read("SP1;CI;CI40;SP0"));
@@ -209,8 +208,7 @@ TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
     EXPECT_EQ(std::tuple(job.answers.gsngToolChangeHeight, job.answers.gsngSafeHeight,
                          job.answers.gsngRapidDownTo, job.answers.gsngFeedFactor),
               std::tuple(50, 0, 2, 0));
-    EXPECT_EQ(job.output.gintLineNumber + job.position.gintCurrentPen + job.answers.gintOrder[1] +
-                  job.answers.gintOrderCount,
+    EXPECT_EQ(job.position.gintCurrentPen + job.answers.gintOrder[1] + job.answers.gintOrderCount,
               0);
     EXPECT_FALSE(job.answers.gudtPens[3].blnDrill || job.answers.gudtPens[4].blnOmit ||
                  job.answers.gblnOrderSet);

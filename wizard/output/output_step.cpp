@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/output/output_step.h"
 
+#include "answers/job_checks.h"
 #include "answers/program_folder.h"
 #include "answers/put_saved_data.h"
 #include "base/error_trap.h"
@@ -136,6 +137,7 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
 
 bool OutputStep::write(std::int16_t target, std::int16_t number,
                        const std::filesystem::path& file) {
+    trimHeader(m_workshop.job.answers);
     for (;;) {
         WriteOutcome outcome{};
         {
