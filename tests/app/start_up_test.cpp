@@ -33,20 +33,6 @@ protected:
     }
 };
 
-TEST_F(StartUpTest, ShowsTheMainWindowAtItsFirstStepAndEndsWhenItIsClosed) {
-    EXPECT_EQ(run([] {
-                  QMainWindow* const window = mainWindow();
-                  ASSERT_NE(window, nullptr);
-                  EXPECT_EQ(window->windowTitle(), "Torvik");
-                  EXPECT_TRUE(window->findChild<QPushButton*>("cmdStart")->isVisible());
-                  EXPECT_FALSE(window->findChild<QPushButton*>("cmdBack")->isVisible());
-                  EXPECT_FALSE(window->windowIcon().pixmap(48).isNull());
-                  window->close();
-              }),
-              0);
-    EXPECT_EQ(mainWindow(), nullptr);
-}
-
 TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
     run(
         [] {
