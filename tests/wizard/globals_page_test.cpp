@@ -5,7 +5,7 @@
 namespace torvik {
 namespace {
 
-class GlobalsPageTest : public testing::Test {
+class GlobalsPageTest : public PageTest {
 protected:
     GlobalsPageTest() {
         workshop.job.gintWizardStep = 2;
@@ -22,12 +22,6 @@ protected:
     }
     void choose(int i) { QTest::mouseClick(&unit(i), Qt::LeftButton, {}, QPoint(8, 8)); }
 
-    NotingHost host;
-    ScriptedMessages messages;
-    NoRegistry registry;
-    Logger logger;
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     GlobalsPage page{workshop, host};
 };
 
@@ -49,44 +43,33 @@ TEST_F(GlobalsPageTest, NextOpensWhenEveryHeightIsFilledAndAUnitChosen) {
 }
 
 TEST_F(GlobalsPageTest, HeightsAreStoredAsTypedAndShownAsWholeMillimetres) {
-    struct Row {
-        const char* name;
-        const char* typed;
-        float stored;
-        const char* shown;
-    };
-    const Row rows[] = {
-        {"whole heights stay", "50", 50, "50"},
-        {"half a millimetre is rounded when shown", "2.5", 2.5F, "3"},
-        {"below the surface", "-5.4", -5.4F, "-5"},
-        {"no number is 0, and 0 is an empty box", "-", 0, ""},
-        {"a comma is discarded", "1,5", 15, "15"},
-        {"what can be read counts", "7.2.3-1", 7.2F, "7"},
+    const std::tuple<const char*, float, const char*> rows[] = {
+        {"50", 50, "50"},      {"2.5", 2.5F, "3"},
+        {"-5.4", -5.4F, "-5"}, {"-", 0, ""}, // no number is 0, and 0 is an empty box
+        {"1,5", 15, "15"},     {"7.2.3-1", 7.2F, "7"},
     };
     float Answers::*const heights[] = {&Answers::gsngToolChangeHeight, &Answers::gsngSafeHeight,
                                        &Answers::gsngRapidDownTo};
-    for (const Row& row : rows) {
+    for (const auto& [typed, stored, shown] : rows) {
         for (const int i : {0, 1, 2}) {
-            type(i, row.typed);
+            type(i, typed);
             page.SaveGlobals();
-            EXPECT_EQ(job.answers.*heights[i], row.stored) << row.name;
+            EXPECT_EQ(job.answers.*heights[i], stored) << typed;
             page.RestoreGlobals();
-            EXPECT_EQ(box(i).text(), row.shown) << row.name;
+            EXPECT_EQ(box(i).text(), shown) << typed;
         }
     }
 }
 
 TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
-    const std::tuple<int, float, const char*> rows[] = {{0, 1.0F, "(mm/min)"},
-                                                        {1, 60.0F, "(mm/sec)"}};
-    for (const auto& [option, factor, caption] : rows) {
-        choose(option);
+    const std::pair<float, std::string> units[] = {{1.0F, "(mm/min)"}, {60.0F, "(mm/sec)"}};
+    for (const int i : {0, 1}) {
+        choose(i);
         page.SaveGlobals();
-        EXPECT_EQ(job.answers.gsngFeedFactor, factor);
-        EXPECT_EQ(job.answers.gstrFeedUnits, caption);
-        choose(1 - option);
+        EXPECT_EQ(std::make_pair(job.answers.gsngFeedFactor, job.answers.gstrFeedUnits), units[i]);
+        choose(1 - i);
         page.RestoreGlobals();
-        EXPECT_TRUE(unit(option).isChecked());
+        EXPECT_TRUE(unit(i).isChecked());
     }
     job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);

@@ -10,7 +10,7 @@ namespace {
 
 using Texts = std::array<const char*, 9>;
 
-class HeaderPageTest : public testing::Test {
+class HeaderPageTest : public PageTest {
 protected:
     HeaderPageTest() {
         job.drawing.gstrPlotFile = "/drawings/old.parts/Gear wheel.plt";
@@ -26,11 +26,6 @@ protected:
         page.fill();
     }
 
-    ScriptedMessages messages;
-    NoRegistry registry;
-    Logger logger;
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     HeaderPage page{workshop};
 };
 
