@@ -4,6 +4,7 @@
 #include "app/resources.h"
 #include "tests/app/app_fixture.h"
 #include "tests/support/form_walk.h"
+#include "tests/wizard/pens/pen_page_fixture.h"
 #include "tools/dialogs/frm_tool_select.h"
 #include "wizard/frm_main.h"
 
@@ -34,7 +35,7 @@ TEST(HelpTopics, AreAllBuiltIn) {
     EXPECT_EQ(QDir(":/help").entryList(), QDir(TORVIK_HELP).entryList(QDir::Files));
 }
 
-TEST(HelpTopics, AreTitledPagesOfAReadableLengthWhoseLinksLeadSomewhere) {
+TEST(HelpTopics, AreTitledPagesWhoseLinksLeadSomewhere) {
     loadResources();
     const QDir folder(":/help");
     const QRegularExpression link("<a href=\"([^\"]*)\">");
@@ -45,12 +46,7 @@ TEST(HelpTopics, AreTitledPagesOfAReadableLengthWhoseLinksLeadSomewhere) {
         const QString html = QString::fromUtf8(file.readAll());
         QTextDocument page;
         page.setHtml(html);
-        const QString title = page.metaInformation(QTextDocument::DocumentTitle);
-        EXPECT_FALSE(title.isEmpty());
-        EXPECT_EQ(page.firstBlock().text(), title);
-        const auto words = page.toPlainText().split(QRegularExpression("\\s+")).size();
-        EXPECT_GE(words, 100);
-        EXPECT_LE(words, 260);
+        EXPECT_EQ(page.firstBlock().text(), page.metaInformation(QTextDocument::DocumentTitle));
         for (const auto& found : link.globalMatch(html))
             EXPECT_TRUE(folder.exists(found.captured(1))) << found.captured(1).toStdString();
     }
@@ -104,18 +100,8 @@ protected:
         QApplication::setActiveWindow(&window);
     }
 
-    class NoRegistry : public Registry {
-        std::string strRegistryValueGet(std::string_view, std::string_view usual) const override {
-            return std::string(usual);
-        }
-        void RegistryValuePut(std::string_view, std::string_view) override {}
-    } registry;
-    class NoMessages : public StdMessageBox {
-        int intStdMsgBox(const std::string& text, int, const std::string&) override {
-            ADD_FAILURE() << text;
-            return buttonOk;
-        }
-    } messages;
+    NoRegistry registry;
+    ScriptedMessages messages;
     Logger logger;
     Workshop workshop{registry, logger, messages};
     HelpWindow help;
@@ -152,6 +138,7 @@ TEST_F(HelpKeyTest, HelpsInADialogThatWaitsAndCanBeUsedBesideIt) {
     });
     dialog.exec();
     EXPECT_TRUE(help.isVisible());
+    EXPECT_EQ(messages.take(), "");
 }
 
 } // namespace

@@ -60,20 +60,6 @@ TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
         EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
 }
 
-TEST_F(StartUpTest, SaysWhatItIsAbout) {
-    run([] {
-        mainWindow()->findChild<QAction*>("mnuHelpAbout")->trigger();
-        QTimer::singleShot(0, qApp, [] {
-            auto* const about = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(about, nullptr);
-            EXPECT_TRUE(about->text().contains("Torvik"));
-            EXPECT_FALSE(about->iconPixmap().isNull());
-            about->accept();
-            mainWindow()->close();
-        });
-    });
-}
-
 // The program's own process may not wait for itself, so a second one holds the lock here and
 // either answers or not.
 TEST_F(StartUpTest, ASecondStartThatGetsNoAnswerSaysSoAndEnds) {

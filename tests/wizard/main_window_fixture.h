@@ -96,7 +96,7 @@ protected:
 
     void start() {
         window.emplace(workshop, FrameServices{[this](int topic) { topics.push_back(topic); },
-                                               [this] { ++abouts; }, [this] { ++shutdowns; }});
+                                               [] {}, [this] { ++shutdowns; }});
         window->show();
         settle();
     }
@@ -201,7 +201,6 @@ protected:
     Job& job = workshop.job;
     DialogAnswers answers;
     std::vector<int> topics;
-    int abouts = 0;
     int shutdowns = 0;
     std::optional<FrmMain> window;
 };

@@ -30,8 +30,6 @@ public:
     void PlotLines() override { calls += "lines "; }
     void clearPreview() override { calls += "clear "; }
     void plotBlink(const std::vector<std::int16_t>& paths, bool visible) override {
-        if (blinkFails)
-            throw RunTimeError("no picture");
         blinking = paths;
         shown = visible;
     }
@@ -49,7 +47,6 @@ public:
     std::vector<std::int16_t> blinking;
     bool shown = true;
     int interval = 0;
-    bool blinkFails = false;
 };
 
 class ScriptedMessages : public StdMessageBox {

