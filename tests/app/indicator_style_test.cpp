@@ -36,27 +36,27 @@ QImage picture(const QPalette& palette, QStyle& style) {
 }
 
 template <typename Button>
-double edgeContrast(QStyle& style) {
-    const QImage shown = picture<Button>(dark, style);
+class IndicatorStyleTest : public testing::Test {
+protected:
+    IndicatorStyle style{QStyleFactory::create("Fusion")};
+};
+
+using Buttons = testing::Types<QRadioButton, QCheckBox>;
+TYPED_TEST_SUITE(IndicatorStyleTest, Buttons);
+
+TYPED_TEST(IndicatorStyleTest, ShowsTheEdgesOnADarkDesktop) {
+    const QImage shown = picture<TypeParam>(dark, this->style);
+    const QRgb around = dark.color(QPalette::Window).rgb();
     double best = 1;
     for (int x = 0; x < shown.width(); ++x)
-        best = std::max(
-            best, contrast(shown.pixel(x, shown.height() / 2), dark.color(QPalette::Window).rgb()));
-    return best;
+        best = std::max(best, contrast(shown.pixel(x, shown.height() / 2), around));
+    EXPECT_GT(best, 3);
 }
 
-TEST(IndicatorStyle, ShowsTheEdgesOnADarkDesktop) {
-    IndicatorStyle style(QStyleFactory::create(QStringLiteral("Fusion")));
-    EXPECT_GT(edgeContrast<QRadioButton>(style), 3);
-    EXPECT_GT(edgeContrast<QCheckBox>(style), 3);
-}
-
-TEST(IndicatorStyle, LeavesALightDesktopAsItIs) {
-    IndicatorStyle style(QStyleFactory::create(QStringLiteral("Fusion")));
-    const std::unique_ptr<QStyle> plain(QStyleFactory::create(QStringLiteral("Fusion")));
+TYPED_TEST(IndicatorStyleTest, LeavesALightDesktopAsItIs) {
+    const std::unique_ptr<QStyle> plain(QStyleFactory::create("Fusion"));
     const QPalette light(QColor(239, 239, 239));
-    EXPECT_EQ(picture<QRadioButton>(light, style), picture<QRadioButton>(light, *plain));
-    EXPECT_EQ(picture<QCheckBox>(light, style), picture<QCheckBox>(light, *plain));
+    EXPECT_EQ(picture<TypeParam>(light, this->style), picture<TypeParam>(light, *plain));
 }
 
 } // namespace

@@ -33,20 +33,6 @@ protected:
     }
 };
 
-TEST_F(StartUpTest, ShowsTheMainWindowAtItsFirstStepAndEndsWhenItIsClosed) {
-    EXPECT_EQ(run([] {
-                  QMainWindow* const window = mainWindow();
-                  ASSERT_NE(window, nullptr);
-                  EXPECT_EQ(window->windowTitle(), "Torvik");
-                  EXPECT_TRUE(window->findChild<QPushButton*>("cmdStart")->isVisible());
-                  EXPECT_FALSE(window->findChild<QPushButton*>("cmdBack")->isVisible());
-                  EXPECT_FALSE(window->windowIcon().pixmap(48).isNull());
-                  window->close();
-              }),
-              0);
-    EXPECT_EQ(mainWindow(), nullptr);
-}
-
 TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
     run(
         [] {
@@ -72,20 +58,6 @@ TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
               0);
     for (const QWidget* const window : QApplication::topLevelWidgets())
         EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
-}
-
-TEST_F(StartUpTest, SaysWhatItIsAbout) {
-    run([] {
-        mainWindow()->findChild<QAction*>("mnuHelpAbout")->trigger();
-        QTimer::singleShot(0, qApp, [] {
-            auto* const about = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(about, nullptr);
-            EXPECT_TRUE(about->text().contains("Torvik"));
-            EXPECT_FALSE(about->iconPixmap().isNull());
-            about->accept();
-            mainWindow()->close();
-        });
-    });
 }
 
 // The program's own process may not wait for itself, so a second one holds the lock here and

@@ -16,14 +16,12 @@ TEST(SaveDepth, KeepsDistinctDepthsAscending) {
     EXPECT_EQ(depths.gintDepthCount, 4);
 }
 
-struct GreyCase {
-    const char* name;
-    float depth, shallowest, deepest;
-    std::int32_t colour;
-};
-
 TEST(LngPlotColour, DarkensWithTheDepth) {
-    const GreyCase cases[] = {
+    const struct {
+        const char* name;
+        float depth, shallowest, deepest;
+        std::int32_t colour;
+    } cases[] = {
         {"the shallowest is 208", 1, 1, 5, 208 * 0x010101},
         {"half way is 112", 3, 1, 5, 112 * 0x010101},
         {"the deepest is 16", 5, 1, 5, 16 * 0x010101},
@@ -31,7 +29,7 @@ TEST(LngPlotColour, DarkensWithTheDepth) {
         {"207.5 is rounded up to the even 208", 1, 0, 384, 208 * 0x010101},
         {"206.5 is rounded down to the even 206", 3, 0, 384, 206 * 0x010101},
     };
-    for (const GreyCase& row : cases)
+    for (const auto& row : cases)
         EXPECT_EQ(lngPlotColour(row.depth, row.shallowest, row.deepest), row.colour) << row.name;
 }
 

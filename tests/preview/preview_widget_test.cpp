@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace torvik {
@@ -28,11 +29,9 @@ protected:
     QWidget* child(const char* name) { return preview.findChild<QWidget*>(name); }
     bool isBlank() {
         const QImage shown = child("picBack")->grab().toImage();
-        for (int y = 0; y < shown.height(); ++y)
-            for (int x = 0; x < shown.width(); ++x)
-                if (shown.pixel(x, y) != white)
-                    return false;
-        return true;
+        QImage empty = shown.copy();
+        empty.fill(Qt::white);
+        return shown == empty;
     }
     std::vector<std::string> legend() {
         std::vector<std::string> texts;
@@ -49,20 +48,14 @@ protected:
 };
 
 // The picture as it is on the screen, without being asked to paint.
-class OnScreen : public QObject {
+class PaintCount : public QObject {
 public:
-    explicit OnScreen(QWidget& widget) { widget.installEventFilter(this); }
-    int takePaints() {
-        QCoreApplication::processEvents();
-        return std::exchange(m_paints, 0);
-    }
+    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
     bool eventFilter(QObject*, QEvent* event) override {
-        m_paints += event->type() == QEvent::Paint ? 1 : 0;
+        count += event->type() == QEvent::Paint ? 1 : 0;
         return false;
     }
-
-private:
-    int m_paints = 0;
+    int count = 0;
 };
 
 const char* const plate = "SP1;PU400,400;PD4400,2400";
@@ -164,9 +157,9 @@ TEST_F(PreviewWidgetTest, AGroupWithoutAToolIsReportedAndLeavesTheFrameEmpty) {
     preview.DrawPiece();
     job.answers.gudtSettings[1].intTool = 0;
     preview.DrawPiece();
-    ASSERT_EQ(reports.size(), 1U);
-    EXPECT_EQ(reports[0], "An error has occurred in GetPieceScale (modHpgl):\n"
-                          "the Black lines have no tool.");
+    EXPECT_EQ(reports,
+              std::vector<std::string>{"An error has occurred in GetPieceScale (modHpgl):\n"
+                                       "the Black lines have no tool."});
     EXPECT_TRUE(isBlank());
 }
 
@@ -182,30 +175,26 @@ TEST_F(PreviewWidgetTest, ABlinkThatFailsIsLoggedOnceAndNotReported) {
 }
 
 TEST_F(PreviewWidgetTest, EveryNewPictureComesToTheScreen) {
-    PreviewWidget shown(job, tools, logger);
-    OnScreen screen(*shown.findChild<QWidget*>("picPlot"));
-    shown.resize(700, 500);
-    shown.show();
-    job = machinedDrawing(plate, {{1, 2}});
-    shown.GetScale();
-    shown.PlotLines();
-    EXPECT_GT(screen.takePaints(), 0);
-    shown.plotBlink({1}, false);
-    EXPECT_GT(screen.takePaints(), 0) << "the lines go";
-    shown.plotBlink({1}, true);
-    EXPECT_GT(screen.takePaints(), 0) << "and come back";
-    shown.DrawLine(1, 1);
-    EXPECT_GT(screen.takePaints(), 0) << "one is erased";
-    shown.DrawPiece();
-    EXPECT_GT(screen.takePaints(), 0) << "the piece";
+    preview.setAttribute(Qt::WA_DontShowOnScreen, false);
+    preview.hide();
+    preview.show();
+    read(plate, {{1, 2}});
+    PaintCount paints(*child("picPlot"));
+    const std::pair<const char*, std::function<void()>> changes[] = {
+        {"the drawing", [&] { preview.PlotLines(); }},
+        {"the lines go", [&] { preview.plotBlink({1}, false); }},
+        {"and come back", [&] { preview.plotBlink({1}, true); }},
+        {"one is erased", [&] { preview.DrawLine(1, 1); }},
+        {"the piece", [&] { preview.DrawPiece(); }},
+    };
+    for (const auto& [says, change] : changes) {
+        QCoreApplication::processEvents();
+        paints.count = 0;
+        change();
+        QCoreApplication::processEvents();
+        EXPECT_GT(paints.count, 0) << says;
+    }
 }
 
 } // namespace
 } // namespace torvik
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

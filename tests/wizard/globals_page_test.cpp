@@ -5,7 +5,7 @@
 namespace torvik {
 namespace {
 
-class GlobalsPageTest : public testing::Test {
+class GlobalsPageTest : public PageTest {
 protected:
     GlobalsPageTest() {
         workshop.job.gintWizardStep = 2;
@@ -22,71 +22,37 @@ protected:
     }
     void choose(int i) { QTest::mouseClick(&unit(i), Qt::LeftButton, {}, QPoint(8, 8)); }
 
-    NotingHost host;
-    ScriptedMessages messages;
-    NoRegistry registry;
-    Logger logger;
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     GlobalsPage page{workshop, host};
 };
 
-TEST_F(GlobalsPageTest, NextOpensWhenEveryHeightIsFilledAndAUnitChosen) {
-    page.enter();
-    EXPECT_TRUE(box(0).hasFocus());
-    for (const int i : {0, 1, 2})
-        type(i, "-");
-    EXPECT_FALSE(host.next);
-    choose(0);
-    EXPECT_TRUE(host.next);
-    box(2).clear();
-    EXPECT_FALSE(host.next);
-    page.enter();
-    EXPECT_TRUE(box(2).hasFocus());
-    job.gintWizardStep = 3; // no longer the page's business
-    type(2, "2");
-    EXPECT_FALSE(host.next);
-}
-
 TEST_F(GlobalsPageTest, HeightsAreStoredAsTypedAndShownAsWholeMillimetres) {
-    struct Row {
-        const char* name;
-        const char* typed;
-        float stored;
-        const char* shown;
-    };
-    const Row rows[] = {
-        {"whole heights stay", "50", 50, "50"},
-        {"half a millimetre is rounded when shown", "2.5", 2.5F, "3"},
-        {"below the surface", "-5.4", -5.4F, "-5"},
-        {"no number is 0, and 0 is an empty box", "-", 0, ""},
-        {"a comma is discarded", "1,5", 15, "15"},
-        {"what can be read counts", "7.2.3-1", 7.2F, "7"},
+    const std::tuple<const char*, float, const char*> rows[] = {
+        {"50", 50, "50"},      {"2.5", 2.5F, "3"},
+        {"-5.4", -5.4F, "-5"}, {"-", 0, ""}, // no number is 0, and 0 is an empty box
+        {"1,5", 15, "15"},     {"7.2.3-1", 7.2F, "7"},
     };
     float Answers::*const heights[] = {&Answers::gsngToolChangeHeight, &Answers::gsngSafeHeight,
                                        &Answers::gsngRapidDownTo};
-    for (const Row& row : rows) {
+    for (const auto& [typed, stored, shown] : rows) {
         for (const int i : {0, 1, 2}) {
-            type(i, row.typed);
+            type(i, typed);
             page.SaveGlobals();
-            EXPECT_EQ(job.answers.*heights[i], row.stored) << row.name;
+            EXPECT_EQ(job.answers.*heights[i], stored) << typed;
             page.RestoreGlobals();
-            EXPECT_EQ(box(i).text(), row.shown) << row.name;
+            EXPECT_EQ(box(i).text(), shown) << typed;
         }
     }
 }
 
 TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
-    const std::tuple<int, float, const char*> rows[] = {{0, 1.0F, "(mm/min)"},
-                                                        {1, 60.0F, "(mm/sec)"}};
-    for (const auto& [option, factor, caption] : rows) {
-        choose(option);
+    const std::pair<float, std::string> units[] = {{1.0F, "(mm/min)"}, {60.0F, "(mm/sec)"}};
+    for (const int i : {0, 1}) {
+        choose(i);
         page.SaveGlobals();
-        EXPECT_EQ(job.answers.gsngFeedFactor, factor);
-        EXPECT_EQ(job.answers.gstrFeedUnits, caption);
-        choose(1 - option);
+        EXPECT_EQ(std::make_pair(job.answers.gsngFeedFactor, job.answers.gstrFeedUnits), units[i]);
+        choose(1 - i);
         page.RestoreGlobals();
-        EXPECT_TRUE(unit(option).isChecked());
+        EXPECT_TRUE(unit(i).isChecked());
     }
     job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);
@@ -95,29 +61,21 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
 }
 
 TEST_F(GlobalsPageTest, TheFirstHeightThatIsZeroIsNamedAndSelected) {
-    struct Row {
-        std::array<const char*, 3> texts;
-        const char* message; // empty: the page may be left
-        int box;
+    const std::tuple<std::array<const char*, 3>, int, std::string> rows[] = {
+        {{"50", "-5", "2"}, 0, ""}, // the page may be left
+        {{"0", "0", "2"}, 0, "The Tool Change Height may not be zero"},
+        {{"50", "0.0", "2"}, 1, "The Safe Height for Rapids may not be zero"},
+        {{"50", "5", "x"}, 2, "The Rapid Down To may not be zero"},
+        {{"50", "1e39", "2"}, 1, "The Safe Height for Rapids is too large a number"},
     };
-    const Row rows[] = {
-        {{"50", "-5", "2"}, "", 0},
-        {{"0", "0", "2"}, "The Tool Change Height may not be zero", 0},
-        {{"50", "0.0", "2"}, "The Safe Height for Rapids may not be zero", 1},
-        {{"50", "5", "x"}, "The Rapid Down To may not be zero", 2},
-        {{"50", "1e39", "2"}, "The Safe Height for Rapids is too large a number", 1},
-    };
-    for (const Row& row : rows) {
+    for (const auto& [texts, wrong, message] : rows) {
         for (const int i : {0, 1, 2})
-            box(i).setText(row.texts[static_cast<std::size_t>(i)]);
+            box(i).setText(texts[static_cast<std::size_t>(i)]);
         page.SaveGlobals(); // silent whatever stands there
-        const std::string told = *row.message == '\0' ? "" : "Torvik|48|";
-        EXPECT_EQ(page.blnGlobalsValid(), told.empty()) << row.message;
-        EXPECT_EQ(messages.take(), told + row.message);
-        if (told.empty())
-            continue;
-        EXPECT_TRUE(box(row.box).hasFocus()) << row.message;
-        EXPECT_EQ(box(row.box).selectedText(), box(row.box).text()) << row.message;
+        EXPECT_EQ(page.blnGlobalsValid(), message.empty());
+        EXPECT_EQ(messages.take(), message.empty() ? "" : "Torvik|48|" + message);
+        EXPECT_TRUE(message.empty() || box(wrong).hasFocus()) << message;
+        EXPECT_TRUE(message.empty() || box(wrong).selectedText() == box(wrong).text()) << message;
     }
 }
 

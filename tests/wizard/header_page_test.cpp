@@ -10,7 +10,7 @@ namespace {
 
 using Texts = std::array<const char*, 9>;
 
-class HeaderPageTest : public testing::Test {
+class HeaderPageTest : public PageTest {
 protected:
     HeaderPageTest() {
         job.drawing.gstrPlotFile = "/drawings/old.parts/Gear wheel.plt";
@@ -26,11 +26,6 @@ protected:
         page.fill();
     }
 
-    ScriptedMessages messages;
-    NoRegistry registry;
-    Logger logger;
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     HeaderPage page{workshop};
 };
 
@@ -48,28 +43,20 @@ TEST_F(HeaderPageTest, AnEmptyDateAndNameOfPartAreProposed) {
 }
 
 TEST_F(HeaderPageTest, DateDesignerNameAndMaterialMustBeFilled) {
-    struct Row {
-        Texts texts;
-        const char* asked; // empty: the page may be left
-        std::size_t box;
+    const std::tuple<Texts, std::size_t, std::string> rows[] = {
+        {{"d", "n", "", "", "p", "m", "", "", ""}, 0, ""}, // the page may be left
+        {{"", "", "", "", "", "", "", "", ""}, 0, "date"},
+        {{"d", "  ", "t", "g", "p", "m", "1", "2", "3"}, 1, "designer"},
+        {{"d", "n", "t", "g", "", "", "1", "2", "3"}, 4, "name of the part"},
+        {{"d", "n", "t", "g", "p", " ", "1", "2", "3"}, 5, "material"},
     };
-    const Row rows[] = {
-        {{"d", "n", "", "", "p", "m", "", "", ""}, "", 0},
-        {{"", "", "", "", "", "", "", "", ""}, "date", 0},
-        {{"d", "  ", "t", "g", "p", "m", "1", "2", "3"}, "designer", 1},
-        {{"d", "n", "t", "g", "", "", "1", "2", "3"}, "name of the part", 4},
-        {{"d", "n", "t", "g", "p", " ", "1", "2", "3"}, "material", 5},
-    };
-    for (const Row& row : rows) {
-        for (std::size_t i = 0; i < row.texts.size(); ++i)
-            box(i).setText(row.texts[i]);
-        EXPECT_EQ(page.blnHeaderDone(), *row.asked == '\0') << row.asked;
-        if (*row.asked == '\0')
-            continue;
+    for (const auto& [texts, wrong, asked] : rows) {
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            box(i).setText(texts[i]);
+        EXPECT_EQ(page.blnHeaderDone(), asked.empty()) << asked;
         EXPECT_EQ(messages.take(),
-                  std::string("Required information|48|Please enter the ") + row.asked);
-        EXPECT_TRUE(box(row.box).hasFocus()) << row.asked;
-        EXPECT_EQ(box(row.box).property("Tag").toString(), row.asked);
+                  asked.empty() ? "" : "Required information|48|Please enter the " + asked);
+        EXPECT_TRUE(asked.empty() || box(wrong).hasFocus()) << asked;
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/base/temporary_folder.h"
+#include "tests/support/form_walk.h"
 #include "tests/tools/ini_registry.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "tools/tool_store.h"
@@ -63,6 +64,8 @@ private:
             const auto [name, answer] = m_answers.front();
             m_answers.pop_front();
             EXPECT_EQ(dialog->objectName().toStdString(), name);
+            if (name.starts_with("frm"))
+                expectReachable(*dialog);
             QApplication::setActiveWindow(dialog);
             m_answering = dialog;
             answer(*dialog);
@@ -80,9 +83,8 @@ protected:
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "TORVIK_HOME"})
             setenv(name, folder.path().c_str(), 1);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path().c_str());
-        registry.RegistryValuePut("PLT File Path", folder.path().string());
-        registry.RegistryValuePut("CNC File Path", folder.path().string());
-        registry.RegistryValuePut("Kestra File Path", folder.path().string());
+        for (const char* setting : {"PLT File Path", "CNC File Path", "Kestra File Path"})
+            registry.RegistryValuePut(setting, folder.path().string());
         workshop.tools.gudtTools = {{7, "Slot drill", 6}, {3, "Drill", 3}, {4, "Drill", 5}};
         workshop.tools.gintToolCount = 3;
     }
@@ -94,7 +96,7 @@ protected:
 
     void start() {
         window.emplace(workshop, FrameServices{[this](int topic) { topics.push_back(topic); },
-                                               [this] { ++abouts; }, [this] { ++shutdowns; }});
+                                               [] {}, [this] { ++shutdowns; }});
         window->show();
         settle();
     }
@@ -165,11 +167,10 @@ protected:
         QTest::keyClicks(&edit, text);
     }
     std::string text(const std::string& box) { return find<QLineEdit>(box).text().toStdString(); }
-    // A label's text without the places where it may break.
-    static std::string text(const QLabel& of) {
-        return of.text().remove(QChar(0x200B)).toStdString();
+    // Without the places where it may break.
+    std::string label(const std::string& name) {
+        return find<QLabel>(name).text().remove(QChar(0x200B)).toStdString();
     }
-    std::string label(const std::string& name) { return text(find<QLabel>(name)); }
     std::string focus() {
         const QWidget* const focused = QApplication::focusWidget();
         return focused == nullptr ? "none" : focused->objectName().toStdString();
@@ -200,7 +201,6 @@ protected:
     Job& job = workshop.job;
     DialogAnswers answers;
     std::vector<int> topics;
-    int abouts = 0;
     int shutdowns = 0;
     std::optional<FrmMain> window;
 };

@@ -5,7 +5,7 @@
 namespace torvik {
 namespace {
 
-class OrderPageTest : public testing::Test {
+class OrderPageTest : public PageTest {
 protected:
     void show(std::initializer_list<int> machined) {
         SetColourDefinitions(job);
@@ -44,11 +44,6 @@ protected:
         return text;
     }
 
-    ScriptedMessages messages;
-    NoRegistry registry;
-    Logger logger;
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     OrderPage page{workshop};
 };
 

@@ -30,8 +30,6 @@ public:
     void PlotLines() override { calls += "lines "; }
     void clearPreview() override { calls += "clear "; }
     void plotBlink(const std::vector<std::int16_t>& paths, bool visible) override {
-        if (blinkFails)
-            throw RunTimeError("no picture");
         blinking = paths;
         shown = visible;
     }
@@ -49,7 +47,6 @@ public:
     std::vector<std::int16_t> blinking;
     bool shown = true;
     int interval = 0;
-    bool blinkFails = false;
 };
 
 class ScriptedMessages : public StdMessageBox {
@@ -82,7 +79,21 @@ inline constexpr const char* threePens =
     "SP1;PU0,0;PD400,0;SP2;PU400,400;CI60;PU800,400;CI100;PU1200,400;CI60;"
     "SP4;PU0,800;PD400,800;";
 
-class PenPageTest : public testing::Test {
+// What every page works on; whatever is logged as an error fails the test.
+class PageTest : public testing::Test {
+protected:
+    ~PageTest() override { EXPECT_EQ(errors, std::vector<std::string>{}); }
+
+    NotingHost host;
+    ScriptedMessages messages;
+    NoRegistry registry;
+    std::vector<std::string> errors;
+    Logger logger{{}, [this](const ErrorReport& report) { errors.push_back(report.message()); }};
+    Workshop workshop{registry, logger, messages};
+    Job& job = workshop.job;
+};
+
+class PenPageTest : public PageTest {
 protected:
     void open(const std::string& drawing = threePens) {
         job = setUpDrawing(drawing);
@@ -163,13 +174,6 @@ protected:
     }
     const ColourNode& node(std::size_t i) { return job.position.gudtColourTree.at(i); }
 
-    NotingHost host;
-    ScriptedMessages messages;
-    NoRegistry registry;
-    std::vector<std::string> errors;
-    Logger logger{{}, [this](const ErrorReport& report) { errors.push_back(report.message()); }};
-    Workshop workshop{registry, logger, messages};
-    Job& job = workshop.job;
     PenPage page{workshop, host};
 };
 
