@@ -10,6 +10,7 @@ TEST(ToolEntry, IsRefusedForTheFirstFault) {
     ToolList tools;
     tools.gudtTools = {{7, "Slot drill", 6}, {3, "Drill", 3}, {4, "Drill", 0.1F}, {9, "Reamer", 9}};
     tools.gintToolCount = 3; // the fourth was deleted
+    const char* const taken = "You already have a tool of type Drill";
     const std::string digits(39, '9');
     const std::string type(60, 't');
     const struct {
@@ -18,16 +19,10 @@ TEST(ToolEntry, IsRefusedForTheFirstFault) {
         std::int16_t place;
         const char* fault; // the message's first line, empty for none
     } rows[] = {
-        {"a number in use, as typed",
-         {"007", "Drill", "3"},
-         0,
-         "Tool number 007 is already in use"},
+        {"a number in use", {"007", "Drill", "3"}, 0, "Tool number 007 is already in use"},
         {"a deleted tool's number is free", {"9", "Reamer", "9"}, 0, ""},
-        {"typed shorter than shown",
-         {"5", "Drill", "3"},
-         0,
-         "You already have a tool of type Drill"},
-        {"no exact single", {"5", "Drill", ".1"}, 0, "You already have a tool of type Drill"},
+        {"typed shorter than shown", {"5", "Drill", "3"}, 0, taken},
+        {"no exact single", {"5", "Drill", ".1"}, 0, taken},
         {"a type in another case", {"5", "drill", "3"}, 0, ""},
         {"a tool left as it was", {"3", "Drill", "3.000"}, 2, ""},
         {"a number beyond it", {"32768", "Drill", "6"}, 0, "Tool number 32768 is too large"},
