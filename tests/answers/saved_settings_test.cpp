@@ -52,7 +52,6 @@ TEST_F(SavedSettings, OffersTheAnswersForAnUnchangedDrawingOnly) {
     const auto drawing = folder.file("Größe.plt", "SP1;PD40,40;SP2;CI40;");
     EXPECT_EQ(import(drawing).saved.outcome, SavedOutcome::none);
     EXPECT_EQ(utf8FromPath(saved / pathFromUtf8("Größe.plx")), job.answers.gstrSavedFile);
-    job.answers.gstrHeader[headerMaterial] = "Foam";
     job.answers.gsngFeedFactor = 60;
     job.answers.gudtPens[2].blnDrill = true;
     job.answers.gudtSettings[3].sngDwell = 2;
@@ -64,7 +63,6 @@ TEST_F(SavedSettings, OffersTheAnswersForAnUnchangedDrawingOnly) {
                     .ends_with("\r\n1\r\n2\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"));
 
     EXPECT_EQ(import(drawing).saved.outcome, SavedOutcome::taken);
-    EXPECT_EQ(job.answers.gstrHeader[headerMaterial], "Foam");
     EXPECT_EQ(job.answers.gstrFeedUnits, "(mm/sec)");
     EXPECT_EQ(job.answers.gudtSettings[3].sngDwell, 2);
     EXPECT_TRUE(job.answers.gblnOrderSet);
@@ -73,10 +71,8 @@ TEST_F(SavedSettings, OffersTheAnswersForAnUnchangedDrawingOnly) {
     std::ofstream(job.answers.gstrSavedFile, std::ios::app) << "garbage";
     folder.file("Größe.plt", "SP1;PD40,41;SP2;CI40;");
     EXPECT_EQ(import(drawing).saved.outcome, SavedOutcome::digestDiffers);
-    EXPECT_EQ(job.answers.gstrHeader[headerMaterial], "");
     EXPECT_FALSE(job.answers.gudtPens[2].blnDrill || job.answers.gblnSavedFound ||
                  job.answers.gblnOrderSet);
-    EXPECT_EQ(job.position.gudtColourTree.size(), 2U);
     EXPECT_FALSE(std::filesystem::exists(log));
 }
 

@@ -47,7 +47,7 @@ std::vector<std::string> goodLines() {
     return lines;
 }
 
-std::string joined(const std::vector<std::string>& lines, const std::string& lineEnd = "\r\n") {
+std::string joined(const std::vector<std::string>& lines, const char* lineEnd = "\r\n") {
     std::string text;
     for (const std::string& line : lines)
         text += line + lineEnd;
