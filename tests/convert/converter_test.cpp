@@ -81,6 +81,9 @@ TEST_F(Converter, RefusesMistakesBeforeAnythingIsWritten) {
         {"a.plt", "--target", "wincam", "--number", "1e3"},
         {"a.plt", "--target", "kestra", "--fast"},
         {"a.plt", "", "--target", "kestra"},
+        {"a.plt", "--target", "wincam", "--number", "0"},
+        {"a.plt", "--target"},
+        {"a.plt"},
         {"--target", "kestra"},
     };
     for (const auto& row : rows) {
