@@ -5,6 +5,7 @@
 #include "prepare/dialog/frm_prepare.h"
 #include "prepare/files/drawing_files.h"
 #include "tests/base/temporary_folder.h"
+#include "tests/support/form_walk.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -128,14 +129,6 @@ protected:
                        .helpContext = 20}};
 };
 
-TEST_F(FrmPrepareTest, IsEmptyUntilADrawingIsOpened) {
-    EXPECT_FALSE(canSave());
-    EXPECT_FALSE(find<QPushButton>("cmdFit").isEnabled());
-    EXPECT_EQ(label("lblSource") + label("lblBeforeCount") + label("lblState"), "");
-    find<QCheckBox>("chkArcs").click(); // nothing to prepare
-    EXPECT_FALSE(isBusy());
-}
-
 TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfterAndSavesIt) {
     struct Row {
         const char* name;
@@ -160,57 +153,44 @@ TEST_F(FrmPrepareTest, ShowsEachSampleBeforeAndAfterAndSavesIt) {
     }
 }
 
-TEST_F(FrmPrepareTest, AChangeOfAnyOptionPreparesAnewOnceItHasRested) {
+TEST_F(FrmPrepareTest, EveryOptionCountsAndPreparesAnewOnceItHasRested) {
     open("drawing.plt", square + square + "PU100,100;PD;PU;");
-    struct Row {
-        const char* what;
-        std::function<void()> change;
-        PrepareOptions options;
-    };
-    const auto number = [this](const char* name, double value) {
-        find<QDoubleSpinBox>(name).setValue(value);
+    const auto number = [this](const char* name, const char* value) {
+        auto& box = find<QDoubleSpinBox>(name);
+        box.selectAll();
+        QTest::keyClicks(&box, value); // with the point, whatever the country
     };
     PrepareOptions options;
-    options.dropDuplicates = true;
-    std::vector<Row> rows{
-        {"duplicates", [&] { find<QCheckBox>("chkDuplicates").click(); }, options}};
-    const auto then = [&](const char* what, std::function<void()> change) {
-        rows.push_back({what, std::move(change), options});
-    };
-    options.optimize = true;
-    then("order", [&] { find<QCheckBox>("chkOptimize").click(); });
-    options.scale = 2.5;
-    then("scale", [&] { number("txtScale", 2.5); });
-    options.mirror = Mirror::upDown;
-    then("mirror", [&] { find<QComboBox>("cboMirror").setCurrentIndex(2); });
-    options.rotation = 270;
-    then("rotate", [&] { find<QComboBox>("cboRotate").setCurrentIndex(3); });
-    options.origin = Point{-5, 7.5};
-    then("origin", [&] {
-        find<QCheckBox>("chkOrigin").click();
-        number("txtOriginX", -5);
-        number("txtOriginY", 7.5);
-    });
-    options.dots = 0.8;
-    then("dots", [&] {
-        find<QCheckBox>("chkDots").click();
-        number("txtDots", 0.8);
-    });
-    options.tolerance = 0.05;
-    options.roundTurn = 12;
-    then("fitting", [&] {
-        number("txtTolerance", 0.05);
-        number("txtRoundTurn", 12);
-    });
-    options.arcs = false;
-    then("no arcs", [&] { find<QCheckBox>("chkArcs").click(); });
-    for (const Row& row : rows) {
-        row.change();
-        EXPECT_FALSE(canSave()) << row.what << ": what is on show is not what was asked for";
+    const auto expectSaved = [&](const char* what) {
+        EXPECT_FALSE(canSave()) << what << ": what is on show is not what was asked for";
         state();
         saveAs(folder.path() / "out.plt");
-        EXPECT_EQ(written(folder.path() / "out.plt"), expected(row.options)) << row.what;
-    }
+        EXPECT_EQ(written(folder.path() / "out.plt"), expected(options)) << what;
+    };
+    options.optimize = options.dropDuplicates = true;
+    find<QCheckBox>("chkDuplicates").click();
+    find<QCheckBox>("chkOptimize").click();
+    options.tolerance = 0.05;
+    options.roundTurn = 12;
+    number("txtTolerance", "0.05");
+    number("txtRoundTurn", "12");
+    expectSaved("fitting and order");
+    options.scale = 2.5;
+    options.mirror = Mirror::upDown;
+    options.rotation = 270;
+    options.origin = Point{-5, 7.5};
+    options.dots = 0.8;
+    options.arcs = false;
+    number("txtScale", "2.5");
+    find<QComboBox>("cboMirror").setCurrentIndex(2);
+    find<QComboBox>("cboRotate").setCurrentIndex(3);
+    find<QCheckBox>("chkOrigin").click();
+    number("txtOriginX", "-5");
+    number("txtOriginY", "7.5");
+    find<QCheckBox>("chkDots").click();
+    number("txtDots", "0.8");
+    find<QCheckBox>("chkArcs").click();
+    expectSaved("places and dots");
     EXPECT_FALSE(find<QWidget>("txtRoundTurn").isEnabled()) << "without arcs it means nothing";
 }
 
@@ -328,53 +308,14 @@ TEST_F(FrmPrepareTest, TheNewestRunWins) {
     EXPECT_EQ(label("lblBeforeCount"), "4 elements");
 }
 
-TEST_F(FrmPrepareTest, NumbersHaveThePointWhateverTheCountry) {
-    auto& scale = find<QDoubleSpinBox>("txtScale");
-    scale.setFocus();
-    scale.selectAll();
-    QTest::keyClicks(&scale, "25.4");
-    EXPECT_EQ(scale.value(), 25.4);
-    EXPECT_EQ(find<QDoubleSpinBox>("txtTolerance").text(), "0.01 mm");
-    EXPECT_EQ(find<QDoubleSpinBox>("txtRoundTurn").text(), "24 °");
-}
-
-TEST_F(FrmPrepareTest, EveryControlIsNamedAndNoAccessKeyHasTwoMeanings) {
-    openSample("badge.hpgl");
-    std::string keys;
-    for (QWidget* const control : dialog.findChildren<QWidget*>()) {
-        const auto* const button = qobject_cast<QAbstractButton*>(control);
-        const auto* const caption = qobject_cast<QLabel*>(control);
-        const QString text = button != nullptr                                   ? button->text()
-                             : caption != nullptr && caption->buddy() != nullptr ? caption->text()
-                                                                                 : QString();
-        if (const auto at = text.indexOf('&'); at >= 0) {
-            const char letter = text[at + 1].toUpper().toLatin1();
-            EXPECT_EQ(keys.find(letter), std::string::npos) << text.toStdString();
-            keys += letter;
-        }
-        const bool isControl = qobject_cast<QAbstractSpinBox*>(control) != nullptr ||
-                               qobject_cast<QComboBox*>(control) != nullptr ||
-                               qobject_cast<QTableWidget*>(control) != nullptr ||
-                               qobject_cast<DrawingView*>(control) != nullptr;
-        const std::string name = control->objectName().toStdString();
-        EXPECT_FALSE((isControl || (button != nullptr && !text.isEmpty())) && name.empty())
-            << control->metaObject()->className();
-        EXPECT_FALSE(isControl && control->accessibleName().isEmpty()) << name;
-    }
-    EXPECT_EQ(keys.size(), 17U) << keys;
-}
-
-TEST_F(FrmPrepareTest, TheTabKeyGoesFromTheDrawingsThroughTheOptionsToTheButtons) {
+TEST_F(FrmPrepareTest, IsReachedByKeysFromTheDrawingsThroughTheOptionsToTheButtons) {
     openSample("plate.plt");
+    expectReachable(dialog);
     find<QPushButton>("cmdOpen").setFocus();
-    std::string order;
-    do {
-        const QString name = QApplication::focusWidget()->objectName();
-        order += name.mid(3).toStdString() + " ";
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    } while (QApplication::focusWidget()->objectName() != "cmdOpen" && order.size() < 500);
-    EXPECT_EQ(order, "Open Before After Fit Report Tolerance RoundTurn Arcs Duplicates Optimize "
-                     "Scale Mirror Rotate Origin Dots Pen0 Pen1 Save Close ");
+    EXPECT_EQ(tabOrder(),
+              "cmdOpen picBefore picAfter cmdFit grdReport txtTolerance txtRoundTurn chkArcs "
+              "chkDuplicates chkOptimize txtScale cboMirror cboRotate chkOrigin chkDots cboPen0 "
+              "cboPen1 cmdSave cmdClose ");
 }
 
 } // namespace

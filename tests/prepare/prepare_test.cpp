@@ -142,33 +142,6 @@ TEST_P(AnyDrawing, IsNotChangedBySecondPreparation) {
 
 INSTANTIATE_TEST_SUITE_P(Seeds, AnyDrawing, testing::Range(0U, 120U));
 
-TEST(CirclesAndArcs, CutIntoChordsComeBackAsTheyWere) {
-    RandomStrokes random(3);
-    for (int i = 0; i < 200; ++i) {
-        const Point centre{random.number(0, 8000), random.number(0, 8000)};
-        const double radius = random.number(20, 3000);
-        const bool isCircle = i % 2 == 0;
-        const double sweep = isCircle ? 360 : random.number(60, 350) * (i % 4 == 1 ? 1 : -1);
-        const int chords = static_cast<int>(std::fabs(sweep) / random.number(2, 23)) + 2;
-        Stroke stroke{1, centre + rotated({radius, 0}, random.number(0, 360)), {}};
-        const Point from = stroke.start - centre;
-        for (int k = 1; k <= chords; ++k)
-            stroke.segments.push_back(lineSegment(centre + rotated(from, sweep * k / chords)));
-        const auto result = prepareDrawing({{stroke}, {}}, {}).strokes;
-        ASSERT_EQ(result.size(), 1U) << i;
-        // An arc that begins beside the X axis has a short line before it.
-        const Segment& arc = result[0].segments.back();
-        ASSERT_LE(result[0].segments.size(), isCircle ? 1U : 2U) << i;
-        EXPECT_EQ(result[0].isCircle(), isCircle) << i;
-        EXPECT_NEAR(distance(arc.first, centre), 0, 0.05) << i;
-        EXPECT_NEAR(distance(arc.first, result[0].end()), radius, 0.05) << i;
-        EXPECT_LT(distance(result[0].end(),
-                           isCircle ? circleStroke(1, centre, radius).start : stroke.end()),
-                  0.05)
-            << i;
-    }
-}
-
 TEST(Preparing, GivesEachPenOnceInOrder) {
     EXPECT_EQ(prepared("SP3;PU0,0;PD10,0;SP1;PU5,5;CI2;SP3;PU20,0;PD30,0;SP0;").text,
               "IN;\nSP1;\nPU5,5;\nCI2;\nSP3;\nPU0,0;\nPD10,0;\nPU20,0;\nPD30,0;\nSP0;\n");
@@ -184,27 +157,6 @@ TEST(Preparing, JoinsLinesThatWereDrawnOneByOne) {
     EXPECT_EQ(prepared(drawing).text, "IN;\nSP1;\nPU0,0;\nCI1000;\nSP0;\n");
 }
 
-TEST(Preparing, PlacesDotsPensAndSizes) {
-    PrepareOptions options;
-    options.dots = 0.5;
-    options.pens = {{9, 2}};
-    options.scale = 2;
-    options.origin = Point{1, 1};
-    const auto result = prepared("SP9;PU0,0;PD100,0;PU50,50;PD;PU;", options);
-    EXPECT_EQ(result.text, "IN;\nSP2;\nPU40,40;\nPD240,40;\nPU140,140;\nCI10;\nSP0;\n");
-    EXPECT_EQ(result.report.dots, 1);
-    EXPECT_NEAR(result.report.extents.high.x, 6, 1e-9);
-    EXPECT_NEAR(result.report.cutAfter, 5 + 3.14159265 * 0.5, 1e-6);
-}
-
-TEST(Preparing, TakesDuplicatesOutOnRequest) {
-    PrepareOptions options;
-    const std::string drawing = "PD100,0,100,100,100,0;";
-    EXPECT_EQ(prepared(drawing).report.elementsAfter, 3U);
-    options.dropDuplicates = true;
-    EXPECT_EQ(prepared(drawing, options).report.elementsAfter, 2U);
-}
-
 TEST(Preparing, RefusesWhatCannotBecomeAJob) {
     const auto refusal = [](const std::string& drawing) {
         try {
@@ -217,8 +169,6 @@ TEST(Preparing, RefusesWhatCannotBecomeAJob) {
     EXPECT_EQ(refusal("IN;PU5,5;"), "the drawing holds nothing to draw");
     EXPECT_EQ(refusal("IN;PU5,5;LBtext\x03"),
               "the drawing holds nothing to draw; not carried over: texts (not drawn): 1");
-    EXPECT_EQ(refusal("PD;PU;"),
-              "the drawing holds nothing but dots; with a diameter they become circles");
     EXPECT_EQ(refusal("SP9;PD1,1"), "the drawing uses pens above 8 (9); say which pen to take for "
                                     "it, as in --pen 9=1");
     std::string many = "PD";

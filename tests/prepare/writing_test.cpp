@@ -94,12 +94,5 @@ TEST(Check, FindsWhatIsNotReadAsItWasMeant) {
     EXPECT_NE(refusal(changed("SP2;", "SP0;"), strokes), "");
 }
 
-TEST(Check, RefusesMoreElementsThanAJobTakes) {
-    Stroke stroke{1, {}, std::vector<Segment>(32768, lineSegment({1, 1}))};
-    EXPECT_EQ(refusal("", {stroke}),
-              "the prepared drawing has 32768 lines, arcs and circles, but a job takes 32767 at "
-              "most; a larger tolerance leaves fewer of them");
-}
-
 } // namespace
 } // namespace torvik

@@ -11,7 +11,6 @@ TEST(ToolEntry, IsRefusedForTheFirstFault) {
     ToolList tools;
     tools.gudtTools = {{7, "Slot drill", 6}, {3, "Drill", 3}, {4, "Drill", 0.1F}, {9, "Reamer", 9}};
     tools.gintToolCount = 3; // the fourth was deleted
-    const char* const taken = "You already have a tool of type Drill";
     const std::string digits(39, '9');
     const std::string type(60, 't');
     const struct {

@@ -77,7 +77,7 @@ TEST_F(FrmToolDataTest, DiscardedKeysLeaveAHint) {
         {"a selection is replaced by a digit", "1.250", 4, 1, "4", "1.254"},
         {"backspace passes", "1.250", 5, 0, "\b", "1.25"},
         {"a comma is no point", "1", 1, 0, ",", "1", "Use the point"},
-        {"no minus", "", 0, 0, "-", "", "Digits and the point only"},
+        {"no minus", "", 0, 0, "-", "", "Only digits and the point"},
     };
     for (const auto& row : rows) {
         diameter().setText(row.text);
