@@ -16,7 +16,7 @@ constexpr std::array<PenRow, penRowCount> cuttingRows{{
 
 constexpr std::array<PenRow, 5> drillingRows{{
     {&Settings::sngSpindleSpeed, RowUnit::rpm},
-    {&Settings::sngFeedVertical, RowUnit::feed},
+    {&Settings::sngFeedVertical, RowUnit::feed}, // of the drill
     {&Settings::sngDepth, RowUnit::millimetres},
     {&Settings::sngDwell, RowUnit::seconds, true},
     {&Settings::sngDepthPerPass, RowUnit::millimetres},
