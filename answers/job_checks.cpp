@@ -30,9 +30,12 @@ void storeHeights(const HeightTexts& texts, Answers& answers) {
 
 std::optional<HeightFault> heightFault(const HeightTexts& texts) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        const auto height = heightIn(texts[i]);
-        if (!height || leadingNumber(texts[i]) == 0)
-            return HeightFault{i, !height};
+        if (!texts[i].empty() && !isNumber(trimBlanks(texts[i])))
+            return HeightFault{i, HeightFault::Kind::notNumber};
+        if (!heightIn(texts[i]))
+            return HeightFault{i, HeightFault::Kind::tooLarge};
+        if (leadingNumber(texts[i]) == 0)
+            return HeightFault{i, HeightFault::Kind::zero};
     }
     return std::nullopt;
 }

@@ -21,8 +21,10 @@ using HeightTexts = std::array<std::string, heightFields.size()>;
 void storeHeights(const HeightTexts& texts, Answers& answers);
 
 struct HeightFault {
+    enum class Kind { zero, tooLarge, notNumber };
+
     std::size_t height; // subscript of heightFields
-    bool isTooLarge;    // else it is zero
+    Kind kind;
 };
 
 // The first height that may not stand.

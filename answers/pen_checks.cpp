@@ -2,7 +2,9 @@
 #include "answers/pen_checks.h"
 
 #include "answers/pen_values.h"
+#include "base/numbers.h"
 #include "base/picture.h"
+#include "base/text.h"
 
 #include <cmath>
 
@@ -78,6 +80,8 @@ std::optional<InputFault> inputFault(const PenBoxes& boxes, PenForm form, bool s
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (!boxes.enabled[i])
             continue;
+        if (!boxes.text[i].empty() && !isNumber(trimBlanks(boxes.text[i])))
+            return InputFault{i, PenFault::notNumber};
         const double number = boxNumber(boxes.text[i]);
         if (number < 0 && rows[i].mayBeZero)
             return InputFault{i, PenFault::negative};

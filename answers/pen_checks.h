@@ -28,6 +28,7 @@ bool allEditableFilled(const PenBoxes& boxes);
 enum class PenFault {
     zero,
     negative,
+    notNumber, // as it stands: "6.5.20"
     tooLarge,  // for the field it is stored in
     aboveOther // than another row's number, which it may not be
 };

@@ -65,6 +65,17 @@ double parsed(const char* first, const char* last) {
     return value;
 }
 
+// Takes a sign and digits off the text; how many digits they were.
+std::size_t takeWhole(std::string_view& text) {
+    if (!text.empty() && (text[0] == '-' || text[0] == '+'))
+        text.remove_prefix(1);
+    std::size_t digits = 0;
+    while (digits < text.size() && isDigit(text[digits]))
+        ++digits;
+    text.remove_prefix(digits);
+    return digits;
+}
+
 } // namespace
 
 double leadingNumber(std::string_view text) {
@@ -119,6 +130,24 @@ std::int16_t toInt16(double value) {
 
 void raiseSingleOverflow() {
     throw Overflow();
+}
+
+bool isNumber(std::string_view text) {
+    std::size_t digits = takeWhole(text);
+    if (text.empty())
+        return digits > 0;
+    if (text[0] == '.') {
+        text.remove_prefix(1);
+        while (!text.empty() && isDigit(text[0])) {
+            text.remove_prefix(1);
+            ++digits;
+        }
+    }
+    if (digits > 0 && !text.empty() && (text[0] == 'E' || text[0] == 'e')) {
+        text.remove_prefix(1);
+        digits = takeWhole(text);
+    }
+    return digits > 0 && text.empty();
 }
 
 } // namespace torvik

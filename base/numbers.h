@@ -14,6 +14,9 @@ namespace torvik {
 // Raises Overflow where the number does not fit a double.
 double leadingNumber(std::string_view text);
 
+// Whether the text is nothing but a number: a sign, digits with one point, an exponent.
+bool isNumber(std::string_view text);
+
 // Rounds half to even; raises Overflow outside -32768 to 32767.
 std::int16_t toInt16(double value);
 

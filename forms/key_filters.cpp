@@ -12,11 +12,13 @@ bool isDigit(char32_t character) {
     return character >= U'0' && character <= U'9';
 }
 
-// For a box of digits and points; `other` is for what is neither, nor a comma.
-KeyHint hintBeyondPoint(char32_t character, KeyHint other) {
-    if (isControl(character) || isDigit(character) || character == U'.')
+// For a box of digits and one point; `other` is for what is neither.
+KeyHint hintOf(char32_t character, const BoxState& box, KeyHint other) {
+    if (isControl(character) || isDigit(character))
         return KeyHint::none;
-    return character == U',' ? KeyHint::usePoint : other;
+    if (character != U'.' && character != U',')
+        return other;
+    return box.text.find('.') == std::string_view::npos ? KeyHint::none : KeyHint::pointThere;
 }
 
 } // namespace
@@ -28,22 +30,18 @@ KeyHint toolNumberHint(char32_t character, const BoxState& /*box*/) {
 KeyHint toolDiameterHint(char32_t character, const BoxState& box) {
     constexpr std::size_t mostDecimals = 3;
     const std::size_t point = box.text.find('.');
-    if (!box.hasSelection && point != std::string_view::npos) {
-        if (character == U'.')
-            return KeyHint::pointThere;
-        if (isDigit(character) && box.caret > point && box.text.size() - point > mostDecimals)
-            return KeyHint::threeDecimals;
-    }
-    return hintBeyondPoint(character, KeyHint::digitsAndPoint);
+    if (isDigit(character) && !box.hasSelection && point != std::string_view::npos &&
+        box.caret > point && box.text.size() - point > mostDecimals)
+        return KeyHint::threeDecimals;
+    return hintOf(character, box, KeyHint::digitsAndPoint);
 }
 
-KeyHint measureHint(char32_t character, const BoxState& /*box*/) {
-    return hintBeyondPoint(character, KeyHint::digitsAndPoint);
+KeyHint measureHint(char32_t character, const BoxState& box) {
+    return hintOf(character, box, KeyHint::digitsAndPoint);
 }
 
-KeyHint signedMeasureHint(char32_t character, const BoxState& /*box*/) {
-    return character == U'-' ? KeyHint::none
-                             : hintBeyondPoint(character, KeyHint::digitsPointAndMinus);
+KeyHint signedMeasureHint(char32_t character, const BoxState& box) {
+    return character == U'-' ? KeyHint::none : hintOf(character, box, KeyHint::digitsPointAndMinus);
 }
 
 } // namespace torvik

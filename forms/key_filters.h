@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which typed characters the numeric boxes take. Each filter says for a character why it is
 // discarded, or that it passes; control characters always pass.
+// A comma is a decimal point; the box writes it as such.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +9,7 @@
 
 namespace torvik {
 
-// A box at the moment of a key press.
+// A box at the moment of a key press, without what is selected and the key will replace.
 struct BoxState {
     std::string_view text;
     std::size_t caret = 0; // bytes of the text before the caret
@@ -20,7 +21,6 @@ enum class KeyHint {
     digitsOnly,
     digitsAndPoint,
     digitsPointAndMinus,
-    usePoint,      // for a comma
     pointThere,    // a second one
     threeDecimals, // and no more
 };
@@ -29,12 +29,12 @@ using KeyFilter = KeyHint (*)(char32_t character, const BoxState& box);
 
 // Digits only.
 KeyHint toolNumberHint(char32_t character, const BoxState& box);
-// Digits and one point, three digits behind it. While something is selected, which the key will
-// replace, any digit and point passes.
+// Digits and one point or comma, three digits behind it; while something is selected any digit
+// passes.
 KeyHint toolDiameterHint(char32_t character, const BoxState& box);
-// Digits and the point.
+// Digits and one point or comma.
 KeyHint measureHint(char32_t character, const BoxState& box);
-// Digits, the point and the minus sign.
+// The same, and the minus sign.
 KeyHint signedMeasureHint(char32_t character, const BoxState& box);
 
 } // namespace torvik

@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QToolTip>
 
 namespace torvik {
@@ -19,8 +20,6 @@ QString hintText(KeyHint hint) {
         return NumberBox::tr("Only digits and the point");
     case KeyHint::digitsPointAndMinus:
         return NumberBox::tr("Only digits, the point and the minus sign");
-    case KeyHint::usePoint:
-        return NumberBox::tr("Use the point");
     case KeyHint::pointThere:
         return NumberBox::tr("There is a point already");
     case KeyHint::threeDecimals:
@@ -35,15 +34,24 @@ NumberBox::NumberBox(KeyFilter filter, QWidget* parent) : QLineEdit(parent), m_f
     setInputMethodHints(Qt::ImhPreferNumbers);
     setAlignment(Qt::AlignRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& all) {
-        for (const char32_t character : all.toUcs4()) {
-            const KeyHint hint = m_filter(character, {});
-            if (hint != KeyHint::none) {
-                showHint(hint);
-                return;
-            }
+    connect(this, &QLineEdit::textEdited, this, &NumberBox::takePasted);
+}
+
+void NumberBox::takePasted(QString all) {
+    if (all.count(u',') == 1 && !all.contains(u'.') && m_filter(U',', {}) == KeyHint::none) {
+        const int cursor = cursorPosition();
+        setText(all.replace(u',', u'.'));
+        setCursorPosition(cursor);
+    }
+    for (const char32_t character : all.toUcs4()) {
+        KeyHint hint = m_filter(character, {});
+        if (character == U',' && hint == KeyHint::none)
+            hint = KeyHint::pointThere;
+        if (hint != KeyHint::none) {
+            showHint(hint);
+            return;
         }
-    });
+    }
 }
 
 QSize NumberBox::sizeHint() const {
@@ -59,6 +67,11 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
     const KeyHint hint = hintFor(event->text());
     // With Control or Alt alone a key is a command; with both it writes a third character.
     const auto command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (hint == KeyHint::none && event->text() == u',') {
+        QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), QStringLiteral("."));
+        QLineEdit::keyPressEvent(&point);
+        return;
+    }
     if (hint == KeyHint::none || command == Qt::ControlModifier) {
         QLineEdit::keyPressEvent(event);
         return;
@@ -74,7 +87,10 @@ void NumberBox::keyPressEvent(QKeyEvent* event) {
 void NumberBox::inputMethodEvent(QInputMethodEvent* event) {
     const KeyHint hint = hintFor(event->commitString());
     if (hint == KeyHint::none) {
-        QLineEdit::inputMethodEvent(event);
+        QInputMethodEvent withPoint(event->preeditString(), event->attributes());
+        withPoint.setCommitString(QString(event->commitString()).replace(u',', u'.'),
+                                  event->replacementStart(), event->replacementLength());
+        QLineEdit::inputMethodEvent(&withPoint);
         return;
     }
     QInputMethodEvent nothing;
@@ -90,9 +106,16 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
         emit left();
 }
 
+void NumberBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
+    selectAll();
+}
+
 KeyHint NumberBox::hintFor(const QString& characters) const {
-    const std::string all = text().toStdString();
-    const BoxState state{all, text().left(cursorPosition()).toStdString().size(),
+    QString rest = text();
+    if (hasSelectedText())
+        rest.remove(selectionStart(), selectionLength());
+    const std::string kept = rest.toStdString();
+    const BoxState state{kept, text().left(cursorPosition()).toStdString().size(),
                          hasSelectedText()};
     for (const char32_t character : characters.toUcs4()) {
         const KeyHint hint = m_filter(character, state);
@@ -103,7 +126,8 @@ KeyHint NumberBox::hintFor(const QString& characters) const {
 }
 
 void NumberBox::showHint(KeyHint hint) {
-    QToolTip::showText(mapToGlobal(QPoint(0, height())), hintText(hint), this);
+    // Beside the box, where no other box is covered; the system moves tips down by about a line.
+    QToolTip::showText(mapToGlobal(QPoint(width(), -height() / 2)), hintText(hint), this);
 }
 
 } // namespace torvik

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A text box for a number. It discards the keys that its filter refuses and says so in a short hint
-// at the box. Pasted text stays as it is (it is read leniently), with the same hint where a key
-// would have been discarded.
+// beside the box. A comma becomes the decimal point, also in a pasted text that has no point yet;
+// else pasted text stays as it is, with the same hint where a key would have been discarded. A
+// double click selects all of the number.
 #pragma once
 
 #include "forms/key_filters.h"
@@ -27,10 +28,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     // The hint for the first of the characters that the box would discard as it stands.
     KeyHint hintFor(const QString& characters) const;
+    // What was pasted in place of a whole text or a part of it.
+    void takePasted(QString all);
     void showHint(KeyHint hint);
 
     KeyFilter m_filter;

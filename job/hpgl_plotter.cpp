@@ -17,10 +17,6 @@ namespace {
 
 constexpr double wholeTurn = 360;
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool isLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
@@ -29,36 +25,6 @@ std::string_view withoutLastCommas(std::string_view text) {
     while (text.ends_with(','))
         text.remove_suffix(1);
     return text;
-}
-
-// Takes a sign and digits off the text; how many digits they were.
-std::size_t takeWhole(std::string_view& text) {
-    if (!text.empty() && (text[0] == '-' || text[0] == '+'))
-        text.remove_prefix(1);
-    std::size_t digits = 0;
-    while (digits < text.size() && isDigit(text[digits]))
-        ++digits;
-    text.remove_prefix(digits);
-    return digits;
-}
-
-// Nothing but a number: a sign, digits with a point, an exponent.
-bool isPlainNumber(std::string_view text) {
-    std::size_t digits = takeWhole(text);
-    if (text.empty())
-        return digits > 0;
-    if (text[0] == '.') {
-        text.remove_prefix(1);
-        while (!text.empty() && isDigit(text[0])) {
-            text.remove_prefix(1);
-            ++digits;
-        }
-    }
-    if (digits > 0 && !text.empty() && (text[0] == 'E' || text[0] == 'e')) {
-        text.remove_prefix(1);
-        digits = takeWhole(text);
-    }
-    return digits > 0 && text.empty();
 }
 
 // The first three items of a list at commas, and the rest; an item that is missing is empty.
@@ -74,7 +40,7 @@ std::array<std::string_view, 4> items(std::string_view list) {
 }
 
 bool isPlainOrEmpty(std::string_view text) {
-    return text.empty() || isPlainNumber(text);
+    return text.empty() || isNumber(text);
 }
 
 } // namespace
@@ -138,7 +104,7 @@ Reading HpglPlotter::reading() const {
 }
 
 double HpglPlotter::number(std::string_view text) {
-    expect(isPlainNumber(text));
+    expect(isNumber(text));
     return leadingNumber(text);
 }
 
@@ -149,7 +115,7 @@ float HpglPlotter::coordinate(std::string_view text) {
 void HpglPlotter::selectPen(std::string_view parameters) {
     const double pen = leadingNumber(parameters);
     const std::string_view text = withoutLastCommas(parameters);
-    expect(parameters.empty() || (isPlainNumber(text) && pen >= 0 && pen == std::trunc(pen)));
+    expect(parameters.empty() || (isNumber(text) && pen >= 0 && pen == std::trunc(pen)));
     if (pen <= 0)
         m_stopped = true;
     else
@@ -210,7 +176,7 @@ bool HpglPlotter::readPoint(std::string_view parameters, float& x, float& y) {
     }
     x = coordinate(parameters.substr(0, comma));
     const std::string_view second = parameters.substr(comma + 1);
-    expect(isPlainNumber(withoutLastCommas(second)));
+    expect(isNumber(withoutLastCommas(second)));
     y = toSingle(leadingNumber(second) / plotterUnitsPerMm);
     return true;
 }

@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "base/picture.h"
+#include "base/text.h"
 #include "tools/registry.h"
 #include "tools/tool_edits.h"
 
@@ -49,10 +50,12 @@ std::optional<ToolFault> toolFault(const ToolList& tools, const ToolEntry& entry
     const double number = numberIn(entry.number);
     if (number > std::numeric_limits<std::int16_t>::max())
         return ToolFault::numberTooLarge;
-    if (number != std::trunc(number))
+    if (number != std::trunc(number) || !isNumber(trimBlanks(entry.number)))
         return ToolFault::numberNotWhole;
     if (hasOther(tools, ownPlace, [&](const Tool& tool) { return tool.intNumber == number; }))
         return ToolFault::numberTaken;
+    if (!isNumber(trimBlanks(entry.diameter)))
+        return ToolFault::diameterNotNumber;
     const double diameter = numberIn(entry.diameter);
     if (diameter > std::numeric_limits<float>::max())
         return ToolFault::diameterTooLarge;

@@ -25,6 +25,7 @@ enum class ToolFault {
     numberTooLarge,
     numberNotWhole,
     numberTaken,
+    diameterNotNumber,
     diameterTooLarge,
     diameterNegative,
     sameTool,     // another tool has this type and diameter

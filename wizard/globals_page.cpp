@@ -45,6 +45,18 @@ constexpr std::array<Height, heightFields.size()> heights{{
                        "How far the tool comes down quickly; the rest it goes at its feed")},
 }};
 
+QString wrong(HeightFault::Kind kind) {
+    switch (kind) {
+    case HeightFault::Kind::zero:
+        break;
+    case HeightFault::Kind::tooLarge:
+        return GlobalsPage::tr("The %1 is too large a number");
+    case HeightFault::Kind::notNumber:
+        return GlobalsPage::tr("The %1 is not a number");
+    }
+    return GlobalsPage::tr("The %1 may not be zero");
+}
+
 } // namespace
 
 GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
@@ -131,10 +143,9 @@ bool GlobalsPage::blnGlobalsValid() {
             return;
         NumberBox& box = *m_heights[fault->height];
         box.selectAll();
-        const QString wrong =
-            fault->isTooLarge ? tr("The %1 is too large a number") : tr("The %1 may not be zero");
-        m_workshop.messages.intStdMsgBox(wrong.arg(tr(heights[fault->height].name)).toStdString(),
-                                         styleExclamation, usualTitle);
+        m_workshop.messages.intStdMsgBox(
+            wrong(fault->kind).arg(tr(heights[fault->height].name)).toStdString(), styleExclamation,
+            usualTitle);
         box.setFocus();
     });
     return valid;

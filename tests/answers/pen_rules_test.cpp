@@ -112,8 +112,8 @@ TEST(InputFault, IsTheFirstOne) {
     } rows[] = {
         {cutting, false, "1 1 1 3 3 - -", {}},
         {cutting, false, "0 0 1 3 1 - -", {{0, zero}}},
-        {cutting, false, "1 x 1 3 1 - -", {{1, zero}}},
-        {cutting, false, "1 1 1 . 1 - -", {{3, zero}}},
+        {cutting, false, "1 6.5.20 1 3 1 - -", {{1, notNumber}}},
+        {cutting, false, "1 1 1 0.0 1 - -", {{3, zero}}},
         {cutting, false, "1 1 1 3 1 0 -", {}},
         {cutting, false, "1 1 1 3 1 -1 5", {{5, negative}}},
         {cutting, false, "1 1 1 3 1 1 0", {{6, zero}}},
@@ -136,11 +136,12 @@ TEST(InputFault, IsTheFirstOne) {
 TEST(JobChecks, HeightsStandAndTheHeaderIsFilled) {
     const auto fault = [](const HeightTexts& texts) {
         const auto found = heightFault(texts);
-        return found ? std::to_string(found->height) + (found->isTooLarge ? " large" : " zero")
-                     : "";
+        constexpr const char* kinds[] = {" zero", " large", " no number"};
+        return found ? std::to_string(found->height) + kinds[static_cast<int>(found->kind)] : "";
     };
-    EXPECT_EQ(fault({"50", "-5", "2mm"}), "");
-    EXPECT_EQ(fault({"50", "5", "x2"}), "2 zero");
+    EXPECT_EQ(fault({"50", "-5", " 2.5"}), "");
+    EXPECT_EQ(fault({"50", "5", "2mm"}), "2 no number");
+    EXPECT_EQ(fault({"0", "5", "2"}), "0 zero");
     EXPECT_EQ(fault({"50", "1e39", ""}), "1 large");
     Answers answers;
     storeHeights({"60.5", "1e39", ""}, answers);

@@ -27,6 +27,8 @@ TEST(ToolEntry, IsRefusedForTheFirstFault) {
         {"a tool left as it was", {"3", "Drill", "3.000"}, 2, {}},
         {"a number beyond it", {"32768", "Drill", "6"}, 0, numberTooLarge},
         {"a fraction", {"6.6", "Drill", "6"}, 0, numberNotWhole},
+        {"no whole number as it stands", {"6x", "Drill", "6"}, 0, numberNotWhole},
+        {"no diameter as it stands", {"5", "Drill", "6.5.20"}, 0, diameterNotNumber},
         {"negative", {"5", "Drill", "-6"}, 0, diameterNegative},
         {"huge", {"5", "Drill", digits}, 0, diameterTooLarge},
         // The type and the rest: 1 + 1 + 60 + 1 + 5 + 1 + 9 characters, of 79 at most.

@@ -29,7 +29,7 @@ TEST_F(GlobalsPageTest, HeightsAreStoredAsTypedAndShownAsWholeMillimetres) {
     const std::tuple<const char*, float, const char*> rows[] = {
         {"50", 50, "50"},      {"2.5", 2.5F, "3"},
         {"-5.4", -5.4F, "-5"}, {"-", 0, ""}, // no number is 0, and 0 is an empty box
-        {"1,5", 15, "15"},     {"7.2.3-1", 7.2F, "7"},
+        {"1,5", 1.5F, "2"},    {"7.2.3-1", 7.23F, "7"},
     };
     float Answers::*const heights[] = {&Answers::gsngToolChangeHeight, &Answers::gsngSafeHeight,
                                        &Answers::gsngRapidDownTo};
@@ -65,7 +65,7 @@ TEST_F(GlobalsPageTest, TheFirstHeightThatIsZeroIsNamedAndSelected) {
         {{"50", "-5", "2"}, 0, ""}, // the page may be left
         {{"0", "0", "2"}, 0, "The Tool Change Height may not be zero"},
         {{"50", "0.0", "2"}, 1, "The Safe Height for Rapids may not be zero"},
-        {{"50", "5", "x"}, 2, "The Rapid Down To may not be zero"},
+        {{"50", "5", "6.5.20"}, 2, "The Rapid Down To is not a number"},
         {{"50", "1e39", "2"}, 1, "The Safe Height for Rapids is too large a number"},
     };
     for (const auto& [texts, wrong, message] : rows) {

@@ -26,6 +26,9 @@ ToolFaultText toolFaultText(ToolFault fault, const ToolEntry& entry) {
         return {
             ToolField::number, tr("Tool number"),
             tr("Tool number %1 is already in use\nPlease enter a different number").arg(number)};
+    case ToolFault::diameterNotNumber:
+        return {ToolField::diameter, tr("Tool diameter"),
+                tr("The tool diameter is not a number\nPlease enter a different diameter")};
     case ToolFault::diameterTooLarge:
         return {ToolField::diameter, tr("Tool diameter"),
                 tr("The tool diameter is too large to be stored\nPlease enter a smaller diameter")};

@@ -86,8 +86,7 @@ bool PenPage::isEditableRow(std::size_t row) const {
     const Settings& settings = job.answers.gudtSettings[job.position.gintCurrentSettings];
     if (currentPen(job).blnOmit)
         return false;
-    return row != rowPeck || currentForm(job) == PenForm::cutting || settings.blnPeck ||
-           !isInList(m_workshop.tools, settings.intTool);
+    return row != rowPeck || currentForm(job) == PenForm::cutting || settings.blnPeck;
 }
 
 PenBoxes PenPage::boxes() const {

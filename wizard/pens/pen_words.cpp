@@ -101,6 +101,8 @@ QString faultText(PenForm form, const InputFault& fault) {
         return tr("The %1 may not be zero").arg(name);
     case PenFault::negative:
         return tr("The %1 may not be negative").arg(name);
+    case PenFault::notNumber:
+        return tr("The %1 is not a number").arg(name);
     case PenFault::tooLarge:
         return tr("The %1 is too large to be stored").arg(name);
     case PenFault::aboveOther:

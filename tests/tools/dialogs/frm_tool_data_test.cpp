@@ -69,14 +69,14 @@ TEST_F(FrmToolDataTest, DiscardedKeysLeaveAHint) {
         const char* hint = "";
     } rows[] = {
         {"a point begins a number", "", 0, 0, ".5", ".5"},
-        {"a second point before the first", "1.5", 0, 0, ".", "1.5", "There is a point already"},
+        {"a second one before the first", "1.5", 0, 0, ",", "1.5", "There is a point already"},
         {"a selection is replaced by a point", "1.5", 0, 3, ".", "."},
         {"a third decimal passes, a fourth does not", "1.25", 4, 0, "45", "1.254", digits},
         {"between the decimals, too", "1.250", 2, 0, "4", "1.250", digits},
         {"just before the point it is no decimal", "1.250", 1, 0, "4", "14.250"},
         {"a selection is replaced by a digit", "1.250", 4, 1, "4", "1.254"},
         {"backspace passes", "1.250", 5, 0, "\b", "1.25"},
-        {"a comma is no point", "1", 1, 0, ",", "1", "Use the point"},
+        {"a comma is a point", "1", 1, 0, ",5", "1.5"},
         {"no minus", "", 0, 0, "-", "", "Only digits and the point"},
     };
     for (const auto& row : rows) {

@@ -65,9 +65,14 @@ TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
 
 TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     open();
-    type(0, "1.2e,3\b4");
+    type(0, "1,2e,3\b4");
     EXPECT_EQ(box(0).text(), "1.24");
-    EXPECT_EQ(QToolTip::text(), "Use the point");
+    EXPECT_EQ(QToolTip::text(), "There is a point already");
+    QTest::mouseDClick(&box(0), Qt::LeftButton);
+    EXPECT_EQ(box(0).selectedText(), "1.24");
+    box(0).deselect();
+    paste(1, "1,5");
+    EXPECT_EQ(box(1).text(), "1.5") << "never 15";
     QKeyEvent deleteKey(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f");
     box(0).setCursorPosition(0);
     QApplication::sendEvent(&box(0), &deleteKey);
@@ -115,7 +120,7 @@ TEST_F(PenPageTest, PeckingOpensAndEmptiesItsRow) {
     job.answers.gudtPens[2].blnDrill = true;
     page.ShowPen(1);
     page.ShowPen(1);
-    EXPECT_EQ(rows(), "~ ~ ~ ~ ~"); // no tool yet: open, though pecking is off
+    EXPECT_EQ(rows(), "~ ~ ~ ~ (~)"); // no pecks are asked for
     type(3, "0");
     page.SetTool(2);
     EXPECT_EQ(rows(), "~ ~ ~ 0 (~)"); // what was typed stays ...
