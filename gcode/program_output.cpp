@@ -88,11 +88,11 @@ void ProgramOutput::CommandLine(std::string_view text) {
 }
 
 void ProgramOutput::writeBlock(std::string_view line) {
-    ++gintLineNumber;
-    if (gintLineNumber > lastBlockNumber)
-        gintLineNumber = 1;
+    ++m_gintLineNumber;
+    if (m_gintLineNumber > lastBlockNumber)
+        m_gintLineNumber = 1;
     char* const out = room(BlockNumber::maxSize + line.size());
-    use(put(m_blockNumber.put(out, gintLineNumber), line));
+    use(put(m_blockNumber.put(out, m_gintLineNumber), line));
 }
 
 void ProgramOutput::flush() {

@@ -76,7 +76,7 @@ private:
     ByteSink& m_sink;
     std::string m_buffer; // of fixed size, filled up to m_used
     std::size_t m_used = 0;
-    std::int16_t gintLineNumber = 0; // the last block number written, 1 to 9999
+    std::int16_t m_gintLineNumber = 0; // the last block number written, 1 to 9999
     BlockNumber m_blockNumber;
     bool m_failed = false;
 };
