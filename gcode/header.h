@@ -18,8 +18,8 @@ class ProgramOutput;
 bool WriteHeader(const Job& job, const ToolList& tools, std::string_view opener,
                  std::string_view closer, ProgramOutput& output, Logger& logger);
 
-// Writes the trimmed header value with that index, 0 to 8, between the labelled opener and unit plus
-// closer, unless it is empty.
+// Writes the trimmed header value with that index, 0 to 8, between the labelled opener and unit
+// plus closer, unless it is empty.
 void HeaderLine(const Job& job, std::string_view labelledOpener, std::string_view unit,
                 std::string_view closer, std::int16_t index, ProgramOutput& output);
 

@@ -27,7 +27,7 @@ TEST(WriteFile, BeginsEachProgramAnew) {
 
 TEST(WriteFile, ReportsAFailureOnce) {
     // The buffer of the output is filled by the second and flushed at the end by the first.
-    for (const std::size_t nameLength : {0, 300000})
+    for (const std::size_t nameLength : {std::size_t{0}, std::size_t{300000}})
         for (const std::int16_t target : {targetWinNc, targetMaskor}) {
             JobToWrite work("SP1;");
             work.job.answers.gstrHeader[headerPartName] = std::string(nameLength, 'x');
