@@ -5,6 +5,7 @@
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
 #include "base/text.h"
+#include "forms/comment_box.h"
 #include "forms/dialog_places.h"
 #include "forms/form_fields.h"
 #include "wizard/host/workshop.h"
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QToolTip>
 
 namespace torvik {
 namespace {
@@ -44,21 +44,6 @@ QString trimmed(const QLineEdit& box) {
     return QString::fromStdString(std::string(trimBlanks(box.text().toStdString())));
 }
 
-// A round bracket would end the comment that the value stands in.
-void replaceBrackets(QLineEdit& box) {
-    QString text = box.text();
-    if (!text.contains(u'(') && !text.contains(u')'))
-        return;
-    const int cursor = box.cursorPosition();
-    text.replace(u'(', u'[').replace(u')', u']');
-    box.setText(text);
-    box.setCursorPosition(cursor);
-    QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())),
-                       HeaderPage::tr("Round brackets would end a comment in the program, so they "
-                                      "are written as [ and ]"),
-                       &box);
-}
-
 } // namespace
 
 HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
@@ -78,7 +63,7 @@ HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
             addFormRow(*form, i, tr(field.caption), box, QString::fromUtf8(field.unit), helpHeader);
         if (needed)
             caption->setText(caption->text() + QStringLiteral(" *"));
-        connect(box, &QLineEdit::textEdited, box, [box] { replaceBrackets(*box); });
+        keepCommentWhole(*box);
         m_boxes[static_cast<std::size_t>(i)] = box;
     }
     auto* const note = new QLabel(tr("* must be filled"));
@@ -101,7 +86,7 @@ void HeaderPage::fill() {
         m_boxes[headerPartName]->setText(
             QString::fromStdString(proposedPartName(job.drawing.gstrPlotFile)));
     for (QLineEdit* const box : m_boxes)
-        replaceBrackets(*box);
+        mendComment(*box);
     for (QLineEdit* const box : m_boxes) {
         if (trimmed(*box).isEmpty()) {
             box->setFocus();

@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "base/std_message_box.h"
 #include "base/text.h"
+#include "forms/comment_box.h"
 #include "forms/dialog_places.h"
 #include "tools/dialogs/type_lists.h"
 #include "tools/tool_edits.h"
@@ -120,6 +121,7 @@ void FrmToolType::buildControls() {
     auto* const all = static_cast<QVBoxLayout*>(layout());
     all->addLayout(edits);
     all->addLayout(ends);
+    keepCommentWhole(*m_name);
     connect(m_name, &QLineEdit::textChanged, this, &FrmToolType::nameChanged);
     connect(m_add, &QPushButton::clicked, this, &FrmToolType::addType);
     connect(m_delete, &QPushButton::clicked, this, &FrmToolType::deleteType);
