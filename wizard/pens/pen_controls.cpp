@@ -21,6 +21,8 @@ namespace {
 
 const QColor grey(192, 192, 192);
 const QColor paleCyan(192, 255, 255);
+const QColor darkRed(176, 0, 32);
+const QColor brightRed(255, 138, 128);
 
 constexpr int widestContent = 80; // letters
 constexpr int columnCaption = 0;
@@ -124,6 +126,9 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.cmdTool->setAutoDefault(false);
     grid->addWidget(controls.cmdTool, 1, static_cast<int>(toolLabelTexts.size()));
     layout.addWidget(controls.toolPanel);
+    controls.toolNote = makeWrappedLabel(page, "lblToolNote");
+    controls.toolNote->hide();
+    layout.addWidget(controls.toolNote);
 }
 
 void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
@@ -242,6 +247,15 @@ void setToolLabel(const PenControls& controls, std::size_t label, const QString&
     controls.toolLabels[label]->setToolTip(
         text.isEmpty() ? tr(about.tip)
                        : QString("<span>%1: %2</span>").arg(tr(about.tip), text.toHtmlEscaped()));
+}
+
+void setToolNote(const PenControls& controls, const QString& text) {
+    QPalette palette; // an empty one follows the system's
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    palette.setColor(QPalette::WindowText, isDark ? brightRed : darkRed);
+    controls.toolNote->setPalette(palette);
+    controls.toolNote->setText(text);
+    controls.toolNote->setVisible(!text.isEmpty());
 }
 
 void colourToolLabels(const PenControls& controls, bool leftOut) {

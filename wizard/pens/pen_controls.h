@@ -33,6 +33,7 @@ struct PenControls {
     QWidget* toolPanel = nullptr; // holds the labels and the button
     std::array<QLabel*, 3> toolLabels{};
     QPushButton* cmdTool = nullptr;
+    QLabel* toolNote = nullptr; // a warning about the tool, hidden where there is none
 
     std::array<QLabel*, penRowCount> lblDet{};
     std::array<NumberBox*, penRowCount> txtDet{};
@@ -52,6 +53,9 @@ void showPenRows(const PenControls& controls, PenForm form, std::string_view fee
 void openBox(NumberBox& box, bool open);
 
 void setToolLabel(const PenControls& controls, std::size_t label, const QString& text);
+
+// Shows the warning below the tool; an empty one hides it.
+void setToolNote(const PenControls& controls, const QString& text);
 
 // The tool labels' colour: grey on the page of a left-out pen, pale cyan otherwise.
 void colourToolLabels(const PenControls& controls, bool leftOut);

@@ -93,6 +93,7 @@ private:
     void writeBoxes(const PenBoxes& state);
     void keepTypedZeros(PenTexts& texts) const;
     void focusFirstEmptyBox();
+    QString toolNote() const;
     void refuse(const InputFault& fault);
     void select(int choice);
 

@@ -6,6 +6,7 @@
 #include "forms/help_key.h"
 #include "forms/number_box.h"
 #include "wizard/pens/pen_page.h"
+#include "wizard/pens/pen_words.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -159,8 +160,11 @@ void PenPage::cancelledTool() {
         m_controls.cmdTool->setEnabled(true);
     } else {
         select(leaveOut);
-        if (!circles)
-            SetCut(leaveOut);
+        if (circles)
+            return;
+        SetCut(leaveOut);
+        setToolNote(m_controls,
+                    tr("No tool was chosen, so the %1 are left out").arg(pageSubjectText(job)));
     }
 }
 

@@ -70,6 +70,21 @@ void PenPage::showTool() {
     }
     for (std::size_t i = 0; i < texts.size(); ++i)
         setToolLabel(m_controls, i, QString::fromStdString(texts[i]));
+    setToolNote(m_controls, toolNote());
+}
+
+// A tool that does not fit its hole stays chosen where the user said so, but not without a word.
+QString PenPage::toolNote() const {
+    const Job& job = m_workshop.job;
+    const Settings& settings = currentSettings(job);
+    if (!asksForDetails() || !isInList(m_workshop.tools, settings.intTool))
+        return {};
+    const float diameter = toolAt(m_workshop.tools, settings.intTool).sngDiameter;
+    if (!toolMissesHole(job, diameter))
+        return {};
+    return tr("Not the right size: %1 mm for a %2 mm hole")
+        .arg(QString::fromStdString(formatFixed(diameter, 2)),
+             QString::fromStdString(formatFixed(holeDiameter(job), 2)));
 }
 
 // A box that shows nothing because its number is zero keeps the zero that the user typed.
