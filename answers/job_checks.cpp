@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "answers/job_checks.h"
 
-#include "base/errors.h"
+#include "answers/pen_values.h"
+#include "answers/saved_answers.h"
 #include "base/numbers.h"
 #include "base/text.h"
+
+#include <cmath>
 
 namespace torvik {
 namespace {
@@ -11,38 +14,30 @@ namespace {
 constexpr float perMinute = 1;
 constexpr float perSecond = 60;
 
-// None where the number does not fit the field.
-std::optional<float> heightIn(const std::string& text) {
-    try {
-        return toSingle(leadingNumber(text));
-    } catch (const Overflow&) {
-        return std::nullopt;
-    }
-}
-
 } // namespace
 
 void storeHeights(const HeightTexts& texts, Answers& answers) {
     for (std::size_t i = 0; i < texts.size(); ++i)
-        if (const auto height = heightIn(texts[i]))
-            answers.*heightFields[i] = *height;
+        if (const double height = boxNumber(texts[i]); std::isfinite(height))
+            answers.*heightFields[i] = toSingle(height);
 }
 
 std::optional<HeightFault> heightFault(const HeightTexts& texts) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (!texts[i].empty() && !isNumber(trimBlanks(texts[i])))
             return HeightFault{i, HeightFault::Kind::notNumber};
-        if (!heightIn(texts[i]))
+        const double height = boxNumber(texts[i]);
+        if (!std::isfinite(height))
             return HeightFault{i, HeightFault::Kind::tooLarge};
-        if (leadingNumber(texts[i]) == 0)
+        if (height == 0)
             return HeightFault{i, HeightFault::Kind::zero};
     }
     return std::nullopt;
 }
 
 void chooseFeedUnits(bool isMinute, Answers& answers) {
-    answers.gstrFeedUnits = isMinute ? "(mm/min)" : "(mm/sec)";
     answers.gsngFeedFactor = isMinute ? perMinute : perSecond;
+    answers.gstrFeedUnits = feedUnits(answers.gsngFeedFactor);
 }
 
 bool isPerMinute(const Answers& answers) {

@@ -39,13 +39,13 @@ void takePen(Job& job, const SavedPen& saved) {
         job.answers.gudtSettings[++group] = hole.settings;
 }
 
+} // namespace
+
 std::string feedUnits(float factor) {
     if (factor == 0)
         return {};
     return factor == 1 ? "(mm/min)" : "(mm/sec)";
 }
-
-} // namespace
 
 SavedAnswers answersShape(const Job& job) {
     SavedAnswers shape;

@@ -11,6 +11,9 @@ struct Job;
 struct ToolList;
 class Logger;
 
+// The units of feeds as pages show them, by the feed factor; none where it was not chosen.
+std::string feedUnits(float factor);
+
 // The drawing's used pens, with their circles and circle sizes and no answers.
 SavedAnswers answersShape(const Job& job);
 

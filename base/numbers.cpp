@@ -65,17 +65,6 @@ double parsed(const char* first, const char* last) {
     return value;
 }
 
-// Takes a sign and digits off the text; how many digits they were.
-std::size_t takeWhole(std::string_view& text) {
-    if (!text.empty() && (text[0] == '-' || text[0] == '+'))
-        text.remove_prefix(1);
-    std::size_t digits = 0;
-    while (digits < text.size() && isDigit(text[digits]))
-        ++digits;
-    text.remove_prefix(digits);
-    return digits;
-}
-
 } // namespace
 
 double leadingNumber(std::string_view text) {
@@ -133,21 +122,21 @@ void raiseSingleOverflow() {
 }
 
 bool isNumber(std::string_view text) {
-    std::size_t digits = takeWhole(text);
-    if (text.empty())
-        return digits > 0;
-    if (text[0] == '.') {
-        text.remove_prefix(1);
-        while (!text.empty() && isDigit(text[0])) {
-            text.remove_prefix(1);
-            ++digits;
-        }
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    if (at != end && (*at == '-' || *at == '+'))
+        ++at;
+    const char* const whole = at;
+    at = skipDigits(at, end);
+    auto digits = at - whole;
+    if (at != end && *at == '.') {
+        const char* const fraction = at + 1;
+        at = skipDigits(fraction, end);
+        digits += at - fraction;
     }
-    if (digits > 0 && !text.empty() && (text[0] == 'E' || text[0] == 'e')) {
-        text.remove_prefix(1);
-        digits = takeWhole(text);
-    }
-    return digits > 0 && text.empty();
+    if (at != end && (*at == 'E' || *at == 'e'))
+        at = skipExponent(at, end);
+    return digits > 0 && at == end;
 }
 
 } // namespace torvik

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/comment_box.h"
 
+#include "forms/side_hint.h"
+
 #include <QCoreApplication>
 #include <QLineEdit>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -27,12 +28,10 @@ void mendComment(QLineEdit& box) {
     box.setText(text);
     box.setCursorPosition(cursor);
     if (hasBrackets)
-        QToolTip::showText(
-            box.mapToGlobal(QPoint(box.width(), -box.height() / 2)),
-            QCoreApplication::translate("CommentBox",
-                                        "Round brackets would end a comment in the program, so "
-                                        "they are written as [ and ]"),
-            &box);
+        showHintBeside(box, QCoreApplication::translate(
+                                "CommentBox",
+                                "Round brackets would end a comment in the program, so they are "
+                                "written as [ and ]"));
 }
 
 } // namespace torvik

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/number_box.h"
 
+#include "forms/side_hint.h"
+
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QToolTip>
 
 namespace torvik {
 namespace {
@@ -126,8 +127,7 @@ KeyHint NumberBox::hintFor(const QString& characters) const {
 }
 
 void NumberBox::showHint(KeyHint hint) {
-    // Beside the box, where no other box is covered; the system moves tips down by about a line.
-    QToolTip::showText(mapToGlobal(QPoint(width(), -height() / 2)), hintText(hint), this);
+    showHintBeside(*this, hintText(hint));
 }
 
 } // namespace torvik

@@ -21,8 +21,7 @@ public:
         bool connected;    // it starts where the cut before it ends
     };
 
-    // Takes the lines and arcs among the paths; paths of other kinds are passed over. Stores
-    // centre minus start in the arcs' sngOffsetI and sngOffsetJ.
+    // Takes the lines and arcs among the paths; paths of other kinds are passed over.
     CutWords(const Drawing& drawing, const PathSubscripts& paths, std::string_view feedWord);
 
     // Puts another feed at the end of every statement.

@@ -23,7 +23,7 @@ enum class WriteOutcome {
 };
 
 // Writes the program for the target code to the file, replacing any of that name, and the text
-// file beside it where the target has one. Restarts the job's line counter. `number` is the
+// file beside it where the target has one. `number` is the
 // program number of the targets that have one, 1 to 32767.
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
                        std::int16_t number, const std::filesystem::path& file, Logger& logger);

@@ -13,13 +13,13 @@
 
 namespace torvik {
 
-// The set-up of a drawing, the blinking and the picture take circles up to the tolerance apart as
-// one size.
+// The set-up of a drawing and the blinking take circles up to the tolerance apart as one size.
 inline bool isSameSize(float radius, float size) {
     return singleDistance(radius, size) <= radiusTolerance;
 }
 
-// The program drills at a size only the circles that lie within less than the tolerance of it.
+// The program drills at a size only the circles that lie within less than the tolerance of it; the
+// picture shows the same.
 inline bool isDrilledAt(float radius, float size) {
     return singleDistance(radius, size) < radiusTolerance;
 }

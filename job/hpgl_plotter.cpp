@@ -4,6 +4,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "job/arc_geometry.h"
+#include "job/characters.h"
 #include "job/hpgl_reader.h"
 #include "job/job.h"
 #include "job/plotter_language.h"
@@ -16,10 +17,6 @@ namespace torvik {
 namespace {
 
 constexpr double wholeTurn = 360;
-
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 std::string_view withoutLastCommas(std::string_view text) {
     while (text.ends_with(','))

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "job/plotter_language.h"
 
+#include "job/characters.h"
+
 #include <algorithm>
 
 namespace torvik {
 namespace {
-
-constexpr char escape = '\x1b';
-constexpr std::string_view jobLine = "@PJL"; // said to a printer
 
 // Pairs of letters.
 constexpr std::string_view thatDraw = "PUPDPAPRPEAAARATRTBZBRCIEAEREWRARRWGXTYTPMEPFPLBPBUC";
@@ -20,18 +19,6 @@ bool holds(std::string_view pairs, Mnemonic mnemonic) {
         if (pairs[i] == mnemonic[0] && pairs[i + 1] == mnemonic[1])
             return true;
     return false;
-}
-
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-char toCapital(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-bool isSeparator(char c) {
-    return (static_cast<unsigned char>(c) <= ' ' && c != escape) || c == ',';
 }
 
 // What stands behind blanks, and behind the escapes that reset a printer (E) or enter its drawing
@@ -64,7 +51,7 @@ Effect effectOf(Mnemonic mnemonic) {
 
 bool isLoss(std::string_view passedOver) {
     const std::string_view text = withoutLead(passedOver);
-    if (text.starts_with(jobLine) || text.starts_with(escape))
+    if (text.starts_with(jobLineMark) || text.starts_with(escape))
         return false;
     if (text.size() < 2 || !isLetter(text[0]) || !isLetter(text[1]))
         // Numbers may belong to the line before.

@@ -42,6 +42,12 @@ void bringCornerTo(std::vector<Stroke>& strokes, Point corner) {
         movePoints(strokes, [&](Point p) { return p + shift; });
 }
 
+// Nothing would be left of such a circle when it is written.
+bool isPoint(const Stroke& stroke) {
+    return stroke.isDot() ||
+           (stroke.isCircle() && toGrid(distance(stroke.segments[0].first, stroke.start)) == 0);
+}
+
 } // namespace
 
 void place(std::vector<Stroke>& strokes, const Placement& placement) {
@@ -82,16 +88,6 @@ void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {
                        (tooHigh.size() == 1 ? "it" : "each") + ", as in --pen " +
                        std::to_string(*tooHigh.begin()) + "=1");
 }
-
-namespace {
-
-// Nothing would be left of such a circle when it is written.
-bool isPoint(const Stroke& stroke) {
-    return stroke.isDot() ||
-           (stroke.isCircle() && toGrid(distance(stroke.segments[0].first, stroke.start)) == 0);
-}
-
-} // namespace
 
 long replaceDots(std::vector<Stroke>& strokes, std::optional<double> diameter) {
     long count = 0;

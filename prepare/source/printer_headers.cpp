@@ -2,7 +2,7 @@
 // The half of the scanner that passes over what is meant for a printer or for a plotter's
 // interface.
 #include "base/numbers.h"
-#include "prepare/source/characters.h"
+#include "job/characters.h"
 #include "prepare/source/scanner.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "prepare/source/scanner.h"
 
 #include "base/numbers.h"
-#include "prepare/source/characters.h"
+#include "job/characters.h"
 
 #include <algorithm>
 #include <charconv>
