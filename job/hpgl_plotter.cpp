@@ -86,8 +86,10 @@ void HpglPlotter::passOver(std::string_view part) {
         ++m_reading.lost;
     else
         ++m_reading.harmless;
-    if (part.starts_with("IN"))
+    if (isInitialize(part)) {
         m_isElsewhere = m_isElsewhere || m_x != 0 || m_y != 0;
+        m_penDown = false;
+    }
     m_reading.isPlain = m_reading.isPlain && (part == "IN" || isLastMove);
 }
 
@@ -145,7 +147,7 @@ void HpglPlotter::drawArc(std::string_view parameters) {
     GetEndPoint(path, sweep, m_logger);
     expect(isPlainOrEmpty(rest) && !m_isElsewhere && path.sngRadius != 0 && written != 0 &&
            std::fabs(written) <= wholeTurn);
-    if (!m_penDown)
+    if (!m_penDown && m_asWritten)
         ++m_arcsWithPenUp;
     append(path);
 }

@@ -49,6 +49,11 @@ Effect effectOf(Mnemonic mnemonic) {
     return holds(thatPlace, mnemonic) ? Effect::places : Effect::nothing;
 }
 
+bool isInitialize(std::string_view passedOver) {
+    const std::string_view text = withoutLead(passedOver);
+    return text.size() >= 2 && toCapital(text[0]) == 'I' && toCapital(text[1]) == 'N';
+}
+
 bool isLoss(std::string_view passedOver) {
     const std::string_view text = withoutLead(passedOver);
     if (text.starts_with(jobLineMark) || text.starts_with(escape))

@@ -26,4 +26,7 @@ Effect effectOf(Mnemonic mnemonic);
 // that printers want said before a drawing.
 bool isLoss(std::string_view passedOver);
 
+// True for IN in any spelling: a plotter lifts its pen and goes back to the origin.
+bool isInitialize(std::string_view passedOver);
+
 } // namespace torvik

@@ -121,6 +121,8 @@ TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
         {"units and labels are lost, their resets are not", "SC0,1,0,1;SC;LBtext;RO90;IP;", 3, 2,
          false},
         {"nothing is read after the pen is put away", "SP0;PU0,0;PD1,1;CI5;SP1;", 2, 2, false},
+        {"a return to the origin behind a blank", "SP1;PU4,4;PD8,4; IN 1\nAA4,4,9;", 1, 1, false},
+        {"a return to the origin lifts the pen", "SP1;PD4,0;PD0,0;VS5;IN;AA4,0,9;", 1, 2, false},
         {"a last move that hides an instruction", "SP0;SP 4CI200;PU 1;", 1, 1, false},
         {"lines end in all three ways", "PU0,0\rPE<=;\nEA1,1\r\nVS1", 2, 1, false},
         {"unknown ones do no harm that can be told", "QQ1;;,;?", 0, 2, false},
