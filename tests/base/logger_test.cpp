@@ -59,6 +59,18 @@ TEST_F(LoggerTest, TheSwitchesChooseWhatIsLogged) {
     EXPECT_EQ(reports.size(), 1U) << "an error that is not logged is still reported";
 }
 
+TEST_F(LoggerTest, EqualMessagesAreCountedAndAFullLogIsPutAside) {
+    for (int i = 0; i < 120; ++i)
+        logger.logError("A", "mod", "x");
+    logger.logError("A", "mod", "y");
+    EXPECT_EQ(logged(), "error A (mod): x\nerror A (mod): x (10 times in a row)\n"
+                        "error A (mod): x (100 times in a row)\nerror A (mod): y\n");
+    folder.file("torvik.log", std::string(1'000'000, 'x'));
+    logger.logError("A", "mod", "z");
+    EXPECT_EQ(logged(), "error A (mod): z\n");
+    EXPECT_EQ(std::filesystem::file_size(folder.path() / "torvik.log.old"), 1'000'000U);
+}
+
 TEST_F(LoggerTest, ALogThatCannotBeWrittenStopsNobody) {
     Logger elsewhere(folder.path() / "missing" / "torvik.log");
     EXPECT_FALSE(withErrorTrap(elsewhere, {"A", "mod"}, [] { throw Overflow(); }));
