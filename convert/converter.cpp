@@ -95,12 +95,17 @@ private:
             refuseOverwritingInput(sideTextPath(output), job);
         if (m_options.outputFolder)
             makeFolder(*m_options.outputFolder);
-        const bool overwrite = m_options.force || m_options.output.has_value();
         if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
-                               overwrite, m_logger))
+                               overwriting(), m_logger))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
         if (!m_options.quiet)
             m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+    }
+
+    Overwriting overwriting() const {
+        if (m_options.force)
+            return Overwriting::everything;
+        return m_options.output ? Overwriting::programNamed : Overwriting::nothing;
     }
 
     // The tool library is read once, with the first drawing that needs it.
