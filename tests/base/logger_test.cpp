@@ -39,6 +39,14 @@ TEST_F(LoggerTest, ATrappedErrorIsLoggedAndReportedWithItsLocation) {
                         "error sngArcCos (modHpgl): a number was divided by zero\n");
 }
 
+TEST_F(LoggerTest, TheEndOfTheMemoryIsSaidInPlainWordsAndOfTheFile) {
+    EXPECT_FALSE(withErrorTrap(logger, {"A", "mod"},
+                               [] { namingFile("a.plt", [] { throw std::bad_alloc(); }); }));
+    EXPECT_FALSE(withErrorTrap(logger, {"A", "mod"}, [] { throw std::bad_alloc(); }));
+    EXPECT_EQ(logged(), "error A (mod): a.plt: there is not enough memory\n"
+                        "error A (mod): there is not enough memory\n");
+}
+
 TEST_F(LoggerTest, TheSwitchesChooseWhatIsLogged) {
     const auto logAll = [this] {
         logger.logError("A", "mod", "x");

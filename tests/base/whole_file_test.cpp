@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/files.h"
+#include "base/stop_signals.h"
 #include "base/whole_file.h"
 #include "tests/base/temporary_folder.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace torvik {
 namespace {
@@ -60,6 +64,23 @@ TEST_F(WholeFileTest, OnlyOldLeftOversOfItsOwnGo) {
                                                        std::chrono::hours(name == young ? 23 : 25));
     saveWhole(target, "new");
     EXPECT_EQ(files(), (Files{{"a.txt", "new"}, {young, ""}, {foreign, ""}, {second, ""}}));
+}
+
+TEST_F(WholeFileTest, AStopRemovesWhatIsPendingAfterWhatMustNotBeCut) {
+    const pid_t program = fork();
+    if (program == 0) {
+        tidyUpWhenStopped();
+        const PendingName pending(target, ".new");
+        folder.file(pending.path().filename().string(), "half");
+        const StopWaits untilTheEnd;
+        std::raise(SIGTERM);
+        folder.file("a.txt", "saved");
+        return; // not as far as that
+    }
+    int status = 0;
+    waitpid(program, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_EQ(files(), (Files{{"a.txt", "saved"}}));
 }
 
 TEST_F(WholeFileTest, ALinkLeadsToTheFile) {
