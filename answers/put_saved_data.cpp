@@ -4,7 +4,6 @@
 #include "answers/saved_answers.h"
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
-#include "base/errors.h"
 #include "base/files.h"
 #include "base/whole_file.h"
 #include "job/job.h"
@@ -13,11 +12,7 @@ namespace torvik {
 bool PutSavedData(const Job& job, const ToolList& tools, const std::filesystem::path& folder,
                   Logger& logger) {
     return withErrorTrap(logger, {"PutSavedData", "modHpgl"}, [&] {
-        std::error_code error;
-        std::filesystem::create_directories(folder, error);
-        if (error)
-            throw FileError(utf8FromPath(folder),
-                            "the folder cannot be created: " + error.message());
+        makeFolder(folder);
         saveWhole(folder / pathFromUtf8(savedFileName(job.drawing.gstrPlotFile)),
                   formatAnswers(answersOfJob(job, tools)));
     });

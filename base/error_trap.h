@@ -2,6 +2,7 @@
 // The one error trap: whoever must go on after a run-time error runs its work inside it.
 #pragma once
 
+#include "base/errors.h"
 #include "base/logger.h"
 
 #include <exception>
@@ -24,7 +25,7 @@ bool withErrorTrap(Logger& logger, Location at, Work&& work) {
         std::forward<Work>(work)();
         return true;
     } catch (const std::exception& error) {
-        logger.reportError(at.procedure, at.module, error.what());
+        logger.reportError(at.procedure, at.module, causeOf(error));
     }
     return false;
 }
@@ -36,7 +37,7 @@ bool withQuietErrorTrap(Logger& logger, Location at, Work&& work) {
         std::forward<Work>(work)();
         return true;
     } catch (const std::exception& error) {
-        logger.logError(at.procedure, at.module, error.what());
+        logger.logError(at.procedure, at.module, causeOf(error));
     }
     return false;
 }

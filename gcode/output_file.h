@@ -15,16 +15,17 @@ struct Job;
 struct ToolList;
 class ByteSink;
 class Logger;
+class WholeFile;
 
 enum class WriteOutcome {
     written,
     notOpened, // the program's file cannot be opened for writing; logged only
-    failed,    // logged and reported; what was written stays
+    failed,    // logged and reported; no file has changed
 };
 
 // Writes the program for the target code to the file, replacing any of that name, and the text
-// file beside it where the target has one. `number` is the
-// program number of the targets that have one, 1 to 32767.
+// file beside it where the target has one: both or none. `number` is the program number of the
+// targets that have one, 1 to 32767.
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
                        std::int16_t number, const std::filesystem::path& file, Logger& logger);
 
@@ -38,6 +39,12 @@ bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
 // header.
 bool writeSideText(const Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger);
+
+// Gives a program that is written to its end, and the text beside it where the target has one,
+// their names: both or none. `file` is the program's name. False where the text's header failed and
+// that was reported. Raises FileError.
+bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  const std::filesystem::path& file, WholeFile& program, Logger& logger);
 
 // The program's name with ".txt" behind it.
 std::filesystem::path sideTextPath(const std::filesystem::path& program);

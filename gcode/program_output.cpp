@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "gcode/program_output.h"
 
-#include "base/errors.h"
-#include "base/files.h"
 #include "base/picture.h"
 
 #include <array>
 #include <bit>
-#include <cerrno>
 #include <cstring>
-#include <utility>
 
 namespace torvik {
 namespace {
@@ -24,32 +20,6 @@ char* put(char* out, std::string_view text) {
 }
 
 } // namespace
-
-FileSink::FileSink(const std::filesystem::path& file) : m_name(utf8FromPath(file)) {
-    // The lines are gathered in large pieces already.
-    m_file.rdbuf()->pubsetbuf(nullptr, 0);
-    errno = 0;
-    m_file.open(file, std::ios::binary | std::ios::trunc);
-    if (!m_file)
-        fail("the file cannot be opened for writing: ");
-}
-
-void FileSink::write(std::string_view bytes) {
-    errno = 0;
-    if (!m_file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
-        fail("the file cannot be written: ");
-}
-
-void FileSink::close() {
-    errno = 0;
-    m_file.close();
-    if (!m_file)
-        fail("the file cannot be written to its end: ");
-}
-
-void FileSink::fail(const char* what) {
-    throw FileError(m_name, what + systemErrorText());
-}
 
 char* BlockNumber::put(char* out, std::int16_t number) {
     if (number == m_number + 1 && m_number != m_lastOfTen) {
