@@ -12,7 +12,7 @@ namespace torvik {
 namespace {
 
 SavedGroup savedGroup(const Settings& settings, const ToolList& tools) {
-    const bool hasTool = settings.intTool > 0;
+    const bool hasTool = isInList(tools, settings.intTool);
     return {hasTool ? toolAt(tools, settings.intTool).intNumber : std::int16_t{0}, settings};
 }
 

@@ -8,4 +8,7 @@ namespace torvik {
 // without one.
 inline constexpr const char* helpContextProperty = "helpContext";
 
+// The topic of the tool list, and of what leads to it.
+inline constexpr int helpTools = 60;
+
 } // namespace torvik

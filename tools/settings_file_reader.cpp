@@ -28,10 +28,21 @@ SettingsFileReader::SettingsFileReader(const std::filesystem::path& file, IfUnre
 
 std::string SettingsFileReader::strRegistryValueGet(std::string_view name,
                                                     std::string_view defaultText) const {
+    const auto text = wholeText(name);
+    return text && text->size() <= maxValueBytes ? *text : std::string(defaultText);
+}
+
+std::optional<std::string> SettingsFileReader::wholeText(std::string_view name) const {
     const auto value = m_text.values().find(name);
-    return value != m_text.values().end() && value->second.size() <= maxValueBytes
-               ? value->second
-               : std::string(defaultText);
+    return value != m_text.values().end() ? std::optional(value->second) : std::nullopt;
+}
+
+std::string settingsText(const std::filesystem::path& file) {
+    std::error_code error;
+    // Only what is known not to be there is empty: a look that fails tells nothing.
+    if (std::filesystem::status(file, error).type() == std::filesystem::file_type::not_found)
+        return {};
+    return readWholeFile(file, maxSettingsBytes);
 }
 
 std::filesystem::path userSettingsFile() {

@@ -21,6 +21,7 @@ public:
 
     std::string strRegistryValueGet(std::string_view name,
                                     std::string_view defaultText) const override;
+    std::optional<std::string> wholeText(std::string_view name) const override;
 
 private:
     IniText m_text;
@@ -29,6 +30,10 @@ private:
 // The section of a settings file that is ours, and the largest file that is read.
 inline constexpr std::string_view settingsSection = "Maskor";
 inline constexpr std::size_t maxSettingsBytes = std::size_t{16} << 20;
+
+// The text of a settings file, empty where there is none. Raises FileError where it cannot be read
+// or is too large.
+std::string settingsText(const std::filesystem::path& file);
 
 // Baltrum/Maskor.ini in the user's configuration folder.
 std::filesystem::path userSettingsFile();

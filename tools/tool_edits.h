@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Changes to the lists of tools and of the users' types, in memory. A list of tools that was not
-// loaded to its end is not changed in length: the places that are missing would be lost.
+// Changes to the lists of tools and of the users' types, in memory. Places count from 1.
 #pragma once
 
 #include "tools/tool_list.h"
@@ -11,11 +10,10 @@
 
 namespace torvik {
 
-// Puts the tool behind the last one. Raises Overflow for more than 32767 tools and InvalidCall for
-// a list that was not loaded to its end.
+// Puts the tool behind the last one. Raises Overflow for more than 32767 tools.
 void addTool(ToolList& tools, Tool tool);
 // Takes the tool at the place, 1 to gintToolCount, out; later ones move down by one place and the
-// array keeps its size. Raises SubscriptOutOfRange for another place, InvalidCall as addTool.
+// array keeps its size. Raises SubscriptOutOfRange for another place.
 void deleteTool(ToolList& tools, std::int16_t place);
 
 // Whether a tool of the list has exactly this type.

@@ -2,10 +2,9 @@
 #include "tools/tool_entry.h"
 
 #include "base/numbers.h"
-#include "base/picture.h"
 #include "base/text.h"
 #include "tools/registry.h"
-#include "tools/tool_edits.h"
+#include "tools/tool_record.h"
 
 #include <cmath>
 #include <limits>
@@ -24,17 +23,14 @@ double numberIn(const std::string& text) {
 
 // A longer record could be written but not read again.
 bool fitsRecord(const Tool& tool) {
-    constexpr std::size_t separators = 3;
-    return formatInteger(tool.intNumber).size() + tool.strType.size() +
-               formatFixed(tool.sngDiameter, 3).size() + formatFixed(tool.sngReserved, 3).size() +
-               separators <=
-           Registry::maxValueBytes;
+    return recordOf(tool).size() <= Registry::maxValueBytes;
 }
 
 template <typename Match>
 bool hasOther(const ToolList& tools, std::int16_t ownPlace, Match match) {
-    for (int place = 1; place <= loadedToolCount(tools); ++place)
-        if (place != ownPlace && match(tools.gudtTools[place]))
+    for (int place = 1; place <= tools.gintToolCount; ++place)
+        if (place != ownPlace && !tools.gudtTools[place].strUnreadable &&
+            match(tools.gudtTools[place]))
             return true;
     return false;
 }

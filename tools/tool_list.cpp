@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tools/tool_list.h"
 
-#include <algorithm>
-
 namespace torvik {
 
-std::int16_t loadedToolCount(const ToolList& tools) {
-    const auto loaded = std::min<std::ptrdiff_t>(tools.gintToolCount, tools.gudtTools.count());
-    return static_cast<std::int16_t>(std::max<std::ptrdiff_t>(loaded, 0));
-}
-
 bool isInList(const ToolList& tools, std::int16_t place) {
-    return place >= 1 && place <= loadedToolCount(tools);
+    return place >= 1 && place <= tools.gintToolCount && !tools.gudtTools[place].strUnreadable;
 }
 
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
-    if (number == 0) // a record that could not be read has it
+    if (number == 0) // a place without a tool has it
         return 0;
     for (int place = 1; place <= tools.gintToolCount; ++place)
         if (tools.gudtTools[place].intNumber == number)
@@ -26,7 +19,10 @@ std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
 const Tool& toolAt(const ToolList& tools, std::int16_t place) {
     if (place > tools.gintToolCount) // a deleted tool's place is still in the array
         throw SubscriptOutOfRange(place, 1, tools.gintToolCount);
-    return tools.gudtTools[place];
+    const Tool& tool = tools.gudtTools[place];
+    if (tool.strUnreadable)
+        throw InvalidCall("the record of this tool cannot be read");
+    return tool;
 }
 
 } // namespace torvik

@@ -2,93 +2,146 @@
 #include "tools/tool_store.h"
 
 #include "base/error_trap.h"
-#include "base/numbers.h"
 #include "base/picture.h"
+#include "tools/stored_entries.h"
+#include "tools/tool_merge.h"
+#include "tools/tool_record.h"
 
 namespace torvik {
 namespace {
 
 constexpr std::string_view module = "modHpgl";
-constexpr char separator = '|';
+constexpr std::string_view toolCount = "ToolCount";
+constexpr std::string_view toolKind = "Tool";
+constexpr std::string_view typeCount = "ToolTypes";
+constexpr std::string_view typeKind = "ToolType";
 
-std::string entryName(std::string_view kind, int position) {
-    return std::string(kind) + formatInteger(position, 2);
+bool isReadableLength(const std::string& text) {
+    return text.size() <= RegistryReader::maxValueBytes;
 }
 
-std::int16_t readCount(const RegistryReader& registry, std::string_view name) {
-    return toInt16(leadingNumber(registry.strRegistryValueGet(name, "0")));
+// What a reading makes of a stored text; the fault says why it is no tool.
+Tool readTool(std::optional<std::string> text, std::string& fault) {
+    try {
+        return toolOfRecord(text && isReadableLength(*text) ? *text : "");
+    } catch (const RunTimeError& error) {
+        fault = error.what();
+        Tool none;
+        none.strUnreadable = std::move(text).value_or("");
+        return none;
+    }
 }
 
-// Takes the part before the first separator off the text.
-std::string_view takeField(std::string_view& text) {
-    const auto end = text.find(separator);
-    if (end == std::string_view::npos)
-        throw InvalidCall(
-            "the tool's record is missing, too long, or lacks one of its three \"|\"");
-    const std::string_view field = text.substr(0, end);
-    text.remove_prefix(end + 1);
-    return field;
+struct StoredTools {
+    OneBasedArray<Tool> tools;
+    std::string fault; // of the count and the records, empty for none
+};
+
+std::string recordsFault(const std::string& first, int count) {
+    if (count == 1)
+        return first + ". Edit or delete it in the tool list";
+    return first + "; " + formatInteger(count) +
+           " tools in all cannot be read. Edit or delete them in the tool list";
 }
 
-// Fills the tool field by field, so that those before a broken one keep what was read.
-void readRecord(Tool& tool, std::string_view record) {
-    tool.intNumber = toInt16(leadingNumber(takeField(record)));
-    tool.strType = takeField(record);
-    tool.sngDiameter = toSingle(leadingNumber(takeField(record)));
-    tool.sngReserved = toSingle(leadingNumber(record));
+StoredTools readTools(const RegistryReader& registry) {
+    StoredEntries entries = readEntries(registry, toolCount, toolKind);
+    StoredTools stored;
+    std::string first;
+    int unreadable = 0;
+    for (auto& text : entries.texts) {
+        std::string fault;
+        stored.tools.append(readTool(std::move(text), fault));
+        if (!fault.empty() && ++unreadable == 1)
+            first = entryName(toolKind, static_cast<int>(stored.tools.count())) + ": " + fault;
+    }
+    stored.fault = std::move(entries.fault);
+    if (unreadable > 0)
+        stored.fault += (stored.fault.empty() ? "" : ". ") + recordsFault(first, unreadable);
+    return stored;
 }
 
-std::string recordOf(const Tool& tool) {
-    return formatInteger(tool.intNumber) + separator + tool.strType + separator +
-           formatFixed(tool.sngDiameter, 3) + separator + formatFixed(tool.sngReserved, 3);
+std::vector<std::string> typesOf(const StoredEntries& entries) {
+    std::vector<std::string> types;
+    for (const auto& text : entries.texts)
+        types.push_back(text && isReadableLength(*text) ? *text : "");
+    return types;
+}
+
+// A record that could not be read is written only where its place has changed.
+void putTools(const ToolList& tools, Registry& registry, bool isOpen) {
+    registry.RegistryValuePut(toolCount, formatInteger(tools.gintToolCount));
+    for (int place = 1; place <= tools.gintToolCount; ++place) {
+        const Tool& tool = tools.gudtTools[place];
+        const std::string name = entryName(toolKind, place);
+        if (!tool.strUnreadable ||
+            (isOpen && registry.wholeText(name).value_or("") != *tool.strUnreadable))
+            registry.RegistryValuePut(name, recordOf(tool));
+    }
+}
+
+// The list as the next reading will find it: a "|" in a type shifts the fields.
+OneBasedArray<Tool> asStored(const ToolList& tools) {
+    OneBasedArray<Tool> stored;
+    std::string fault;
+    for (int place = 1; place <= tools.gintToolCount; ++place)
+        stored.append(readTool(recordOf(tools.gudtTools[place]), fault));
+    return stored;
 }
 
 } // namespace
 
 void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logger) {
-    withErrorTrap(logger, {"ToolDataLoad", module}, [&] {
-        tools.gudtTools.erase();
-        tools.gintToolCount = 0;
-        tools.gintToolCount = readCount(registry, "ToolCount");
-        // Grown one by one: a damaged count must not cost memory for tools that are not there.
-        for (int i = 1; i <= tools.gintToolCount; ++i) {
-            tools.gudtTools.append({0, {}, 0, 0});
-            const std::string name = entryName("Tool", i);
-            try {
-                readRecord(tools.gudtTools[i], registry.strRegistryValueGet(name, ""));
-            } catch (const RunTimeError& error) {
-                throw RunTimeError(name + ": " + error.what());
-            }
-        }
+    constexpr std::string_view procedure = "ToolDataLoad";
+    withErrorTrap(logger, {procedure, module}, [&] {
+        StoredTools stored = readTools(registry);
+        tools.gudtTools = std::move(stored.tools);
+        tools.gintToolCount = static_cast<std::int16_t>(tools.gudtTools.count());
+        tools.storedTools = recordsByTool(tools.gudtTools);
+        if (!stored.fault.empty())
+            logger.reportError(procedure, module, stored.fault);
     });
 }
 
-void ToolDataSave(const ToolList& tools, Registry& registry, Logger& logger) {
+std::vector<std::int16_t> ToolDataSave(ToolList& tools, Registry& registry, Logger& logger) {
+    std::vector<std::int16_t> overruled;
+    tools.toolsUnsaved = true;
     withErrorTrap(logger, {"ToolDataSave", module}, [&] {
-        const Registry::Batch together(registry);
-        registry.RegistryValuePut("ToolCount", formatInteger(tools.gintToolCount));
-        for (int i = 1; i <= tools.gintToolCount; ++i)
-            registry.RegistryValuePut(entryName("Tool", i), recordOf(tools.gudtTools[i]));
+        Registry::Batch together(registry);
+        if (together.isOpen())
+            overruled = takeOverTools(tools, readTools(registry).tools);
+        putTools(tools, registry, together.isOpen());
+        tools.toolsUnsaved = !together.save();
+        if (!tools.toolsUnsaved)
+            tools.storedTools = recordsByTool(asStored(tools));
     });
+    return overruled;
 }
 
 void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger) {
-    withErrorTrap(logger, {"ToolTypeUserLoad", module}, [&] {
+    constexpr std::string_view procedure = "ToolTypeUserLoad";
+    withErrorTrap(logger, {procedure, module}, [&] {
+        const StoredEntries entries = readEntries(registry, typeCount, typeKind);
         tools.gstrUserToolTypes.erase();
-        tools.gintUserToolTypeCount = 0;
-        tools.gintUserToolTypeCount = readCount(registry, "ToolTypes");
-        for (int i = 1; i <= tools.gintUserToolTypeCount; ++i)
-            tools.gstrUserToolTypes.append(
-                registry.strRegistryValueGet(entryName("ToolType", i), ""));
+        for (std::string& type : typesOf(entries))
+            tools.gstrUserToolTypes.append(std::move(type));
+        tools.gintUserToolTypeCount = static_cast<std::int16_t>(tools.gstrUserToolTypes.count());
+        tools.storedTypes = {tools.gstrUserToolTypes.begin(), tools.gstrUserToolTypes.end()};
+        if (!entries.fault.empty())
+            logger.reportError(procedure, module, entries.fault);
     });
 }
 
-void ToolTypeUserSave(const ToolList& tools, Registry& registry, Logger& logger) {
+void ToolTypeUserSave(ToolList& tools, Registry& registry, Logger& logger) {
+    tools.typesUnsaved = true;
     withErrorTrap(logger, {"ToolTypeUserSave", module}, [&] {
-        const Registry::Batch together(registry);
-        registry.RegistryValuePut("ToolTypes", formatInteger(tools.gintUserToolTypeCount));
-        for (int i = 1; i <= tools.gintUserToolTypeCount; ++i)
-            registry.RegistryValuePut(entryName("ToolType", i), tools.gstrUserToolTypes[i]);
+        Registry::Batch together(registry);
+        if (together.isOpen())
+            takeOverTypes(tools, typesOf(readEntries(registry, typeCount, typeKind)));
+        registry.RegistryValuePut(typeCount, formatInteger(tools.gintUserToolTypeCount));
+        for (int place = 1; place <= tools.gintUserToolTypeCount; ++place)
+            registry.RegistryValuePut(entryName(typeKind, place), tools.gstrUserToolTypes[place]);
+        tools.typesUnsaved = !together.save();
     });
 }
 

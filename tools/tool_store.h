@@ -9,20 +9,24 @@
 #include "tools/registry.h"
 #include "tools/tool_list.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace torvik {
 
 // Replaces gudtTools and gintToolCount. A record without its three "|", or with a number too large
-// for its field, stops the loading: the earlier tools stay, gudtTools ends with the record that
-// failed, and gintToolCount keeps the count that was read. A count outside 16 bits empties the
-// list.
+// for its field, leaves a place without a tool; all such records are reported at once. What cannot
+// be read at all leaves the list as it was.
 void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);
 
-// Writes the count and every tool. Records above the count are left as they are. A place that the
-// loading did not reach stops the saving there.
-void ToolDataSave(const ToolList& tools, Registry& registry, Logger& logger);
+// Writes the count and every tool, after the changes of other copies of the program were taken over
+// (tool_merge.h); answers the numbers of the tools that both changed, ours being saved. Records
+// above the count, and those that could not be read and have not moved, are left as they are. Where
+// the saving fails, toolsUnsaved says so.
+std::vector<std::int16_t> ToolDataSave(ToolList& tools, Registry& registry, Logger& logger);
 
 // The same for gstrUserToolTypes, whose texts have no separators.
 void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);
-void ToolTypeUserSave(const ToolList& tools, Registry& registry, Logger& logger);
+void ToolTypeUserSave(ToolList& tools, Registry& registry, Logger& logger);
 
 } // namespace torvik

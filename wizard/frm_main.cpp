@@ -16,6 +16,7 @@
 #include "wizard/pens/pen_page.h"
 #include "wizard/skipped_line.h"
 #include "wizard/start_page.h"
+#include "wizard/status_lines.h"
 #include "wizard/step_list.h"
 
 #include <QApplication>
@@ -72,7 +73,7 @@ bool isPlotFile(const QString& name) {
 
 FrmMain::FrmMain(Workshop& workshop, FrameServices services)
     : m_workshop(workshop), m_services(std::move(services)), m_driver(workshop, m_controls, *this),
-      m_skipped(new SkippedLine(workshop, *statusBar())),
+      m_lines(new StatusLines(*statusBar())), m_skipped(new SkippedLine(workshop, *m_lines)),
       m_opener(workshop, m_driver, *m_skipped, *this) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QString::fromUtf8(usualTitle));
@@ -81,6 +82,7 @@ FrmMain::FrmMain(Workshop& workshop, FrameServices services)
     new MainMenu(*this, *m_controls.tree);
     connect(&m_driver, &WizardDriver::drawingWanted, this, [this] { ReadFile(); });
     connect(&m_driver, &WizardDriver::drawingLeft, m_skipped, [this] { m_skipped->show(0); });
+    connect(&m_driver, &WizardDriver::toolsUnsaved, m_lines, &StatusLines::showToolsUnsaved);
     connect(&m_driver, &WizardDriver::endWanted, this, &FrmMain::end);
     connect(m_skipped, &SkippedLine::drawingPrepared, this,
             [this](const std::filesystem::path& drawing) { ReadFile(drawing); });

@@ -18,6 +18,7 @@ class QKeyEvent;
 namespace torvik {
 
 class SkippedLine;
+class StatusLines;
 
 class FrmMain : public QMainWindow {
     Q_OBJECT
@@ -65,6 +66,7 @@ private:
     FrameServices m_services;
     MainControls m_controls;
     WizardDriver m_driver;
+    StatusLines* m_lines;
     SkippedLine* m_skipped;
     DrawingOpener m_opener;
     bool m_closing = false;

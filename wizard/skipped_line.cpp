@@ -8,10 +8,10 @@
 #include "wizard/later.h"
 #include "wizard/output/file_dialogs.h"
 #include "wizard/pens/pen_controls.h"
+#include "wizard/status_lines.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QStatusBar>
 #include <QStyle>
 
 namespace torvik {
@@ -25,16 +25,13 @@ QString named(const std::filesystem::path& path) {
 
 } // namespace
 
-SkippedLine::SkippedLine(Workshop& workshop, QStatusBar& bar) : m_workshop(workshop), m_bar(bar) {
+SkippedLine::SkippedLine(Workshop& workshop, StatusLines& lines) : m_workshop(workshop) {
     buildButton();
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_skipped);
     layout->addStretch(1);
-    bar.setObjectName(QStringLiteral("staMain"));
-    bar.setSizeGripEnabled(false);
-    bar.addPermanentWidget(this, 1); // which no passing message covers
-    show(0);
+    lines.addLine(*this);
 }
 
 void SkippedLine::buildButton() {
@@ -85,7 +82,7 @@ void SkippedLine::show(long instructions) {
                   .arg(instructions);
     m_skipped->setText(text);
     m_skipped->setAccessibleName(text);
-    m_bar.setVisible(instructions > 0);
+    setVisible(instructions > 0);
 }
 
 } // namespace torvik

@@ -10,17 +10,18 @@
 #include <filesystem>
 
 class QPushButton;
-class QStatusBar;
 
 namespace torvik {
+
+class StatusLines;
 
 class SkippedLine : public QWidget {
     Q_OBJECT
 
 public:
-    SkippedLine(Workshop& workshop, QStatusBar& bar);
+    SkippedLine(Workshop& workshop, StatusLines& lines);
 
-    // Says how many instructions were not read; 0 hides the status bar.
+    // Says how many instructions were not read; 0 hides the line.
     void show(long instructions);
     // Opens the dialog with the drawing that is named (dropped) or else the one that is open.
     void PrepareDrawing(const std::filesystem::path& source = {});
@@ -33,7 +34,6 @@ private:
     void buildButton();
 
     Workshop& m_workshop;
-    QStatusBar& m_bar;
     QPushButton* m_skipped = nullptr;
 };
 

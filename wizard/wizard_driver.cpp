@@ -183,6 +183,7 @@ void WizardDriver::selectTool() {
         dialog.setToolTitle(m_controls.pens->strToolTitle());
         dialog.placeBeside(*m_controls.pens);
         dialog.exec();
+        emit toolsUnsaved(m_workshop.tools.toolsUnsaved || m_workshop.tools.typesUnsaved);
         const std::int16_t chosen = dialog.chosenPosition();
         if (dialog.hasDeleted())
             warnOfToolChanges(before, chosen);

@@ -49,6 +49,8 @@ signals:
     void drawingWanted();
     // The start page is shown: what was said of the drawing before holds no longer.
     void drawingLeft();
+    // Whether the tools of the workshop, or their types, could not be saved.
+    void toolsUnsaved(bool unsaved);
     // The user ends the program after a program was written.
     void endWanted();
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "base/errors.h"
 #include "base/files.h"
 #include "tests/base/temporary_folder.h"
 #include "tools/settings/open_registry.h"
 #include "tools/settings/settings_file_registry.h"
+#include "tools/tool_edits.h"
+#include "tools/tool_store.h"
 
 #include <QtCore/QLockFile>
 #include <QtCore/QSysInfo>
@@ -65,14 +68,11 @@ TEST(SettingsFile, StoresABatchAtItsEnd) {
     const TemporaryFolder folder;
     const auto file = folder.file("Maskor.ini", "; mine\n[Maskor]\nA=1\n[Other]\nB=2\n");
     SettingsFileRegistry registry(file);
-    {
-        const Registry::Batch outer(registry);
-        { const Registry::Batch inner(registry); }
-        registry.RegistryValuePut("A", "one");
-        registry.RegistryValuePut("C", " \n");
-        EXPECT_EQ(registry.strRegistryValueGet("A", ""), "one");
-        EXPECT_EQ(contentOf(file), "; mine\n[Maskor]\nA=1\n[Other]\nB=2\n");
-    }
+    Registry::Batch together(registry);
+    registry.RegistryValuePut("A", "one");
+    registry.RegistryValuePut("C", " \n");
+    EXPECT_EQ(contentOf(file), "; mine\n[Maskor]\nA=1\n[Other]\nB=2\n");
+    EXPECT_TRUE(together.save());
     EXPECT_EQ(contentOf(file), "; mine\n[Maskor]\nA=one\nC=\"  \"\n[Other]\nB=2\n");
 }
 
@@ -95,41 +95,72 @@ TEST(SettingsFile, SeesAndKeepsWhatAnotherProgramWrites) {
     EXPECT_GT(std::filesystem::last_write_time(file), before);
 }
 
-TEST(SettingsFile, LosesNoValueOfTwoProgramsThatWriteAtOnce) {
+TEST(SettingsFile, LosesNoValueAndNoToolOfTwoProgramsThatWriteAtOnce) {
     const TemporaryFolder folder;
     const auto file = folder.path() / "Maskor.ini";
-    const auto writer = [&](const std::string& name) {
-        return startProgram([&file, name] {
+    const auto writer = [&](std::int16_t first) {
+        return startProgram([&file, first] {
             SettingsFileRegistry registry(file);
-            for (int i = 1; i <= 9; ++i)
-                for (const char* part : {"x", "y", "z"})
-                    registry.RegistryValuePut(name + part, std::to_string(i));
+            Logger logger;
+            ToolList tools;
+            for (std::int16_t i = 0; i < 9; ++i) {
+                registry.RegistryValuePut("Last" + std::to_string(first), std::to_string(i));
+                addTool(tools, {static_cast<std::int16_t>(first + i), "Drill", 5});
+                ToolDataSave(tools, registry, logger);
+            }
         });
     };
-    const pid_t first = writer("A");
-    const pid_t second = writer("B");
-    EXPECT_TRUE(endsWell(first));
-    EXPECT_TRUE(endsWell(second));
+    const pid_t one = writer(1);
+    const pid_t ten = writer(10);
+    EXPECT_TRUE(endsWell(one));
+    EXPECT_TRUE(endsWell(ten));
     const SettingsFileRegistry registry(file);
-    for (const char* name : {"Ax", "Az", "Bx", "Bz"})
-        EXPECT_EQ(registry.strRegistryValueGet(name, ""), "9") << name;
+    EXPECT_EQ(registry.strRegistryValueGet("Last1", "") +
+                  registry.strRegistryValueGet("Last10", ""),
+              "88");
+    ToolList tools;
+    Logger logger;
+    ToolDataLoad(tools, registry, logger);
+    EXPECT_EQ(tools.gintToolCount, 18);
+    for (std::int16_t number = 1; number <= 18; ++number)
+        EXPECT_NE(intToolGetId(tools, number), 0) << number;
 }
 
-TEST(SettingsFile, LeavesTheOldFileWhereTheDiskIsFull) {
-    const TemporaryFolder folder;
-    const std::string old = "[Maskor]\nA=1\n;" + std::string(4000, 'x') + "\n";
-    const auto file = folder.file("Maskor.ini", old);
+TEST(SettingsFile, ForgetsASaveThatFailedButForThisProgram) {
+    const std::string filler = ";" + std::string(4000, 'x') + "\n";
+    const std::string newer = "[Maskor]\nA=newer\n" + filler;
+    std::signal(SIGXFSZ, SIG_IGN);
     // Too little room for the lock, and for the lock but not for the file.
     for (const rlim_t room : {rlim_t{10}, rlim_t{1000}}) {
-        EXPECT_TRUE(endsWell(startProgram([&] {
-            std::signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit{room, room};
-            setrlimit(RLIMIT_FSIZE, &limit);
-            SettingsFileRegistry(file).RegistryValuePut("A", "2");
-        })));
-        EXPECT_EQ(contentOf(file), old);
+        const TemporaryFolder folder;
+        const auto file = folder.file("Maskor.ini", "[Maskor]\nA=1\n" + filler);
+        SettingsFileRegistry registry(file);
+        const rlimit limit{room, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        EXPECT_FALSE(registry.RegistryValuePut("A", "2"));
+        const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &none);
+        EXPECT_EQ(contentOf(file), "[Maskor]\nA=1\n" + filler);
         EXPECT_FALSE(std::filesystem::exists(folder.path() / "Maskor.ini.lock"));
+        folder.file("Maskor.ini", newer);
+        EXPECT_EQ(registry.strRegistryValueGet("A", ""), "2");
+        EXPECT_EQ(registry.wholeText("B"), std::nullopt);
+        EXPECT_EQ(contentOf(file), newer);
+        EXPECT_TRUE(registry.RegistryValuePut("B", "3"));
+        EXPECT_EQ(contentOf(file), newer + "B=3\n");
     }
+}
+
+TEST(SettingsFile, TakesAFileThatNobodyCanLookAtForNoEmptyOne) {
+    const TemporaryFolder folder;
+    const auto file = folder.path() / "Maskor.ini";
+    std::filesystem::create_symlink(file, file); // leads round in a circle
+    SettingsFileRegistry registry(file);
+    EXPECT_EQ(registry.strRegistryValueGet("A", "default"), "default");
+    EXPECT_THROW(registry.wholeText("A"), FileError);
+    EXPECT_FALSE(Registry::Batch(registry).isOpen());
+    EXPECT_FALSE(registry.RegistryValuePut("A", "2"));
+    EXPECT_TRUE(std::filesystem::is_symlink(file));
 }
 
 TEST(SettingsFile, NeverWritesAFileThatItCannotReadWhole) {
@@ -170,7 +201,7 @@ TEST(SettingsFile, IsHeldNoLongerThanTwoSecondsByALockLeftBehind) {
     }
 }
 
-TEST(SettingsFile, DropsAWriteWhoseLockARunningProgramKeeps) {
+TEST(SettingsFile, GivesUpAWriteWhoseLockARunningProgramKeeps) {
     const TemporaryFolder folder;
     const auto file = folder.file("Maskor.ini", "[Maskor]\nA=1\n");
     SettingsFileRegistry registry(file);
@@ -180,7 +211,6 @@ TEST(SettingsFile, DropsAWriteWhoseLockARunningProgramKeeps) {
         const auto start = Clock::now();
         registry.RegistryValuePut("A", "2");
         EXPECT_LT(Clock::now() - start, 3s);
-        EXPECT_EQ(registry.strRegistryValueGet("A", ""), "1");
     }
     registry.RegistryValuePut("B", "3");
     EXPECT_EQ(contentOf(file), "[Maskor]\nA=1\nB=3\n");

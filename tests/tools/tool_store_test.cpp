@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/tools/ini_registry.h"
+#include "tools/tool_edits.h"
 #include "tools/tool_store.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace torvik {
@@ -24,39 +26,41 @@ struct Workshop {
     Logger logger;
 };
 
-TEST(ToolStore, LoadsWhatItCanAndReportsTheRest) {
+TEST(ToolStore, LoadsWhatItCanAndReportsTheRestOnce) {
     const struct {
         const char* name;
         std::string entries;
-        int count;
         std::string tools;
         const char* error; // a part of the report; empty for none
     } cases[] = {
-        {"no entries give an empty list", "", 0, "", ""},
+        {"no entries give an empty list", "", "", ""},
         {"numbers are leading numbers, types are kept as they are",
-         "ToolCount=1 tool\nTool01= 2.5x| End  mill | 3mm|x", 1,
-         "(2  End  mill  3.000000 0.000000)", ""},
+         "ToolCount=1 tool\nTool01= 2.5x| End  mill | 3mm|x", "(2  End  mill  3.000000 0.000000)",
+         ""},
         {"a \"|\" in the type shifts the fields", "ToolCount=1\nTool01=4|Drill|2 lips|6.000|-2000",
-         1, "(4 Drill 2.000000 6.000000)", ""},
-        {"a record without separators stops the loading",
-         "ToolCount=3\nTool01=1|Drill|5|0\nTool02=Drill\nTool03=3|Drill|5|0", 3,
-         "(1 Drill 5.000000 0.000000)(0  0.000000 0.000000)", "ToolDataLoad (modHpgl):\nTool02: "},
-        {"a record with two of the three separators keeps the fields before",
-         "ToolCount=1\nTool01=7|Drill|5.000", 1, "(7 Drill 0.000000 0.000000)", "Tool01: "},
-        {"a number outside 16 bits", "ToolCount=1\nTool01=32768|Drill|5|0", 1,
-         "(0  0.000000 0.000000)", "Tool01: "},
-        {"a count outside 16 bits", "ToolCount=32768\nTool01=1|Drill|5|0", 0, "",
-         "ToolDataLoad (modHpgl):"},
+         "(4 Drill 2.000000 6.000000)", ""},
+        {"a record that cannot be read is no tool, and the others are",
+         "ToolCount=4\nTool01=2|Drill|5\nTool02=32768|Drill|5|0\nTool04=3|Drill|5|0",
+         "[2|Drill|5][32768|Drill|5|0][](3 Drill 5.000000 0.000000)",
+         "ToolDataLoad (modHpgl):\nTool01: the tool's record is missing, too long, or lacks one of "
+         "its three \"|\"; 3 tools in all cannot be read"},
+        {"a record that is too long", "ToolCount=1\nTool01=1|" + std::string(70, 'x') + "|5|-2000",
+         "[1|" + std::string(70, 'x') + "|5|-2000]", "Tool01: "},
+        {"a count below 0", "ToolCount=-3\nTool02=2|Drill|5|0", "[](2 Drill 5.000000 0.000000)",
+         "ToolCount is \"-3\", but 2 entries are stored; these are used. Tool01: "},
+        {"a count that no list has", "ToolCount=99999\nTool01=1|Drill|5|0",
+         "(1 Drill 5.000000 0.000000)", "ToolCount is \"99999\", but 1 entries"},
+        {"a count far behind the last tool", "ToolCount=22\nTool01=1|Drill|5|0",
+         "(1 Drill 5.000000 0.000000)", "ToolCount is \"22\""},
     };
     for (const auto& row : cases) {
         Workshop shop(row.entries);
         shop.tools.gudtTools.append({9, "old", 1, 1});
-        shop.tools.gintToolCount = 1;
         ToolDataLoad(shop.tools, shop.registry, shop.logger);
-        EXPECT_EQ(shop.tools.gintToolCount, row.count) << row.name;
+        EXPECT_EQ(shop.tools.gintToolCount, shop.tools.gudtTools.count()) << row.name;
         std::string tools;
         for (const Tool& tool : shop.tools.gudtTools)
-            tools += inBrackets(tool);
+            tools += tool.strUnreadable ? "[" + *tool.strUnreadable + "]" : inBrackets(tool);
         EXPECT_EQ(tools, row.tools) << row.name;
         EXPECT_NE(shop.error.find(row.error), std::string::npos) << row.name << shop.error;
         EXPECT_EQ(shop.error.empty(), *row.error == '\0') << row.name << shop.error;
@@ -88,15 +92,104 @@ TEST(ToolStore, FindsTheHundredthToolAndNoneWithZero) {
     EXPECT_EQ(shop.error, "");
 }
 
-TEST(ToolStore, RaisesForAPlaceThatTheLoadingDidNotReach) {
-    Workshop shop("ToolCount=4\nTool01=1|Drill|5|0\nTool02=x\nTool04=4|End mill|6|0");
+TEST(ToolStore, LeavesARecordThatCannotBeReadAndMovesItWithItsPlace) {
+    Workshop shop("ToolCount=3\nTool01=1|Drill|5|0\nTool02 = 2||0.000\nTool03=3|Drill|6|0\n");
     ToolDataLoad(shop.tools, shop.registry, shop.logger);
-    EXPECT_EQ(intToolGetId(shop.tools, 1), 1);
-    EXPECT_THROW(intToolGetId(shop.tools, 4), SubscriptOutOfRange);
-    EXPECT_THROW(toolAt(shop.tools, 3), SubscriptOutOfRange);
+    shop.error.clear();
+    EXPECT_EQ(intToolGetId(shop.tools, 2), 0);
+    EXPECT_FALSE(isInList(shop.tools, 2));
+    EXPECT_THROW(toolAt(shop.tools, 2), InvalidCall);
     ToolDataSave(shop.tools, shop.registry, shop.logger);
-    EXPECT_NE(shop.error.find("ToolDataSave (modHpgl)"), std::string::npos) << shop.error;
-    EXPECT_EQ(shop.registry.strRegistryValueGet("Tool04", ""), "4|End mill|6|0");
+    EXPECT_NE(shop.registry.text().find("Tool02 = 2||0.000\nTool03=3|"), std::string::npos);
+    deleteTool(shop.tools, 1);
+    ToolDataSave(shop.tools, shop.registry, shop.logger);
+    EXPECT_NE(shop.registry.text().find("ToolCount=2\nTool01=2||0.000\nTool02=3|Drill|6.000"),
+              std::string::npos);
+    EXPECT_EQ(shop.error, "");
+}
+
+// Our copy loads tools 1 to 3, changes them, and saves over what another copy has stored.
+TEST(ToolStore, TakesOverWhatAnotherCopyHasStored) {
+    const auto listOf = [](std::vector<const char*> records) {
+        std::string text = "[Maskor]\nToolCount=" + std::to_string(records.size()) + "\n";
+        for (std::size_t i = 0; i < records.size(); ++i)
+            text += "Tool0" + std::to_string(i + 1) + "=" + records[i] + "\n";
+        return text;
+    };
+    constexpr auto one = "1|Drill|1.000|0.000";
+    constexpr auto two = "2|Drill|2.000|0.000";
+    constexpr auto three = "3|Drill|3.000|0.000";
+    constexpr auto big = "2|Drill|9.000|0.000";
+    constexpr auto four = "4|Reamer|4.000|0.000";
+    const auto nothing = [](ToolList&) {};
+    const auto change2 = [](ToolList& tools) { tools.gudtTools[2].sngDiameter = 8; };
+    const struct {
+        const char* name;
+        std::vector<const char*> loaded;
+        std::function<void(ToolList&)> change;
+        std::vector<const char*> theirs, saved;
+        std::vector<std::int16_t> overruled;
+    } cases[] = {
+        {"a new tool comes last, ours stays",
+         {one, two, three},
+         change2,
+         {one, two, three, four},
+         {one, "2|Drill|8.000|0.000", three, four},
+         {}},
+        {"a changed tool", {one, two, three}, nothing, {one, big, three}, {one, big, three}, {}},
+        {"a tool that both changed stays as ours",
+         {one, two, three},
+         change2,
+         {one, big, three},
+         {one, "2|Drill|8.000|0.000", three},
+         {2}},
+        {"a tool that we deleted and they changed stays deleted",
+         {one, two, three},
+         [](ToolList& tools) { deleteTool(tools, 2); },
+         {one, big, three},
+         {one, three, three}, // the record above the count is left
+         {2}},
+        {"a tool that they deleted stays",
+         {one, two, three},
+         nothing,
+         {one, three},
+         {one, two, three},
+         {}},
+        {"a record that they mended",
+         {one, "2|", three},
+         nothing,
+         {one, four, three},
+         {one, four, three},
+         {}},
+        {"what we never read", {}, nothing, {one, "2|", three}, {one, "2|", three}, {}},
+    };
+    for (const auto& row : cases) {
+        Workshop shop;
+        ToolDataLoad(shop.tools, IniRegistry(listOf(row.loaded)), shop.logger);
+        row.change(shop.tools);
+        IniRegistry shared(listOf(row.theirs));
+        EXPECT_EQ(ToolDataSave(shop.tools, shared, shop.logger), row.overruled) << row.name;
+        for (std::size_t i = 0; i < row.saved.size(); ++i)
+            EXPECT_EQ(shared.wholeText("Tool0" + std::to_string(i + 1)), row.saved[i]) << row.name;
+    }
+}
+
+TEST(ToolStore, KeepsForTheSessionWhatCannotBeSaved) {
+    Workshop shop("ToolTypes=1\nToolType01=old\n");
+    shop.registry.canStore = false;
+    ToolTypeUserLoad(shop.tools, shop.registry, shop.logger);
+    addUserType(shop.tools, "new");
+    ToolTypeUserSave(shop.tools, shop.registry, shop.logger);
+    ToolDataSave(shop.tools, shop.registry, shop.logger);
+    EXPECT_TRUE(shop.tools.typesUnsaved && shop.tools.toolsUnsaved);
+    ToolTypeUserLoad(shop.tools, shop.registry, shop.logger);
+    EXPECT_EQ(shop.tools.gintUserToolTypeCount, 2);
+    shop.registry.canStore = true;
+    EXPECT_TRUE(shop.registry.RegistryValuePut("Other", "1"));
+    EXPECT_EQ(shop.registry.text(), "[Maskor]\nToolTypes=1\nToolType01=old\nOther=1\n");
+    ToolTypeUserSave(shop.tools, shop.registry, shop.logger);
+    EXPECT_FALSE(shop.tools.typesUnsaved);
+    EXPECT_EQ(shop.registry.wholeText("ToolType02"), "new");
 }
 
 TEST(ToolStore, KeepsTheUsersTypesAsTyped) {
@@ -111,11 +204,6 @@ TEST(ToolStore, KeepsTheUsersTypesAsTyped) {
     EXPECT_EQ(again.gintUserToolTypeCount, 5);
     EXPECT_EQ(again.gstrUserToolTypes, shop.tools.gstrUserToolTypes);
     EXPECT_EQ(shop.error, "");
-
-    shop.registry.RegistryValuePut("ToolTypes", "99999");
-    ToolTypeUserLoad(again, shop.registry, shop.logger);
-    EXPECT_EQ(again.gintUserToolTypeCount, 0);
-    EXPECT_NE(shop.error.find("ToolTypeUserLoad (modHpgl)"), std::string::npos) << shop.error;
 }
 
 } // namespace

@@ -9,9 +9,11 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <thread>
 
 namespace {
 
+using torvik::Registry;
 using torvik::WindowsRegistry;
 
 constexpr const char* keyName = "SOFTWARE\\Baltrum\\Maskor";
@@ -65,9 +67,26 @@ void testValues() {
     registry.RegistryValuePut("Tool01", std::string(80, 'x'));
     expect("80 bytes are stored", stored("Tool01"), std::string(80, 'x') + '\0');
     expect("80 bytes are not read", registry.strRegistryValueGet("Tool01", "d"), "d");
+    expect("but told whole", registry.wholeText("Tool01").value_or("none"), std::string(80, 'x'));
+    expect("a missing value is none", registry.wholeText("Tool02").value_or("none"), "none");
     RegSetKeyValueA(HKEY_LOCAL_MACHINE, keyName, "Tool01", REG_BINARY, "12345", 5);
     expect("a value without a NUL is read whole", registry.strRegistryValueGet("Tool01", ""),
            "12345");
+}
+
+// While one batch lives, another program's cannot begin; here another thread stands for it.
+void testBatches() {
+    WindowsRegistry registry;
+    Registry::Batch ours(registry);
+    bool open = true;
+    std::thread([&open] {
+        WindowsRegistry other;
+        open = Registry::Batch(other).isOpen();
+    }).join();
+    expect("a second batch waits in vain", open ? "open" : "closed", "closed");
+    registry.RegistryValuePut("A", "1");
+    expect("a batch keeps its values back", stored("A"), "none");
+    expect("a batch is stored", ours.save() ? stored("A") : "failed", std::string("1\0", 2));
 }
 
 // Below a key that the next start forgets, Windows makes no key that lasts.
@@ -77,9 +96,8 @@ void testFailedWrite() {
                     KEY_WRITE, nullptr, &key, nullptr);
     RegCloseKey(key);
     WindowsRegistry registry;
-    registry.RegistryValuePut("ToolCount", "12");
-    expect("a write that fails goes unnoticed", registry.strRegistryValueGet("ToolCount", "0"),
-           "0");
+    expect("a write that fails is told", registry.RegistryValuePut("A", "1") ? "yes" : "no", "no");
+    expect("it lasts for this run", registry.strRegistryValueGet("A", "0") + stored("A"), "1none");
 }
 
 } // namespace
@@ -94,6 +112,7 @@ int main(int count, char** words) {
     } else if (order == "replace-tools") {
         removeKey();
         testValues();
+        testBatches();
         removeKey();
         testFailedWrite();
         removeKey();

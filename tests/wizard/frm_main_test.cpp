@@ -325,6 +325,21 @@ TEST_F(FrmMainTest, ClosingAsksWhileNothingIsWritten) {
     EXPECT_TRUE(window->CheckClose());
 }
 
+TEST_F(FrmMainTest, ToolsThatCannotBeSavedAreToldInTheStatusBar) {
+    startSample("bracket");
+    go(3, "8.0 mm");
+    for (const bool canStore : {true, false, true}) {
+        registry.canStore = canStore;
+        answers.expect("frmToolSelect", [](QDialog& dialog) {
+            dialog.findChild<QTableWidget*>()->selectRow(6);
+            DialogAnswers::press("cmdOk")(dialog);
+        });
+        click("cmdTool");
+        EXPECT_EQ(find<QStatusBar>("staMain").isVisible(), !canStore);
+        EXPECT_TRUE(label("lblToolsUnsaved").ends_with("Maskor.ini: they last until Torvik ends"));
+    }
+}
+
 TEST_F(FrmMainTest, AMachinedGroupWithoutAToolIsNamedBeforeThePieceAndBeforeTheProgram) {
     startSample("bracket");
     for (const int step : {4, 6}) {
@@ -376,9 +391,9 @@ TEST_F(FrmMainTest, ArrowKeysMoveTheOrderWhateverHasTheFocus) {
 
 TEST_F(FrmMainTest, HelpOpensAtTheControlElseAtTheStep) {
     startSample("bracket");
-    const std::tuple<int, const char*, int> rows[] = {{2, "txtGlob2", 2}, {3, "txtDet1", 90},
-                                                      {3, "cmdBack", 3},  {4, "cmdUp", 4},
-                                                      {5, "txtHead8", 5}, {6, "optOutput2", 6}};
+    const std::tuple<int, const char*, int> rows[] = {
+        {2, "txtGlob2", 2}, {3, "txtDet1", 90}, {3, "cmdTool", 60},  {3, "cmdBack", 3},
+        {4, "cmdUp", 4},    {5, "txtHead8", 5}, {6, "optOutput2", 6}};
     for (const auto& [step, control, topic] : rows) {
         go(step);
         find<QWidget>(control).setFocus();

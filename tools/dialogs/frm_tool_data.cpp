@@ -3,13 +3,13 @@
 
 #include "base/error_trap.h"
 #include "base/numbers.h"
-#include "base/picture.h"
 #include "base/std_message_box.h"
 #include "forms/dialog_places.h"
 #include "forms/number_box.h"
 #include "tools/dialogs/frm_tool_type.h"
 #include "tools/dialogs/tool_fault_text.h"
 #include "tools/dialogs/type_lists.h"
+#include "tools/tool_record.h"
 #include "tools/tool_store.h"
 
 #include <QCloseEvent>
@@ -124,13 +124,13 @@ void FrmToolData::fillTypes() {
 }
 
 void FrmToolData::fillTool(std::int16_t place) {
-    const Tool& tool = toolAt(m_tools, place);
-    m_ownType = QString::fromStdString(tool.strType);
+    const ToolEntry stored = entryOf(m_tools.gudtTools[place]);
+    m_ownType = QString::fromStdString(stored.type);
     fillTypes();
-    m_number->setText(QString::number(tool.intNumber));
+    m_number->setText(QString::fromStdString(stored.number));
     m_type->setCurrentIndex(
         m_type->findText(m_ownType, Qt::MatchFixedString | Qt::MatchCaseSensitive));
-    m_diameter->setText(QString::fromStdString(formatFixed(tool.sngDiameter, 3)));
+    m_diameter->setText(QString::fromStdString(stored.diameter));
 }
 
 void FrmToolData::OkStatus() {

@@ -22,7 +22,6 @@ namespace {
 
 constexpr std::string_view form = "frmToolSelect";
 constexpr int focusInterval = 50; // milliseconds
-constexpr int helpTools = 60;
 
 } // namespace
 
@@ -58,8 +57,9 @@ void FrmToolSelect::buildButtons() {
     m_ok->setDefault(true);
     m_cancel = makeDialogButton("cmdCancel", tr("Cancel"), tr("Choose no tool (Escape)"));
     m_add = makeDialogButton("cmdAdd", tr("&Add…"), tr("Add a tool to the list"));
-    m_edit = makeDialogButton("cmdEdit", tr("&Edit…"), tr("Change the selected tool"));
-    m_delete = makeDialogButton("cmdDelete", tr("&Delete…"), tr("Take the selected tool out"));
+    m_edit = makeDialogButton("cmdEdit", tr("&Edit…"), tr("Change the selected tool (F2)"));
+    m_delete =
+        makeDialogButton("cmdDelete", tr("&Delete…"), tr("Take the selected tool out (Delete)"));
     auto* const column = new QVBoxLayout;
     for (QPushButton* const button : {m_add, m_edit, m_delete})
         column->addWidget(button);
@@ -91,6 +91,8 @@ void FrmToolSelect::buildSortButtons() {
 void FrmToolSelect::connectButtons() {
     connect(m_grid, &ToolGrid::itemSelectionChanged, this, &FrmToolSelect::selectionChanged);
     connect(m_grid, &ToolGrid::doubleClicked, m_ok, &QPushButton::click);
+    connect(m_grid, &ToolGrid::editWanted, m_edit, &QPushButton::click);
+    connect(m_grid, &ToolGrid::deletionWanted, m_delete, &QPushButton::click);
     connect(m_add, &QPushButton::clicked, this, &FrmToolSelect::addNewTool);
     connect(m_edit, &QPushButton::clicked, this, &FrmToolSelect::editTool);
     connect(m_delete, &QPushButton::clicked, this, &FrmToolSelect::deleteSelectedTool);
@@ -123,8 +125,9 @@ void FrmToolSelect::enableActions(bool enabled) {
 
 void FrmToolSelect::selectionChanged() {
     trapped("grdTools_SelChange", [&] {
-        const int row = m_grid->selectedRow();
-        enableActions(row >= 0 && row < m_grid->gintToolRows);
+        const std::int16_t place = m_grid->placeAt(m_grid->selectedRow());
+        enableActions(place != 0);
+        m_ok->setEnabled(isInList(m_tools, place));
     });
 }
 
@@ -170,21 +173,28 @@ void FrmToolSelect::editTool() {
             m_grid->setTool(row, QString::fromStdString(entry.number), tool);
         }
         m_grid->selectRow(row);
+        selectionChanged(); // a record that could not be read may be a tool now
         m_grid->setFocus();
     });
+}
+
+QString FrmToolSelect::deletionQuestion(const Tool& tool) {
+    const QString ask = tr("Are you sure you want to delete:") + u'\n';
+    if (tool.strUnreadable)
+        return ask + tr("The tool that cannot be read\n(%1)?\n")
+                         .arg(QString::fromStdString(*tool.strUnreadable));
+    return ask + tr("Tool no. %1\n(%2  %3 mm)?\n")
+                     .arg(QString::number(tool.intNumber), QString::fromStdString(tool.strType),
+                          QString::fromStdString(formatFixed(tool.sngDiameter, 3)));
 }
 
 void FrmToolSelect::deleteSelectedTool() {
     trapped("cmdDelete_Click", [&] {
         const int row = m_grid->selectedRow();
         const std::int16_t place = m_grid->placeAt(row);
-        const Tool& tool = toolAt(m_tools, place);
-        const int answer = m_messages.intStdMsgBox(
-            tr("Are you sure you want to delete:\nTool no. %1\n(%2  %3 mm)?\n")
-                .arg(QString::number(tool.intNumber), QString::fromStdString(tool.strType),
-                     QString::fromStdString(formatFixed(tool.sngDiameter, 3)))
-                .toStdString(),
-            styleQuestionDefaultNo, tr("Tool Deletion").toStdString());
+        const int answer =
+            m_messages.intStdMsgBox(deletionQuestion(m_tools.gudtTools[place]).toStdString(),
+                                    styleQuestionDefaultNo, tr("Tool Deletion").toStdString());
         if (answer != buttonYes) {
             m_grid->selectRow(row);
             m_grid->setFocus();
@@ -200,9 +210,21 @@ void FrmToolSelect::deleteSelectedTool() {
     });
 }
 
+void FrmToolSelect::sayOverruled(const std::vector<std::int16_t>& numbers) {
+    QStringList texts;
+    for (const std::int16_t number : numbers)
+        texts.append(QString::number(number));
+    if (!numbers.empty())
+        m_messages.intStdMsgBox(tr("Another copy of Torvik has changed the same tools meanwhile:\n"
+                                   "Tool no. %1\nThey are saved as they are in this copy.")
+                                    .arg(texts.join(QStringLiteral(", ")))
+                                    .toStdString(),
+                                styleExclamation, usualTitle);
+}
+
 void FrmToolSelect::confirm() {
     trapped("cmdOk_Click", [&] {
-        ToolDataSave(m_tools, m_registry, m_logger);
+        sayOverruled(ToolDataSave(m_tools, m_registry, m_logger));
         const std::int16_t place = m_grid->placeAt(m_grid->selectedRow());
         setProperty(tagProperty, place == 0 ? QString() : QString::number(place));
         accept();

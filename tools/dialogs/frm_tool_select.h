@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class QPushButton;
 
@@ -58,6 +59,9 @@ private:
     void editTool();
     void deleteSelectedTool();
     void confirm();
+    static QString deletionQuestion(const Tool& tool);
+    // Tools that another copy of the program has changed, too.
+    void sayOverruled(const std::vector<std::int16_t>& numbers);
 
     ToolList& m_tools;
     Registry& m_registry;

@@ -125,16 +125,19 @@ void FrmToolType::buildControls() {
     connect(m_name, &QLineEdit::textChanged, this, &FrmToolType::nameChanged);
     connect(m_add, &QPushButton::clicked, this, &FrmToolType::addType);
     connect(m_delete, &QPushButton::clicked, this, &FrmToolType::deleteType);
-    connect(m_ok, &QPushButton::clicked, this, [this] {
-        setProperty(tagProperty, QString::fromUtf8(tagOk));
-        accept();
-    });
+    connect(m_ok, &QPushButton::clicked, this, &FrmToolType::confirm);
     connect(cancel, &QPushButton::clicked, this, &FrmToolType::reject);
 }
 
 void FrmToolType::fillLists() {
-    ToolTypeStandardShow(*m_standard);
     ToolTypeUserLoad(m_tools, m_registry, m_logger);
+    showTypes();
+}
+
+void FrmToolType::showTypes() {
+    ToolTypeStandardShow(*m_standard);
+    m_user->clear();
+    m_userNew->clear();
     ToolTypeUserShow(*m_user, m_tools);
     for (int row = m_user->count() - 1; row >= 0; --row)
         if (!isTypeInUse(m_tools, m_user->item(row)->text().toStdString()))
@@ -205,6 +208,36 @@ void FrmToolType::deleteType() {
         select(*m_userNew, -1); // the library selects the item that took the place
         m_userNew->setFocus();
         deleteUserType(m_tools, toInt16(place));
+    });
+}
+
+// A deletion takes the place that the item had when it was listed, which may be another type's by
+// now.
+void FrmToolType::sayKeptTypes() {
+    QStringList shown;
+    for (const QListWidget* const list : {m_user, m_userNew})
+        for (int row = 0; row < list->count(); ++row)
+            shown.append(list->item(row)->text());
+    QStringList kept;
+    for (int place = 1; place <= m_tools.gintUserToolTypeCount; ++place)
+        kept.append(QString::fromStdString(m_tools.gstrUserToolTypes[place]));
+    shown.sort();
+    kept.sort();
+    if (shown == kept)
+        return;
+    showTypes();
+    m_messages.intStdMsgBox(
+        (tr("Other types were deleted than those that were chosen. These are kept now:") + u'\n' +
+         (kept.isEmpty() ? tr("(none)") : kept.join(u'\n')))
+            .toStdString(),
+        styleExclamation, tr("Tool type").toStdString());
+}
+
+void FrmToolType::confirm() {
+    trapped("cmdOk_Click", [&] {
+        sayKeptTypes();
+        setProperty(tagProperty, QString::fromUtf8(tagOk));
+        accept();
     });
 }
 

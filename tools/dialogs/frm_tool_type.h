@@ -42,10 +42,15 @@ private:
     void buildLists();
     void buildControls();
     void fillLists();
+    // The types in memory.
+    void showTypes();
     void listSelected(QListWidget& list);
     void nameChanged();
     void addType();
     void deleteType();
+    // Tells the types that will be stored, where they are others than those on show.
+    void sayKeptTypes();
+    void confirm();
     template <typename Work>
     void trapped(std::string_view procedure, Work&& work);
 

@@ -4,9 +4,10 @@
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/picture.h"
-#include "tools/tool_edits.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -106,10 +107,15 @@ int ToolGrid::appendTool(const QString& number, const Tool& tool, std::int16_t p
 }
 
 void ToolGrid::setTool(int row, const QString& number, const Tool& tool) {
-    item(row, columnNumber)->setText(number);
-    item(row, columnType)->setText(QString::fromStdString(tool.strType));
-    item(row, columnType)->setToolTip(item(row, columnType)->text()); // it may be too long to show
-    item(row, columnDiameter)->setText(QString::fromStdString(formatFixed(tool.sngDiameter, 3)));
+    const bool readable = !tool.strUnreadable;
+    const QString type = QString::fromStdString(tool.strType);
+    item(row, columnNumber)->setText(readable ? number : QString());
+    item(row, columnType)->setText(readable ? type : tr("cannot be read"));
+    item(row, columnType) // it may be too long to show
+        ->setToolTip(
+            readable ? type : tr("Stored is: %1").arg(QString::fromStdString(*tool.strUnreadable)));
+    item(row, columnDiameter)
+        ->setText(readable ? QString::fromStdString(formatFixed(tool.sngDiameter, 3)) : QString());
 }
 
 int ToolGrid::selectedRow() const {
@@ -163,12 +169,56 @@ void ToolGrid::focusInEvent(QFocusEvent* event) {
         selectionModel()->clearCurrentIndex();
 }
 
+void ToolGrid::selectToolRow(int row) {
+    if (row < 0 || row >= gintToolRows)
+        return;
+    setCurrentCell(row, columnNumber);
+    scrollToItem(item(row, columnNumber));
+}
+
+void ToolGrid::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Home:
+        selectToolRow(0);
+        break;
+    case Qt::Key_End:
+        selectToolRow(gintToolRows - 1);
+        break;
+    case Qt::Key_F2:
+        emit editWanted();
+        break;
+    case Qt::Key_Delete:
+        emit deletionWanted();
+        break;
+    default:
+        QTableWidget::keyPressEvent(event);
+    }
+}
+
+void ToolGrid::keyboardSearch(const QString& typed) {
+    if (!m_sinceTyped.isValid() || m_sinceTyped.hasExpired(QApplication::keyboardInputInterval()))
+        m_typed.clear();
+    m_sinceTyped.start();
+    m_typed += typed;
+    int found = -1;
+    for (int row = gintToolRows - 1; row >= 0; --row) {
+        const QString number = item(row, columnNumber)->text();
+        if (number == m_typed) {
+            found = row;
+            break;
+        }
+        if (number.startsWith(m_typed))
+            found = row;
+    }
+    selectToolRow(found);
+}
+
 void ToolDataShow(ToolGrid& grid, const ToolList& tools, Logger& logger) {
     withErrorTrap(logger, {"ToolDataShow", module}, [&] {
         grid.clearTools();
-        for (std::int16_t place = 1; place <= loadedToolCount(tools); ++place) {
+        for (int place = 1; place <= tools.gintToolCount; ++place) {
             const Tool& tool = tools.gudtTools[place];
-            grid.appendTool(QString::number(tool.intNumber), tool, place);
+            grid.appendTool(QString::number(tool.intNumber), tool, toInt16(place));
         }
         if (grid.gintToolRows >= 2) {
             grid.gintSortColumn = sortedByNone;

@@ -7,6 +7,7 @@
 #include "base/logger.h"
 #include "tools/tool_list.h"
 
+#include <QElapsedTimer>
 #include <QTableWidget>
 
 #include <array>
@@ -36,6 +37,7 @@ public:
     void clearTools();
     // Fills the first empty row (appending one where there is none) and returns it.
     int appendTool(const QString& number, const Tool& tool, std::int16_t place);
+    // A tool whose record could not be read shows "cannot be read".
     void setTool(int row, const QString& number, const Tool& tool);
 
     // The selected row, -1 where none is selected.
@@ -55,14 +57,28 @@ public:
     std::int16_t gintToolRows = 0; // rows that hold a tool, the first ones
     std::int16_t gintSortColumn = sortedByNone;
 
+    // Selects the tool whose number is what was typed lately, else one that begins so.
+    void keyboardSearch(const QString& typed) override;
+
 signals:
     void sorted();
+    // F2 and the Delete key.
+    void editWanted();
+    void deletionWanted();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    // Home and End lead to the first and the last tool.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void selectToolRow(int row);
+
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
 };
 
-// Fills the grid with the tools that were loaded and sorts them by number, ascending.
+// Fills the grid with the tools and sorts them by number, ascending.
 void ToolDataShow(ToolGrid& grid, const ToolList& tools, Logger& logger);
 
 // Sorts by a shown column: ascending, or the other way round where it was sorted by last. Numbers

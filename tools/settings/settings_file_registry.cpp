@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "tools/settings/settings_file_registry.h"
 
+#include "base/errors.h"
 #include "base/files.h"
 #include "base/stop_signals.h"
 #include "tools/settings/settings_format.h"
+#include "tools/settings_file_reader.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLockFile>
 #include <QtCore/QThread>
 
 #include <chrono>
@@ -22,16 +23,16 @@ using namespace std::chrono_literals;
 // a program that died, and for ever for that of one that hangs.
 constexpr auto longestWait = 2000ms;
 constexpr auto staleAge = 1500ms;
+// A batch waits for the lock of a save, so it may last longer.
+constexpr auto staleBatchAge = 4000ms;
 constexpr unsigned long pollMilliseconds = 20;
 
 QString toQt(const std::filesystem::path& path) {
     return QString::fromStdString(utf8FromPath(path));
 }
 
-// Whether the lock can be had now; one that is left over is removed.
-bool isLockFree(const QString& file) {
-    QLockFile lock(file + QStringLiteral(".lock"));
-    lock.setStaleLockTime(staleAge);
+// Waits for the lock; one that is left over is removed.
+bool takeLock(QLockFile& lock) {
     QDeadlineTimer deadline(longestWait);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
@@ -41,51 +42,83 @@ bool isLockFree(const QString& file) {
     return true;
 }
 
+bool makeFolder(const std::filesystem::path& file) {
+    return QDir().mkpath(QFileInfo(toQt(file)).absolutePath());
+}
+
 } // namespace
 
-SettingsFileRegistry::SettingsFileRegistry(const std::filesystem::path& file)
-    : m_settings(toQt(file), settingsFormat()) {}
+SettingsFileRegistry::SettingsFileRegistry(std::filesystem::path file)
+    : m_file(std::move(file)), m_batchLock(toQt(m_file) + QStringLiteral(".batch.lock")) {
+    m_batchLock.setStaleLockTime(staleBatchAge);
+}
 
-std::string SettingsFileRegistry::strRegistryValueGet(std::string_view name,
-                                                      std::string_view defaultText) const {
-    std::optional<std::string> value;
-    if (const auto unsaved = m_unsaved.find(name); unsaved != m_unsaved.end()) {
-        value = unsaved->second;
-    } else {
-        m_settings.sync();
-        value = settingsValue(m_settings.value(settingsKey(name)));
+SettingsFileRegistry::Stamp SettingsFileRegistry::stamp() const {
+    std::error_code error;
+    Stamp now;
+    if (std::filesystem::status(m_file, error).type() == std::filesystem::file_type::not_found)
+        return now;
+    if (!error)
+        now.time = std::filesystem::last_write_time(m_file, error);
+    if (!error)
+        now.size = std::filesystem::file_size(m_file, error);
+    if (error)
+        throw FileError(utf8FromPath(m_file), "the file cannot be read: " + error.message());
+    return now;
+}
+
+void SettingsFileRegistry::read() const {
+    const Stamp now = stamp();
+    m_text.reset();
+    m_text.emplace(settingsText(m_file), settingsSection);
+    m_stamp = now;
+}
+
+std::optional<std::string> SettingsFileRegistry::storedText(std::string_view name) const {
+    if (!m_text || (!m_inBatch && stamp() != m_stamp))
+        read();
+    const auto value = m_text->values().find(name);
+    return value != m_text->values().end() ? std::optional(value->second) : std::nullopt;
+}
+
+std::string SettingsFileRegistry::storedValueGet(std::string_view name,
+                                                 std::string_view defaultText) const {
+    try {
+        const auto text = storedText(name);
+        return text && text->size() <= maxValueBytes ? *text : std::string(defaultText);
+    } catch (const FileError&) {
+        return std::string(defaultText);
     }
-    return value && value->size() <= maxValueBytes ? *value : std::string(defaultText);
 }
 
-void SettingsFileRegistry::RegistryValuePut(std::string_view name, std::string_view data) {
-    m_unsaved.insert_or_assign(std::string(name), std::string(data));
-    if (m_batches == 0)
-        save();
-}
-
-void SettingsFileRegistry::endBatch() {
-    if (--m_batches == 0)
-        save();
-}
-
-// What cannot be saved is dropped before QSettings hears of it, which would try again later and
-// then undo what others have saved meanwhile.
-bool SettingsFileRegistry::canBeSaved() const {
-    const QString file = m_settings.fileName();
-    m_settings.sync();
-    return QDir().mkpath(QFileInfo(file).absolutePath()) && isLockFree(file) &&
-           m_settings.isWritable() && !isUnreadable(m_settings);
-}
-
-void SettingsFileRegistry::save() {
-    if (!m_unsaved.empty() && canBeSaved()) {
-        const StopWaits untilItIsSaved;
-        for (const auto& [name, data] : m_unsaved)
-            m_settings.setValue(settingsKey(name), settingsEntry(name, data));
-        m_settings.sync();
+bool SettingsFileRegistry::store(const Values& values) {
+    if (!makeFolder(m_file))
+        return false;
+    {
+        QLockFile lock(toQt(m_file) + QStringLiteral(".lock")); // as QSettings names its own
+        lock.setStaleLockTime(staleAge);
+        if (!takeLock(lock))
+            return false;
     }
-    m_unsaved.clear();
+    const StopWaits untilItIsSaved;
+    return saveSettings(toQt(m_file), values);
+}
+
+bool SettingsFileRegistry::lock() {
+    try {
+        if (!makeFolder(m_file) || !takeLock(m_batchLock))
+            return false;
+        read();
+        m_inBatch = true;
+    } catch (const FileError&) {
+        m_text.reset();
+    }
+    return m_inBatch;
+}
+
+void SettingsFileRegistry::unlock() {
+    m_inBatch = false;
+    m_batchLock.unlock();
 }
 
 } // namespace torvik

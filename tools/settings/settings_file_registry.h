@@ -2,40 +2,47 @@
 // The shared settings as a file: section [Maskor] of an INI file, its entries named as the registry
 // values. Saved all or nothing, under a lock that every program with the file takes; only the own
 // changes are applied, so those of other programs stay. A write that cannot be made (no permission,
-// a lock that a running program keeps) is dropped after two seconds at most. The file and its
+// a lock that a running program keeps) is given up after two seconds at most. The file and its
 // folder are made by the first write.
 #pragma once
 
 #include "tools/registry.h"
 
-#include <QtCore/QSettings>
+#include <QtCore/QLockFile>
 
 #include <filesystem>
-#include <map>
+#include <optional>
 
 namespace torvik {
 
 class SettingsFileRegistry : public Registry {
 public:
-    explicit SettingsFileRegistry(const std::filesystem::path& file);
-
-    // Sees what other programs have saved meanwhile.
-    std::string strRegistryValueGet(std::string_view name,
-                                    std::string_view defaultText) const override;
-    // Outside a batch the value is on the disk when this returns.
-    void RegistryValuePut(std::string_view name, std::string_view data) override;
+    explicit SettingsFileRegistry(std::filesystem::path file);
 
 protected:
-    void beginBatch() override { ++m_batches; }
-    void endBatch() override;
+    // Both see what other programs have saved meanwhile.
+    std::string storedValueGet(std::string_view name, std::string_view defaultText) const override;
+    std::optional<std::string> storedText(std::string_view name) const override;
+    bool store(const Values& values) override;
+    bool lock() override;
+    void unlock() override;
 
 private:
-    void save();
-    bool canBeSaved() const;
+    // Tells one state of the file from another.
+    struct Stamp {
+        std::filesystem::file_time_type time;
+        std::uintmax_t size = 0;
+        bool operator==(const Stamp&) const = default;
+    };
 
-    mutable QSettings m_settings;
-    std::map<std::string, std::string, std::less<>> m_unsaved;
-    int m_batches = 0;
+    Stamp stamp() const;
+    void read() const;
+
+    std::filesystem::path m_file;
+    QLockFile m_batchLock;
+    bool m_inBatch = false;
+    mutable std::optional<IniText> m_text;
+    mutable Stamp m_stamp; // of m_text
 };
 
 } // namespace torvik

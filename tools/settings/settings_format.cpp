@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "tools/settings/settings_format.h"
 
+#include "base/errors.h"
+#include "base/files.h"
 #include "tools/ini_text.h"
 #include "tools/settings_file_reader.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSettings>
+
+#include <chrono>
 
 namespace torvik {
 namespace {
-
-constexpr auto maxFileBytes = static_cast<qint64>(maxSettingsBytes);
-constexpr std::string_view section = settingsSection;
-// Keys beside the entries' own; no entry's name holds a line break.
-const QString wholeText = QStringLiteral("\ntext");
-const QString unreadable = QStringLiteral("\nunreadable");
 
 std::string_view viewOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
@@ -24,23 +23,12 @@ QByteArray bytesOf(std::string_view text) {
     return {text.data(), static_cast<qsizetype>(text.size())};
 }
 
-// Answers true in any case: after a false one QSettings would write a file that lacks what was not
-// read.
-bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
-    const QByteArray text = device.read(maxFileBytes + 1);
-    if (text.size() > maxFileBytes || text.size() < device.size()) {
-        map.insert(unreadable, true);
-        return true;
-    }
-    const IniText ini(viewOf(text), section);
-    for (const auto& [name, value] : ini.values())
-        map.insert(settingsKey(name), settingsEntry(name, value));
-    map.insert(wholeText, text);
+bool readNothing(QIODevice& /*device*/, QSettings::SettingsMap& /*map*/) {
     return true;
 }
 
-// QSettings sees another program's save by the file's size and time alone. So that no two saves
-// have the same time, a save in the same millisecond as the one before is dated a little later.
+// Other programs see a save by the file's size and time alone. So that no two saves have the same
+// time, a save in the same millisecond as the one before is dated a little later.
 bool setDistinctTime(QFileDevice& file) {
     const qint64 before = QFileInfo(file.fileName()).lastModified().toMSecsSinceEpoch();
     if (!file.flush())
@@ -51,44 +39,54 @@ bool setDistinctTime(QFileDevice& file) {
     return true;
 }
 
-bool writeSettings(QIODevice& device, const QSettings::SettingsMap& map) {
-    if (map.contains(unreadable))
+// Runs under the lock of QSettings. The map holds this save's entries, last, and those of earlier
+// ones.
+bool writeEntries(QIODevice& device, const QSettings::SettingsMap& map) {
+    auto* const file = qobject_cast<QFileDevice*>(&device);
+    if (file == nullptr || map.isEmpty())
         return false;
-    IniText ini(viewOf(map.value(wholeText).toByteArray()), section);
-    for (const QVariant& entry : map)
-        if (const auto nameAndValue = entry.value<QByteArrayList>(); nameAndValue.size() == 2)
-            ini.setValue(viewOf(nameAndValue[0]), viewOf(nameAndValue[1]));
-    const QByteArray text = bytesOf(ini.text());
-    auto* file = qobject_cast<QFileDevice*>(&device);
-    return device.write(text) == text.size() && (file == nullptr || setDistinctTime(*file));
+    try {
+        IniText ini(settingsText(pathFromUtf8(file->fileName().toStdString())), settingsSection);
+        const auto entries = map.last().value<QByteArrayList>();
+        for (qsizetype i = 0; i + 1 < entries.size(); i += 2)
+            ini.setValue(viewOf(entries[i]), viewOf(entries[i + 1]));
+        const QByteArray text = bytesOf(ini.text());
+        return file->write(text) == text.size() && setDistinctTime(*file);
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+QSettings::Format settingsFormat() {
+    static const QSettings::Format format =
+        QSettings::registerFormat(QStringLiteral("ini"), readNothing, writeEntries);
+    return format;
+}
+
+// A key behind those of all earlier saves.
+QString nextKey() {
+    constexpr int digits = 20;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return QString::number(std::chrono::nanoseconds(now).count()).rightJustified(digits, u'0');
 }
 
 } // namespace
 
-QSettings::Format settingsFormat() {
-    static const QSettings::Format format =
-        QSettings::registerFormat(QStringLiteral("ini"), readSettings, writeSettings);
-    return format;
-}
-
-QString settingsKey(std::string_view name) {
-    // Byte by byte, so that a name in a broken encoding has a key of its own too.
-    return QString::fromLatin1(bytesOf(name).toLower());
-}
-
-QVariant settingsEntry(std::string_view name, std::string_view value) {
-    return QVariant::fromValue(QByteArrayList{bytesOf(name), bytesOf(value)});
-}
-
-std::optional<std::string> settingsValue(const QVariant& entry) {
-    const auto nameAndValue = entry.value<QByteArrayList>();
-    if (nameAndValue.size() != 2)
-        return std::nullopt;
-    return nameAndValue[1].toStdString();
-}
-
-bool isUnreadable(const QSettings& settings) {
-    return settings.contains(unreadable);
+bool saveSettings(const QString& file,
+                  const std::vector<std::pair<std::string, std::string>>& entries) {
+    QByteArrayList list;
+    for (const auto& [name, value] : entries)
+        list << bytesOf(name) << bytesOf(value);
+    QSettings settings(file, settingsFormat());
+    if (!settings.isWritable())
+        return false;
+    const QString key = nextKey();
+    settings.setValue(key, QVariant::fromValue(list));
+    settings.sync();
+    if (settings.status() == QSettings::NoError)
+        return true;
+    settings.remove(key); // or the next QSettings would write it
+    return false;
 }
 
 } // namespace torvik

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The settings file's form for QSettings: its keys and values, over the plain text of ini_text.h.
+// Saving entries of the settings file by QSettings, over the plain text of ini_text.h. QSettings
+// has the lock and the saving all or nothing. It is never asked what the file holds: a save that
+// failed would stay in its memory and be written later, over what others have saved meanwhile.
 #pragma once
 
-#include <QtCore/QSettings>
+#include <QtCore/QString>
 
-#include <optional>
 #include <string>
-#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace torvik {
 
-// The registered format; the first call registers it.
-QSettings::Format settingsFormat();
-
-// An entry's key (the same for each case of its name), and its content with the name as spelled.
-QString settingsKey(std::string_view name);
-QVariant settingsEntry(std::string_view name, std::string_view value);
-std::optional<std::string> settingsValue(const QVariant& entry);
-
-// Whether the file that was read is one that must not be written: too large, or not read to its
-// end.
-bool isUnreadable(const QSettings& settings);
+// Puts the entries into the file as it is at that moment. False where it is left as it was: it
+// cannot be written, or nobody can tell what it holds.
+bool saveSettings(const QString& file,
+                  const std::vector<std::pair<std::string, std::string>>& entries);
 
 } // namespace torvik

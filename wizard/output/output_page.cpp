@@ -5,6 +5,7 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "gcode/dialects.h"
+#include "tools/settings_file_reader.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/own_settings.h"
@@ -127,7 +128,13 @@ void OutputPage::changeDrive() {
             styleExclamation, usualTitle);
         return;
     }
-    m_workshop.registry.RegistryValuePut(driveASetting, folder);
+    if (!m_workshop.registry.RegistryValuePut(driveASetting, folder))
+        m_workshop.messages.intStdMsgBox(
+            tr("The folder could not be stored in %1.\nIt will not be remembered: it lasts until "
+               "Torvik ends.")
+                .arg(QString::fromStdString(registryPlace()))
+                .toStdString(),
+            styleExclamation, usualTitle);
     showDrive();
 }
 

@@ -124,6 +124,7 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.cmdTool->setAccessibleName(tr("Choose tool"));
     controls.cmdTool->setToolTip(tr("Opens the tool list to choose the tool for this page"));
     controls.cmdTool->setAutoDefault(false);
+    controls.cmdTool->setProperty(helpContextProperty, helpTools);
     grid->addWidget(controls.cmdTool, 1, static_cast<int>(toolLabelTexts.size()));
     layout.addWidget(controls.toolPanel);
     controls.toolNote = makeWrappedLabel(page, "lblToolNote");

@@ -146,5 +146,60 @@ TEST_F(FrmToolSelectTest, AToolIsChosenByADoubleClickOrByKeysAlone) {
     EXPECT_EQ(form->chosenPosition(), 1);
 }
 
+TEST_F(FrmToolSelectTest, KeysOfTheGridLookAtTheNumber) {
+    show(drills(13));
+    const auto after = [&](std::initializer_list<Qt::Key> keys) {
+        QTest::qWait(QApplication::keyboardInputInterval() + 20);
+        for (const Qt::Key key : keys)
+            QTest::keyClick(&grid(), key);
+        return grid().placeAt(grid().selectedRow());
+    };
+    QApplication::setKeyboardInputInterval(100);
+    EXPECT_EQ(after({Qt::Key_1, Qt::Key_1}), 11);
+    EXPECT_EQ(after({Qt::Key_1}), 1);
+    EXPECT_EQ(after({Qt::Key_7}), 7);
+    EXPECT_EQ(after({Qt::Key_D}), 7); // no type begins the search
+    EXPECT_EQ(after({Qt::Key_End}), 13);
+    EXPECT_EQ(after({Qt::Key_Home}), 1);
+    messages.answer = buttonYes;
+    EXPECT_EQ(after({Qt::Key_Delete}), 0);
+    EXPECT_NE(messages.take().find("Tool no. 1\n"), std::string::npos);
+    EXPECT_EQ(after({Qt::Key_End}), 12);
+    inDialogAfter<FrmToolData>(
+        *form, [](FrmToolData& dialog) { dialog.reject(); },
+        [&] { QTest::keyClick(&grid(), Qt::Key_F2); });
+}
+
+TEST_F(FrmToolSelectTest, AToolThatCannotBeReadIsMendedOrDeletedButNotChosen) {
+    ToolList list = drills(3);
+    list.gudtTools[1].strUnreadable = "2|Reamer";
+    list.gudtTools[1].intNumber = 0;
+    list.gudtTools[2].strUnreadable = "";
+    list.gudtTools[2].intNumber = 0;
+    show(list);
+    EXPECT_EQ(row(0), "|cannot be read||1|");
+    clickRow(0, true);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(actions(), "cmdEditcmdDelete");
+    inDialog<FrmToolData>(*form, "cmdEdit", [](FrmToolData& dialog) {
+        EXPECT_EQ(find<QLineEdit>(dialog, "txtToolNumber").text(), "2");
+        EXPECT_EQ(find<QComboBox>(dialog, "cboToolType").currentText(), "Reamer");
+        find<QLineEdit>(dialog, "txtToolDiam").setText("4");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(row(0), "2|Reamer|4.000|1|");
+    EXPECT_EQ(actions(), allActions);
+    clickRow(1);
+    press(*form, "cmdDelete");
+    EXPECT_NE(messages.take().find("The tool that cannot be read"), std::string::npos);
+    registry.RegistryValuePut("ToolCount", "1");
+    registry.RegistryValuePut("Tool01", "3|Reamer|9.000|0.000");
+    press(*form, "cmdOk");
+    EXPECT_EQ(messages.take(), "Torvik|48|Another copy of Torvik has changed the same tools "
+                               "meanwhile:\nTool no. 3\nThey are saved as they are in this copy.");
+    EXPECT_EQ(registry.strRegistryValueGet("Tool01", ""), "2|Reamer|4.000|-2000.000");
+    EXPECT_EQ(registry.strRegistryValueGet("Tool02", ""), "3|Drill|3.000|-2000.000");
+}
+
 } // namespace
 } // namespace torvik

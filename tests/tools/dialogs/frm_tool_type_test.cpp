@@ -132,6 +132,20 @@ TEST_F(FrmToolTypeTest, ADeletedTypeLeavesTheOthersPlacesAlone) {
     press(*form, "cmdAdd");
     EXPECT_EQ(items("lstTypeUserNew"), "A:1 [E:3]");
     EXPECT_EQ(types(), "A Spot E ");
+    EXPECT_EQ(messages.take(), "");
+    press(*form, "cmdOk");
+    EXPECT_EQ(messages.take(), "");
+
+    show({"A", "B", "Spot", "D", "F"});
+    clickItem("lstTypeUserNew", 3); // A; D takes the third place
+    press(*form, "cmdDelete");
+    clickItem("lstTypeUserNew", 2); // B is meant, the second place is Spot's
+    press(*form, "cmdDelete");
+    press(*form, "cmdOk");
+    EXPECT_EQ(messages.take(), "Tool type|48|Other types were deleted than those that were chosen. "
+                               "These are kept now:\nB\nD\nF");
+    EXPECT_EQ(items("lstTypeUserNew"), "F:3 D:2 B:1");
+    EXPECT_EQ(tag(*form), "Ok");
 }
 
 } // namespace

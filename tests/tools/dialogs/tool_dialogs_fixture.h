@@ -68,10 +68,10 @@ protected:
     static std::string tag(const QWidget& window) {
         return window.property("Tag").toString().toStdString();
     }
-    // Presses the button, which opens a modal dialog, and works in that one until it closes.
+    // Opens a modal dialog, and works in that one until it closes.
     template <typename Dialog>
-    static void inDialog(QWidget& window, const char* opener,
-                         const std::function<void(Dialog&)>& work) {
+    static void inDialogAfter(QWidget& window, const std::function<void(Dialog&)>& work,
+                              const std::function<void()>& open) {
         bool opened = false;
         QTimer::singleShot(0, &window, [&] {
             auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
@@ -83,8 +83,13 @@ protected:
             EXPECT_FALSE(dialog->isVisible()) << "the dialog was left open";
             dialog->close();
         });
-        press(window, opener);
+        open();
         EXPECT_TRUE(opened);
+    }
+    template <typename Dialog>
+    static void inDialog(QWidget& window, const char* opener,
+                         const std::function<void(Dialog&)>& work) {
+        inDialogAfter<Dialog>(window, work, [&] { press(window, opener); });
     }
 
     ScriptedMessages messages;

@@ -199,9 +199,13 @@ TEST_F(OutputTest, ThePageShowsWhereDriveALeadsAndChangesIt) {
     EXPECT_EQ(messages.take(), "Torvik|48|The folder's name is too long to be remembered, please "
                                "choose another:\n" +
                                    tooLong);
+    registry.canStore = false;
+    const std::string forNow = chooseFolder("for now");
+    EXPECT_NE(messages.take().find("It will not be remembered"), std::string::npos);
+    EXPECT_EQ(label("lblDriveA"), "a:\\ is " + forNow);
     answers.expect("dlgDriveA", DialogAnswers::cancel);
     click("cmdDriveA");
-    EXPECT_EQ(label("lblDriveA"), "a:\\ is " + stick);
+    EXPECT_EQ(label("lblDriveA"), "a:\\ is " + forNow);
 }
 
 // A made-up fifth control, for which nothing but its row is written.

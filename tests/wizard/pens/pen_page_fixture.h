@@ -66,11 +66,11 @@ public:
 };
 
 class NoRegistry : public Registry {
-public:
-    std::string strRegistryValueGet(std::string_view, std::string_view usual) const override {
+    std::string storedValueGet(std::string_view, std::string_view usual) const override {
         return std::string(usual);
     }
-    void RegistryValuePut(std::string_view, std::string_view) override {}
+    std::optional<std::string> storedText(std::string_view) const override { return {}; }
+    bool store(const Values&) override { return true; }
 };
 
 // Black: a line. Red: circles of radius 1.5, 2.5 and 1.5. Blue: a line. Settings groups: Black 1,
