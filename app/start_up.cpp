@@ -11,6 +11,7 @@
 #include "app/single_instance.h"
 #include "base/files.h"
 #include "base/logger.h"
+#include "base/user_folders.h"
 #include "forms/key_guard.h"
 #include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
@@ -52,7 +53,7 @@ int runDesktop(const QString& drawing) {
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     const KeyGuard keyGuard;
     MessageWindow messages;
-    SingleInstance instance(instanceName());
+    SingleInstance instance(userRuntimeFolder());
     const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();
     if (!guardInstance(instance, path, messages))
         return 0;
