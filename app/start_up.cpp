@@ -13,6 +13,7 @@
 #include "base/logger.h"
 #include "base/user_folders.h"
 #include "forms/key_guard.h"
+#include "forms/plain_texts.h"
 #include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
@@ -52,6 +53,7 @@ int runDesktop(const QString& drawing) {
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     const KeyGuard keyGuard;
+    const PlainTexts plainTexts;
     MessageWindow messages;
     SingleInstance instance(userRuntimeFolder());
     const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();
