@@ -87,7 +87,7 @@ int runDesktop(const QString& drawing) {
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
     const auto open = [&frmMain](const QString& named) {
         if (!named.isEmpty())
-            frmMain.ReadFileLater(pathFromUtf8(named.toStdString()));
+            frmMain.ReadFileWhenFree(pathFromUtf8(named.toStdString()));
     };
     QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain,
                      [&frmMain, open](const QString& asked) {
