@@ -131,6 +131,8 @@ std::vector<Legend::Row> Legend::rowsInSight() const {
 
 void Legend::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
+    if (hasFocus())
+        paintFocus(painter); // below the discs, so that their greys stay
     painter.setRenderHint(QPainter::Antialiasing);
     const int width = columnWidth();
     const int rows = rowsInColumn();
@@ -145,8 +147,9 @@ void Legend::paintEvent(QPaintEvent* /*event*/) {
         painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, row.text);
         ++number;
     }
-    if (!hasFocus())
-        return;
+}
+
+void Legend::paintFocus(QPainter& painter) {
     QStyleOptionFocusRect focus;
     focus.initFrom(viewport());
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);

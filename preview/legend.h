@@ -47,6 +47,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void paintFocus(QPainter& painter);
     int textWidth() const;
     int columnWidth() const;
     int rowsInColumn() const;
