@@ -92,7 +92,7 @@ fs::path userDataFolder() {
 }
 
 fs::path userRuntimeFolder() {
-    const fs::path named = pathFromUtf8(environmentText("XDG_RUNTIME_DIR"));
+    fs::path named = pathFromUtf8(environmentText("XDG_RUNTIME_DIR"));
     if (named.is_absolute() && isOwnAlone(named))
         return named;
     const fs::path cache = folderOf("XDG_CACHE_HOME", ".cache");
