@@ -11,9 +11,10 @@ void showAboutBox(QWidget* parent) {
     box.setObjectName(QStringLiteral("frmAbout"));
     box.setWindowTitle(QObject::tr("About Torvik"));
     box.setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
+    box.setTextFormat(Qt::RichText);
     box.setText(QObject::tr("<b>Torvik %1</b>").arg(QApplication::applicationVersion()));
     box.setInformativeText(
-        QObject::tr("From a pen-plotter drawing to a program for the milling machine.<br><br>"
+        QObject::tr("From a pen-plotter drawing to a program for the milling machine.\n\n"
                     "Free software under the MIT licence. Built with Qt %1.")
             .arg(QString::fromUtf8(qVersion())));
     box.setStandardButtons(QMessageBox::Ok);

@@ -59,7 +59,6 @@ int MessageWindow::intStdMsgBox(const std::string& text, int style, const std::s
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("msgBox"));
     box.setWindowTitle(QString::fromStdString(title));
-    box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     box.setIcon(iconOf(style));
     box.setStandardButtons(buttonsOf(style));

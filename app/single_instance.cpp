@@ -1,26 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 
-#include <QCryptographicHash>
+#include "base/files.h"
+
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
 #include <QLocalSocket>
-#include <QSysInfo>
 #include <QThread>
 #include <QUrl>
 
 #ifdef Q_OS_WIN
+#include <QCryptographicHash>
 #include <windows.h>
 #endif
 
 namespace torvik {
 namespace {
 
-// Milliseconds that the running copy has to answer, that a lock has to be written, and between two
-// tries to reach a copy that does not listen yet.
+// Milliseconds that the running copy has to answer, and between two tries to reach a copy that does
+// not listen yet.
 constexpr int answerTime = 2000;
-constexpr int settleTime = 200;
 constexpr unsigned long retryTime = 50;
 // A request is one line: this word, a blank and the drawing's name with its odd bytes encoded.
 const QByteArray activateWord = "activate ";
@@ -32,61 +30,45 @@ void letOthersComeToFront() {
 #endif
 }
 
+// Where the copies of one user meet.
+QString serverNameIn(const std::filesystem::path& folder) {
+#ifdef Q_OS_WIN
+    // Pipes of all users have their names in one place. The folder tells the users apart.
+    const QByteArray user = QByteArray::fromStdString(utf8FromPath(folder));
+    return QStringLiteral("torvik-") +
+           QString::fromLatin1(QCryptographicHash::hash(user, QCryptographicHash::Md5).toHex());
+#else
+    return QString::fromStdString(utf8FromPath(folder / "torvik.socket"));
+#endif
+}
+
 } // namespace
 
-SingleInstance::SingleInstance(const QString& name, QObject* parent)
-    : QObject(parent), m_name(name),
-      m_lock(std::make_unique<QLockFile>(QDir::temp().filePath(name + QStringLiteral(".lock")))) {
-    // The lock is held as long as the program runs; only its owner's death makes it stale.
-    m_lock->setStaleLockTime(0);
+SingleInstance::SingleInstance(const std::filesystem::path& folder, QObject* parent)
+    : QObject(parent),
+      m_lockFile(folder.empty() ? std::filesystem::path() : folder / instanceLockName),
+      m_serverName(serverNameIn(folder)) {
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 
 bool SingleInstance::claim() {
-    if (!lock())
-        return false;
-    // Whoever listened under this name is gone: the lock was free.
-    QLocalServer::removeServer(m_name);
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.listen(m_name);
-    return true;
-}
-
-bool SingleInstance::lock() {
-    if (m_lock->tryLock(0))
+    if (m_lockFile.empty())
         return true;
-    if (m_lock->error() == QLockFile::LockFailedError && wasLockedHere())
-        return false;
-    // The lock says nothing: it is torn, or of another machine or an earlier name of this one, or
-    // no file can be made there. A copy that is just starting gets time to write its lock. Whether
-    // one runs is then told by whether it answers.
-    if (m_lock->tryLock(settleTime))
-        return true;
-    if (wasLockedHere() || isAnswered())
-        return false;
-    QFile::remove(m_lock->fileName());
-    // Where no lock can be made at all, the program starts all the same.
-    return m_lock->tryLock(0) || m_lock->error() != QLockFile::LockFailedError;
-}
-
-bool SingleInstance::wasLockedHere() const {
-    qint64 process = 0;
-    QString host;
-    QString program;
-    return m_lock->getLockInfo(&process, &host, &program) && host == QSysInfo::machineHostName();
-}
-
-bool SingleInstance::isAnswered() const {
-    QLocalSocket socket;
-    socket.connectToServer(m_name);
-    return socket.waitForConnected(answerTime);
+    const ProcessLock::Result lock = m_lock.tryLock(m_lockFile);
+    if (lock == ProcessLock::Result::held) {
+        // Whoever listened under this name is gone: the lock was free.
+        QLocalServer::removeServer(m_serverName);
+        m_server.setSocketOptions(QLocalServer::UserAccessOption);
+        m_server.listen(m_serverName);
+    }
+    return lock != ProcessLock::Result::heldByOther;
 }
 
 bool SingleInstance::activateOther(const QString& drawing) {
     QLocalSocket socket;
     const QDeadlineTimer deadline(answerTime);
     for (;;) {
-        socket.connectToServer(m_name);
+        socket.connectToServer(m_serverName);
         if (socket.waitForConnected(answerTime))
             break;
         if (deadline.hasExpired())
@@ -114,13 +96,6 @@ void SingleInstance::answer() {
             emit otherStarted(QUrl::fromPercentEncoding(request.sliced(activateWord.size())));
         });
     }
-}
-
-QString instanceName() {
-    // The home folder tells users of one machine apart, whatever their names hold.
-    const QByteArray user =
-        QCryptographicHash::hash(QDir::homePath().toUtf8(), QCryptographicHash::Md5).toHex();
-    return QStringLiteral("torvik-%1").arg(QString::fromLatin1(user.left(16)));
 }
 
 } // namespace torvik

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 // One running copy of the program for each user: a second one asks the first to come to the front,
-// and hands over the drawing that it was started with.
+// and hands over the drawing that it was started with. Both meet in a folder that is the user's
+// alone; without one, every copy runs for itself.
 #pragma once
 
+#include "base/process_lock.h"
+
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
 #include <QString>
 
-#include <memory>
+#include <filesystem>
 
 namespace torvik {
 
@@ -16,11 +18,11 @@ class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    // `name` tells the program and its user apart from all others.
-    explicit SingleInstance(const QString& name, QObject* parent = nullptr);
+    // `folder` may be empty.
+    explicit SingleInstance(const std::filesystem::path& folder, QObject* parent = nullptr);
 
-    // True where this copy is the only one; it then listens for others. A lock left behind by a
-    // copy that crashed does not count.
+    // True where this copy is the only one; it then listens for others. What a copy that crashed
+    // has left behind does not count. Where nothing can be locked, each copy is the only one.
     bool claim();
     // For a copy that is not the only one: asks the running one to show itself, and to open the
     // drawing where one is named (with its folder). False where it does not answer.
@@ -31,19 +33,15 @@ signals:
     void otherStarted(const QString& drawing);
 
 private:
-    bool lock();
-    // Whether the lock file is whole and of this machine, so that its owner can be looked up.
-    bool wasLockedHere() const;
-    // Whether a copy listens.
-    bool isAnswered() const;
     void answer();
 
-    QString m_name;
-    std::unique_ptr<QLockFile> m_lock;
+    const std::filesystem::path m_lockFile; // empty: nothing is locked
+    const QString m_serverName;
+    ProcessLock m_lock;
     QLocalServer m_server;
 };
 
-// The name for this user's copies of the desktop program.
-QString instanceName();
+// The file in the folder that the running copy holds locked.
+inline constexpr const char* instanceLockName = "torvik.lock";
 
 } // namespace torvik

@@ -11,7 +11,9 @@
 #include "app/single_instance.h"
 #include "base/files.h"
 #include "base/logger.h"
+#include "base/user_folders.h"
 #include "forms/key_guard.h"
+#include "forms/plain_texts.h"
 #include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
@@ -51,8 +53,9 @@ int runDesktop(const QString& drawing) {
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     const KeyGuard keyGuard;
+    const PlainTexts plainTexts;
     MessageWindow messages;
-    SingleInstance instance(instanceName());
+    SingleInstance instance(userRuntimeFolder());
     const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();
     if (!guardInstance(instance, path, messages))
         return 0;
@@ -84,7 +87,7 @@ int runDesktop(const QString& drawing) {
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
     const auto open = [&frmMain](const QString& named) {
         if (!named.isEmpty())
-            frmMain.ReadFileLater(pathFromUtf8(named.toStdString()));
+            frmMain.ReadFileWhenFree(pathFromUtf8(named.toStdString()));
     };
     QObject::connect(&instance, &SingleInstance::otherStarted, &frmMain,
                      [&frmMain, open](const QString& asked) {

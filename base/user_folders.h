@@ -15,6 +15,10 @@ std::filesystem::path executableFolder();
 std::filesystem::path userConfigFolder();
 std::filesystem::path userDataFolder();
 
+// A folder on this machine for locks and sockets, which is the user's and open to nobody else; it
+// is made where it is missing. Empty where there is none.
+std::filesystem::path userRuntimeFolder();
+
 // The value of an environment variable (UTF-8), empty where it is not set.
 std::string environmentText(const char* name);
 

@@ -68,10 +68,11 @@ public:
             return false;
         PictureView view = m_view;
         view.fit = piece.fit;
-        const DepthList depths = paintPiece(
-            m_piece, m_size, view, worksByDepth(m_job.drawing, m_job.answers, m_tools), piece);
+        view.scaleHeight = piece.picture.sngHeight;
+        const auto works = worksByDepth(m_job.drawing, m_job.answers, m_tools);
+        paintPiece(m_piece, m_size, view, works, piece);
         copyToScreen(m_piece);
-        return depths.gintDepthCount > 0;
+        return depthsOf(works).gintDepthCount > 0;
     }
 
 private:

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The legend of the piece preview: a disc in each depth's grey with the depth beside it, in rows
-// of 24 pixels, further columns where the height is used up.
+// of 24 pixels. It scrolls by whole rows where it has room for one column, else by whole columns,
+// so that no number is ever cut off.
 #pragma once
 
+#include <QAbstractScrollArea>
 #include <QString>
-#include <QWidget>
 
 #include <cstdint>
 #include <vector>
@@ -13,7 +14,7 @@ namespace torvik {
 
 struct DepthList;
 
-class Legend : public QWidget {
+class Legend : public QAbstractScrollArea {
 public:
     struct Row {
         std::int32_t colour; // 0x00BBGGRR
@@ -29,20 +30,32 @@ public:
     void setDepths(const DepthList& depths, float shallowest, float deepest);
     void clear();
     const std::vector<Row>& rows() const { return m_rows; }
+    // Those in sight, from the top.
+    std::vector<Row> rowsInSight() const;
 
-    // Lays the rows out for that height, and takes the width that they need.
-    void fitHeight(int height);
-    // The width of a column for depths of up to 99.99 mm, whatever it shows now.
+    // The width of one column with its scroll bar, for depths of up to 99.99 mm or what it shows.
     int stripWidth() const;
+
+    QSize minimumSizeHint() const override { return {0, 0}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void paintFocus(QPainter& painter);
+    int textWidth() const;
     int columnWidth() const;
+    int rowsInColumn() const;
+    int columnsInSight() const;
+    QScrollBar& bar() const;
+    void layOut();
 
     std::vector<Row> m_rows;
-    int m_rowsInColumn = 1;
 };
 
 } // namespace torvik

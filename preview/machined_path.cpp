@@ -59,7 +59,7 @@ std::vector<WorkOnPath> worksByDepth(const Drawing& drawing, const Answers& answ
     std::vector<float> depths;
     for (const Path& path : drawing.gudtPaths)
         for (const Work& work : workOn(answers, tools, path)) {
-            works.push_back({&path, work});
+            works.push_back({path, work});
             depths.push_back(work.sngDepth);
         }
     std::vector<WorkOnPath> sorted;

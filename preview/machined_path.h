@@ -3,13 +3,14 @@
 // and the order in which works are drawn. Lengths are mm.
 #pragma once
 
+#include "job/records.h"
+
 #include <vector>
 
 namespace torvik {
 
 struct Answers;
 struct Drawing;
-struct Path;
 struct ToolList;
 
 struct Work {
@@ -26,7 +27,7 @@ struct Work {
 std::vector<Work> workOn(const Answers& answers, const ToolList& tools, const Path& path);
 
 struct WorkOnPath {
-    const Path* path; // of the drawing
+    Path path; // a copy, which outlives the drawing
     Work work;
 };
 

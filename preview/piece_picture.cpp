@@ -15,24 +15,22 @@ struct Hole {
 
 } // namespace
 
-DepthList paintPiece(QImage& image, QSize size, const PictureView& view,
-                     const std::vector<WorkOnPath>& works, const PieceScale& piece) {
+void paintPiece(QImage& image, QSize size, const PictureView& view,
+                const std::vector<WorkOnPath>& works, const PieceScale& piece) {
     clearImage(image, size);
     GroovePainter painter(image, view);
-    DepthList depths;
     std::vector<Hole> coverable;
     const auto setColour = [&](float depth) {
         painter.setColour(lngPlotColour(depth, piece.sngShallowest, piece.sngDeepest));
     };
     for (const auto& [path, work] : works) {
         const double width = view.toolWidth(work.sngDiameter);
-        SaveDepth(depths, work.sngDepth);
         setColour(work.sngDepth);
         if (!work.blnHole) {
-            painter.groove(*path, width);
+            painter.groove(path, width);
             continue;
         }
-        const Hole hole{view.point(path->sngCentreX, path->sngCentreY), width / 2, work.sngDepth};
+        const Hole hole{view.point(path.sngCentreX, path.sngCentreY), width / 2, work.sngDepth};
         painter.disc(hole.centre, hole.radius);
         // The deepest work is painted last, so nothing lies over its holes.
         if (hole.sngDepth < piece.sngDeepest)
@@ -45,6 +43,12 @@ DepthList paintPiece(QImage& image, QSize size, const PictureView& view,
         setColour(hole.sngDepth);
         painter.ring(hole.centre, hole.radius - rim / 2, rim);
     }
+}
+
+DepthList depthsOf(const std::vector<WorkOnPath>& works) {
+    DepthList depths;
+    for (const WorkOnPath& each : works)
+        SaveDepth(depths, each.work.sngDepth);
     return depths;
 }
 

@@ -13,9 +13,11 @@
 
 namespace torvik {
 
-// Paints the works, which ascend by depth, into a white image of that size, in image pixels, and
-// returns the depths met.
-DepthList paintPiece(QImage& image, QSize size, const PictureView& view,
-                     const std::vector<WorkOnPath>& works, const PieceScale& piece);
+// Paints the works, which ascend by depth, into a white image of that size, in image pixels.
+void paintPiece(QImage& image, QSize size, const PictureView& view,
+                const std::vector<WorkOnPath>& works, const PieceScale& piece);
+
+// The depths of the works.
+DepthList depthsOf(const std::vector<WorkOnPath>& works);
 
 } // namespace torvik

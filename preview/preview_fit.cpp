@@ -104,8 +104,4 @@ void refit(LineScale& scale, FrameSize frame) {
     scale.picture = pictureBox(scale.extents, scale.fit, frame);
 }
 
-void refit(PieceScale& piece, FrameSize frame) {
-    piece.fit = fitExtents(piece.extents, frame);
-}
-
 } // namespace torvik

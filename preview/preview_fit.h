@@ -40,17 +40,15 @@ struct PictureBox {
     float sngHeight = 0;
 };
 
-// The fit of the lines; it alone decides the picture's size and place.
+// A fit, and the place in the frame that centres what it shows.
 struct LineScale {
     Extents extents = noExtents();
     PreviewFit fit;
     PictureBox picture;
 };
 
-// The fit of the finished piece, tools' widths included, and its range of depths.
-struct PieceScale {
-    Extents extents = noExtents();
-    PreviewFit fit;
+// That of the finished piece, tools' widths included, with its range of depths.
+struct PieceScale : LineScale {
     float sngShallowest = 1000; // mm, as they stand for a piece without any depth
     float sngDeepest = 0;
 };
@@ -65,8 +63,7 @@ bool GetScale(const Drawing& drawing, FrameSize frame, LineScale& scale, Logger&
 bool GetPieceScale(const Drawing& drawing, const Answers& answers, const ToolList& tools,
                    FrameSize frame, PieceScale& piece, Logger& logger);
 
-// The same fits for a frame of another size. Raise Overflow.
+// The same fit for a frame of another size. Raises Overflow.
 void refit(LineScale& scale, FrameSize frame);
-void refit(PieceScale& piece, FrameSize frame);
 
 } // namespace torvik

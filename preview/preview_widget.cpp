@@ -11,7 +11,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QResizeEvent>
-#include <QScrollArea>
 
 #include <algorithm>
 #include <cmath>
@@ -80,27 +79,20 @@ void PreviewWidget::buildLegendStrip() {
     m_legendCaption = new QLabel(QStringLiteral("Depths"), m_strip);
     m_legendCaption->setObjectName(QStringLiteral("lblLegend"));
     m_legendCaption->setIndent(stripMargin); // in line with the discs below it
-    m_legendArea = new QScrollArea(m_strip);
-    m_legendArea->setFrameShape(QFrame::NoFrame);
-    m_legendArea->setFocusPolicy(Qt::NoFocus);
-    m_legendArea->setWidgetResizable(true);
-    m_legendArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_legend = new Legend;
+    m_legend = new Legend(m_strip);
     m_legend->setObjectName(QStringLiteral("lblDepths"));
     m_legend->setAccessibleName(tr("Depths of the piece"));
-    m_legendArea->setWidget(m_legend);
-    m_legendArea->viewport()->installEventFilter(this);
 
     auto* column = new QBoxLayout(QBoxLayout::TopToBottom, m_strip);
-    column->setContentsMargins(0, stripMargin, stripMargin, stripMargin);
+    column->setContentsMargins(0, stripMargin, 0, stripMargin);
     column->setSpacing(0);
     column->addWidget(m_legendCaption);
-    column->addWidget(m_legendArea, 1);
+    column->addWidget(m_legend, 1);
 }
 
 // The strip lies where it leaves more room for the drawing.
 void PreviewWidget::placeLegendStrip() {
-    const int stripWidth = m_legend->stripWidth() + stripMargin;
+    const int stripWidth = m_legend->stripWidth();
     const int stripHeight = m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight +
                             Legend::overhang + 2 * stripMargin;
     const double shape = m_line.extents.empty() || m_line.extents.height() == 0
@@ -168,6 +160,10 @@ void PreviewWidget::DrawPiece() {
         if (!GetPieceScale(m_job.drawing, m_job.answers, m_tools, frameSize(), piece, m_logger))
             return;
         m_piece = piece;
+        m_works = worksByDepth(m_job.drawing, m_job.answers, m_tools);
+        m_legend->setDepths(depthsOf(m_works), piece.sngShallowest, piece.sngDeepest);
+        placeLegendStrip(); // as wide as these depths need
+        refitToFrame();
         paintPiece();
     });
 }
@@ -189,9 +185,10 @@ void PreviewWidget::startShowing(Showing what) {
     m_showing = what;
     m_failed = false;
     m_pieceImage = QImage();
+    m_works.clear();
     m_legend->clear();
     m_legendCaption->setVisible(what == Showing::piece);
-    m_legendArea->setVisible(what == Showing::piece);
+    m_legend->setVisible(what == Showing::piece);
     m_noDrawing->setVisible(what == Showing::nothing);
     m_picPlot->setVisible(what != Showing::nothing);
     redraw();
@@ -207,10 +204,7 @@ void PreviewWidget::paintLines() {
 }
 
 void PreviewWidget::paintPiece() {
-    const DepthList depths =
-        torvik::paintPiece(m_pieceImage, imageSize(), view(),
-                           worksByDepth(m_job.drawing, m_job.answers, m_tools), *m_piece);
-    m_legend->setDepths(depths, m_piece->sngShallowest, m_piece->sngDeepest);
+    torvik::paintPiece(m_pieceImage, imageSize(), view(), m_works, *m_piece);
     painted();
 }
 
@@ -237,11 +231,19 @@ FrameSize PreviewWidget::frameSize() const {
             static_cast<float>(m_picBack->height() * twipsPerPixel)};
 }
 
+const LineScale& PreviewWidget::scale() const {
+    if (m_piece)
+        return *m_piece;
+    return m_line;
+}
+
+// What is shown stands where its own fit centres it; picPlot stays where the lines are fitted.
 PictureView PreviewWidget::view() const {
     const double ratio = devicePixelRatioF();
-    return {fit(),
-            m_picPlot->height() * twipsPerPixel,
-            {std::round(m_picPlot->x() * ratio), std::round(m_picPlot->y() * ratio)},
+    const PictureBox& box = scale().picture;
+    return {scale().fit,
+            pixels(box.sngHeight) * twipsPerPixel,
+            {std::round(pixels(box.sngLeft) * ratio), std::round(pixels(box.sngTop) * ratio)},
             ratio};
 }
 
@@ -282,12 +284,8 @@ void PreviewWidget::resizeEvent(QResizeEvent* event) {
 }
 
 bool PreviewWidget::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize) {
-        if (watched == m_picBack)
-            refitToFrame();
-        else
-            m_legend->fitHeight(m_legendArea->viewport()->height());
-    }
+    if (event->type() == QEvent::Resize && watched == m_picBack)
+        refitToFrame();
     return QFrame::eventFilter(watched, event);
 }
 

@@ -7,6 +7,7 @@
 
 #include "preview/legend.h"
 #include "preview/line_picture.h"
+#include "preview/machined_path.h"
 #include "preview/preview_fit.h"
 
 #include <QFrame>
@@ -18,7 +19,6 @@
 
 class QBoxLayout;
 class QLabel;
-class QScrollArea;
 
 namespace torvik {
 
@@ -45,7 +45,7 @@ public:
     void clear();
 
     // The fit in force.
-    const PreviewFit& fit() const { return m_piece ? m_piece->fit : m_line.fit; }
+    const PreviewFit& fit() const { return scale().fit; }
     // What the frame shows, in image pixels.
     const QImage& picture();
 
@@ -63,6 +63,7 @@ private:
     void placeLegendStrip();
     void refitToFrame();
     void placePicture();
+    const LineScale& scale() const;
     FrameSize frameSize() const;
     PictureView view() const;
     QSize imageSize() const;
@@ -84,12 +85,12 @@ private:
     QLabel* m_noDrawing;
     QWidget* m_strip;
     QLabel* m_legendCaption;
-    QScrollArea* m_legendArea;
     Legend* m_legend;
 
     Showing m_showing = Showing::nothing;
     LineScale m_line;
     std::optional<PieceScale> m_piece; // while its fit is in force
+    std::vector<WorkOnPath> m_works;   // on the piece on show
     LinePicture m_lines;
     QImage m_pieceImage;
     QImage m_noImage;

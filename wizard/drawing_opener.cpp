@@ -10,9 +10,19 @@
 #include "wizard/skipped_line.h"
 #include "wizard/wizard_driver.h"
 
+#include <QApplication>
+#include <QTimer>
 #include <QWidget>
 
+#include <utility>
+
 namespace torvik {
+namespace {
+
+// Milliseconds between two looks whether a dialog has gone. One dialog can follow another at once.
+constexpr int lookTime = 100;
+
+} // namespace
 
 DrawingOpener::DrawingOpener(Workshop& workshop, WizardDriver& driver, SkippedLine& skipped,
                              QWidget& window)
@@ -33,6 +43,19 @@ void DrawingOpener::ReadFile(const std::filesystem::path& drawing) {
         if (agreesToOpen())
             importFrom(drawing);
     });
+}
+
+void DrawingOpener::ReadFileWhenFree(const std::filesystem::path& drawing) {
+    if (std::exchange(m_waiting, drawing).empty())
+        QTimer::singleShot(0, this, &DrawingOpener::openWaiting);
+}
+
+void DrawingOpener::openWaiting() {
+    if (QApplication::activeModalWidget() != nullptr ||
+        QApplication::activePopupWidget() != nullptr)
+        QTimer::singleShot(lookTime, this, &DrawingOpener::openWaiting);
+    else
+        ReadFile(std::exchange(m_waiting, {}));
 }
 
 bool DrawingOpener::agreesToOpen() {

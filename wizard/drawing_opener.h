@@ -27,8 +27,11 @@ public:
     void ReadFile();
     // The same for a drawing that is named already (recent, dropped).
     void ReadFile(const std::filesystem::path& drawing);
+    // The same as soon as no dialog and no menu is open. Of several drawings the last one counts.
+    void ReadFileWhenFree(const std::filesystem::path& drawing);
 
 private:
+    void openWaiting();
     bool agreesToOpen();
     void importFrom(const std::filesystem::path& drawing);
 
@@ -36,6 +39,7 @@ private:
     WizardDriver& m_driver;
     SkippedLine& m_skipped;
     QWidget& m_window;
+    std::filesystem::path m_waiting; // for the end of a dialog; empty: none
 };
 
 } // namespace torvik

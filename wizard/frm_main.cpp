@@ -83,6 +83,8 @@ FrmMain::FrmMain(Workshop& workshop, FrameServices services)
     connect(&m_driver, &WizardDriver::drawingWanted, this, [this] { ReadFile(); });
     connect(&m_driver, &WizardDriver::drawingLeft, m_skipped, [this] { m_skipped->show(0); });
     connect(&m_driver, &WizardDriver::toolsUnsaved, m_lines, &StatusLines::showToolsUnsaved);
+    connect(&m_driver, &WizardDriver::drawingContinued, m_skipped,
+            [this] { m_skipped->show(m_workshop.job.drawing.reading.lost); });
     connect(&m_driver, &WizardDriver::endWanted, this, &FrmMain::end);
     connect(m_skipped, &SkippedLine::drawingPrepared, this,
             [this](const std::filesystem::path& drawing) { ReadFile(drawing); });
@@ -100,7 +102,10 @@ void FrmMain::buildWindow() {
     m_controls.output = new OutputPage(m_workshop);
     m_controls.pages = new QStackedWidget;
     m_controls.pages->setObjectName(QStringLiteral("picPages"));
-    m_controls.pages->addWidget(new StartPage);
+    m_controls.opening = new StartPage;
+    connect(m_controls.opening, &StartPage::continueWanted, this,
+            [this] { m_driver.continueDrawing(); });
+    m_controls.pages->addWidget(m_controls.opening);
     for (QWidget* const page :
          std::initializer_list<QWidget*>{m_controls.globals, m_controls.pens, m_controls.order,
                                          m_controls.header, m_controls.output})
@@ -185,6 +190,10 @@ void FrmMain::ReadFile(const std::filesystem::path& drawing) {
 
 void FrmMain::ReadFileLater(const std::filesystem::path& drawing) {
     later(*this, [this, drawing] { ReadFile(drawing); });
+}
+
+void FrmMain::ReadFileWhenFree(const std::filesystem::path& drawing) {
+    m_opener.ReadFileWhenFree(drawing);
 }
 
 void FrmMain::PrepareDrawing(const std::filesystem::path& source) {

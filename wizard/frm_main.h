@@ -34,6 +34,8 @@ public:
     void ReadFile(const std::filesystem::path& drawing);
     // The same when the running event has ended; a dialog that waits then is not pushed aside.
     void ReadFileLater(const std::filesystem::path& drawing);
+    // The same as soon as no dialog and no menu is open.
+    void ReadFileWhenFree(const std::filesystem::path& drawing);
     // Opens the dialog that makes drawings of other programs readable, with the one that is named
     // (dropped) or else the drawing that is open, and afterwards the drawing that was saved there,
     // where the user wants it.

@@ -16,6 +16,7 @@ class OrderPage;
 class OutputPage;
 class PenPage;
 class PreviewWidget;
+class StartPage;
 class StepList;
 
 struct MainControls {
@@ -23,6 +24,7 @@ struct MainControls {
     ColourTreeView* tree = nullptr;
     QLabel* importedLabel = nullptr;
     QStackedWidget* pages = nullptr;
+    StartPage* opening = nullptr;
     GlobalsPage* globals = nullptr;
     PenPage* pens = nullptr;
     OrderPage* order = nullptr;

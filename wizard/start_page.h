@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// picOpening, the page of step 1: what the program does and how to begin.
+// picOpening, the page of step 1: what the program does, how to begin, and the way back to a
+// drawing that was left.
 #pragma once
 
 #include <QWidget>
+
+class QPushButton;
 
 namespace torvik {
 
@@ -11,6 +14,15 @@ class StartPage : public QWidget {
 
 public:
     StartPage();
+
+    // Offers to continue with the drawing (its full name); none is offered where it is empty.
+    void offerDrawing(const QString& drawing);
+
+signals:
+    void continueWanted();
+
+private:
+    QPushButton* m_continue;
 };
 
 } // namespace torvik

@@ -15,6 +15,7 @@
 #include "wizard/output/output_page.h"
 #include "wizard/output/output_step.h"
 #include "wizard/pens/pen_page.h"
+#include "wizard/start_page.h"
 #include "wizard/step_list.h"
 
 #include <QLabel>
@@ -221,6 +222,8 @@ void WizardDriver::showStep(std::int16_t step) {
     setNextEnabled(step != 2 && step != 3);
     if (step == 1) {
         emit drawingLeft();
+        m_controls.opening->offerDrawing(
+            QString::fromStdString(m_workshop.job.drawing.gstrPlotFile));
         m_controls.start->setFocus();
     } else if (step == 6) {
         m_controls.output->enter();
@@ -238,6 +241,12 @@ void WizardDriver::layOutImported() {
     m_controls.globals->enter();
     if (m_workshop.job.drawing.gintPathCount == 0)
         warnOfEmptyDrawing();
+}
+
+void WizardDriver::continueDrawing() {
+    m_kept = {}; // the answers in the job are newer from now on
+    emit drawingContinued();
+    leavePensBackward();
 }
 
 void WizardDriver::warnOfEmptyDrawing() {

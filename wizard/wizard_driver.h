@@ -28,6 +28,8 @@ public:
     void showStep(std::int16_t step);
     // Lays out step 2 for the drawing that was just imported, with the answers kept for it.
     void layOutImported();
+    // Lays out step 2 for the drawing in memory, as it was left for the start page.
+    void continueDrawing();
     // Forgets the job and shows the start page.
     void returnToStart();
     // Stops the timers: nothing opens or blinks any more.
@@ -51,6 +53,8 @@ signals:
     void drawingLeft();
     // Whether the tools of the workshop, or their types, could not be saved.
     void toolsUnsaved(bool unsaved);
+    // What is said of the drawing holds again.
+    void drawingContinued();
     // The user ends the program after a program was written.
     void endWanted();
 

@@ -79,7 +79,6 @@ QWidget* FrmPrepare::buildSourceRow() {
                     tr("Choose a drawing of another program; it can also be dropped here"));
     m_sourceName = new QLabel;
     m_sourceName->setObjectName(QStringLiteral("lblSource"));
-    m_sourceName->setTextFormat(Qt::PlainText);
     auto* const row = new QWidget;
     auto* const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -123,7 +122,6 @@ QWidget* FrmPrepare::buildButtons() {
     m_state = new QLabel;
     m_state->setObjectName(QStringLiteral("lblState"));
     m_state->setAccessibleName(tr("State"));
-    m_state->setTextFormat(Qt::PlainText);
     m_state->setWordWrap(true);
     m_save = button("cmdSave", tr("&Save…"), tr("Save the drawing that stands under After"));
     m_save->setEnabled(false);

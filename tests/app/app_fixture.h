@@ -14,7 +14,8 @@ namespace torvik {
 class AppTest : public testing::Test {
 protected:
     AppTest() {
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "TORVIK_HOME", "TMPDIR"}) {
+        for (const char* name :
+             {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "TORVIK_HOME"}) {
             m_before[name] = qgetenv(name);
             qputenv(name, home.path().c_str());
         }

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/message_window.h"
+#include "forms/plain_texts.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -20,6 +23,7 @@ int ask(int style, const std::function<void(QMessageBox&)>& work) {
         ASSERT_NE(box, nullptr);
         work(*box);
     });
+    const PlainTexts plain;
     MessageWindow messages;
     return messages.intStdMsgBox("First line\n<b>second</b> line", style, "Some title");
 }
@@ -32,6 +36,23 @@ QString describe(const QMessageBox& box) {
     }
     names.sort();
     return names.join(' ');
+}
+
+TEST(PlainTexts, LabelsAndTooltipsShowMarkupAsTextUnlessTheyAskForIt) {
+    const PlainTexts plain;
+    const QString markup = "<b>Drill</b>";
+    QLabel asText(markup);
+    QLabel asMarkup(markup);
+    asMarkup.setTextFormat(Qt::RichText);
+    EXPECT_GT(asText.sizeHint().width(), asMarkup.sizeHint().width());
+    QToolTip::showText({5, 5}, markup, &asText);
+    for (const QWidget* const window : QApplication::topLevelWidgets())
+        if (const auto* const tip = qobject_cast<const QLabel*>(window); tip && tip->isVisible()) {
+            EXPECT_EQ(tip->text(), markup);
+            EXPECT_EQ(tip->textFormat(), Qt::PlainText);
+        }
+    EXPECT_TRUE(QToolTip::isVisible());
+    QToolTip::hideText();
 }
 
 TEST(MessageWindow, HasTheButtonsIconDefaultAndEscapeOfItsStyle) {

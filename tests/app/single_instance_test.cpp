@@ -1,65 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
-#include "tests/base/temporary_folder.h"
+#include "base/user_folders.h"
+#include "tests/app/app_fixture.h"
 
 #include <QSignalSpy>
-#include <QSysInfo>
 #include <QThread>
 
-#include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace torvik {
 namespace {
 
-const QString name = "torvik-test";
+namespace fs = std::filesystem;
 
-// A process that has just ended.
-pid_t deadProcess() {
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(0);
-    waitpid(child, nullptr, 0);
-    return child;
-}
-
-class SingleInstanceTest : public testing::Test {
+class SingleInstanceTest : public AppTest {
 protected:
-    void SetUp() override { qputenv("TMPDIR", folder.path().c_str()); }
-    void TearDown() override { qunsetenv("TMPDIR"); }
-
-    // What a lock file says: the process, its program, its machine.
-    static std::string lockOf(pid_t process, const std::string& program, const std::string& host) {
-        return std::to_string(process) + "\n" + program + "\n" + host + "\n";
+    fs::path sub(const char* name, mode_t mode) const {
+        const fs::path made = home.path() / name;
+        fs::create_directory(made);
+        ::chmod(made.c_str(), mode);
+        return made;
     }
-    void leaveLock(const std::string& text) const { folder.file("torvik-test.lock", text); }
 
-    TemporaryFolder folder;
-    const std::string here = QSysInfo::machineHostName().toStdString();
+    const fs::path folder = sub("mine", 0700);
 };
 
 TEST_F(SingleInstanceTest, OnlyOneOfTwoCopiesClaimsUntilItEnds) {
     for (int again = 0; again < 2; ++again) {
-        SingleInstance first(name);
+        SingleInstance first(folder);
         EXPECT_TRUE(first.claim());
-        EXPECT_FALSE(SingleInstance(name).claim());
-        EXPECT_TRUE(SingleInstance("torvik-other").claim());
+        EXPECT_FALSE(SingleInstance(folder).claim());
     }
-    leaveLock(lockOf(getpid(), "app_test", here)); // of a process that runs
-    EXPECT_FALSE(SingleInstance(name).claim());
-    qputenv("TMPDIR", (folder.path() / "none").c_str()); // no folder for locks
-    EXPECT_TRUE(SingleInstance(name).claim());
+    for (const fs::path& none : {home.path() / "missing", fs::path()})
+        EXPECT_TRUE(SingleInstance(none).claim() && SingleInstance(none).claim()) << none;
 }
 
-TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirst) {
-    SingleInstance first(name);
+TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirstWhateverACrashLeftBehind) {
+    const pid_t crashed = ::fork();
+    if (crashed == 0) {
+        SingleInstance copy(folder);
+        ::_exit(copy.claim() ? 0 : 1);
+    }
+    ::waitpid(crashed, nullptr, 0);
+    ASSERT_TRUE(fs::exists(folder / "torvik.socket"));
+    SingleInstance first(folder);
     ASSERT_TRUE(first.claim());
+    EXPECT_FALSE(SingleInstance(folder).claim());
     QSignalSpy asked(&first, &SingleInstance::otherStarted);
     const QString drawing = QString::fromUtf8("C:/M\xC3\xBChle\n%41.plt");
     bool answered = false;
     const std::unique_ptr<QThread> other(
-        QThread::create([&] { answered = SingleInstance(name).activateOther(drawing); }));
+        QThread::create([&] { answered = SingleInstance(folder).activateOther(drawing); }));
     other->start();
     while (!other->wait(1))
         QCoreApplication::processEvents();
@@ -68,39 +61,33 @@ TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirst) {
     EXPECT_EQ(asked.front().front().toString(), drawing);
 }
 
-TEST_F(SingleInstanceTest, ALeftOverLockDoesNotKeepTheProgramFromStarting) {
-    const std::pair<const char*, std::string> locks[] = {
-        {"of a process that has ended", lockOf(deadProcess(), "app_test", here)},
-        {"of a process whose number another program has now", lockOf(getpid(), "torvik", here)},
-        {"torn before anything was written", ""},
-        {"torn within the number", "12"},
-        {"not a lock at all", std::string("\0\xff\n\n\n", 5)},
-        {"of another machine", lockOf(1, "app_test", "another-machine")},
+TEST_F(SingleInstanceTest, CopiesMeetOnlyWhereNobodyElseCanEnter) {
+    fs::path foreign = "/root";
+    if (::geteuid() == 0) {
+        foreign = sub("foreign", 0700);
+        ASSERT_EQ(::chown(foreign.c_str(), 1, 1), 0);
+    }
+    fs::create_directory_symlink(folder, home.path() / "link");
+    const std::pair<const char*, fs::path> refused[] = {
+        {"none named", {}},
+        {"missing", home.path() / "missing"},
+        {"another user's", foreign},
+        {"open to the group", sub("shared", 0770)},
+        {"no folder", home.file("file", "")},
+        {"a link", home.path() / "link"},
     };
-    for (const auto& [what, text] : locks) {
-        leaveLock(text);
-        SingleInstance copy(name);
-        EXPECT_TRUE(copy.claim()) << what;
-        EXPECT_FALSE(SingleInstance(name).claim()) << what;
+    for (const auto& [what, named] : refused) {
+        qputenv("XDG_RUNTIME_DIR", named.c_str());
+        const fs::path used = userRuntimeFolder();
+        EXPECT_EQ(used.parent_path(), home.path()) << what; // of the caches
+        EXPECT_EQ(fs::status(used).permissions(), fs::perms::owner_all) << what;
+        fs::remove_all(used);
+        fs::create_directory_symlink(folder, used); // planted there
+        EXPECT_EQ(userRuntimeFolder(), fs::path()) << what;
+        fs::remove(used);
     }
-}
-
-TEST_F(SingleInstanceTest, ACopyThatAnswersCountsEvenWhenItsLockIsSpoilt) {
-    SingleInstance first(name);
-    ASSERT_TRUE(first.claim());
-    for (const std::string& lock :
-         {std::string(), lockOf(getpid(), "app_test", "the-name-before")}) {
-        leaveLock(lock);
-        EXPECT_FALSE(SingleInstance(name).claim()) << lock;
-    }
-}
-
-TEST_F(SingleInstanceTest, UsersHaveNamesOfTheirOwn) {
-    const QByteArray home = qgetenv("HOME");
-    const QString mine = instanceName();
-    qputenv("HOME", "/home/somebody else");
-    EXPECT_NE(instanceName(), mine);
-    qputenv("HOME", home);
+    qputenv("XDG_RUNTIME_DIR", folder.c_str());
+    EXPECT_EQ(userRuntimeFolder(), folder);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 #include "app/start_up.h"
+#include "base/user_folders.h"
 #include "tests/app/app_fixture.h"
 
 #include <QAction>
@@ -63,8 +64,8 @@ TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
 // The program's own process may not wait for itself, so a second one holds the lock here and
 // either answers or not.
 TEST_F(StartUpTest, ASecondStartThatGetsNoAnswerSaysSoAndEnds) {
-    QLockFile held(QString::fromStdString(home.path().string()) + "/" + instanceName() + ".lock");
-    ASSERT_TRUE(held.lock());
+    ProcessLock held;
+    ASSERT_EQ(held.tryLock(userRuntimeFolder() / instanceLockName), ProcessLock::Result::held);
     QString said;
     QTimer answer;
     QObject::connect(&answer, &QTimer::timeout, [&] {

@@ -27,8 +27,9 @@ Painted paint(const Job& job, const ToolList& tools, double pixelRatio = 1) {
         GetPieceScale(job.drawing, job.answers, tools, {side * 15, side * 15}, piece, logger));
     Painted painted;
     const int size = static_cast<int>(side * pixelRatio);
-    painted.depths = paintPiece(painted.image, {size, size}, plainView(4, side, pixelRatio),
-                                worksByDepth(job.drawing, job.answers, tools), piece);
+    const auto works = worksByDepth(job.drawing, job.answers, tools);
+    paintPiece(painted.image, {size, size}, plainView(4, side, pixelRatio), works, piece);
+    painted.depths = depthsOf(works);
     return painted;
 }
 

@@ -6,9 +6,11 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QTest>
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace torvik {
 namespace {
@@ -64,7 +66,6 @@ TEST_F(PreviewWidgetTest, ThePictureIsSizedAndCentred) {
     read(plate, {{1, 2}});
     const QWidget* back = child("picBack");
     const QRect plot = child("picPlot")->geometry();
-    EXPECT_FLOAT_EQ(preview.fit().gsngScale, static_cast<float>((back->width() - 16) * 15) / 100);
     EXPECT_EQ(plot.width(), back->width());
     EXPECT_EQ(plot.height(), std::lround((back->width() - 16) / 2.0 + 16));
     EXPECT_NEAR(plot.center().y(), back->rect().center().y(), 1);
@@ -111,18 +112,53 @@ TEST_F(PreviewWidgetTest, TheLegendListsTheDepthsAndGoesWithThePiece) {
     EXPECT_TRUE(child("lblLegend")->isHidden());
 }
 
-TEST_F(PreviewWidgetTest, TheLegendsLowestDiscIsWhole) {
+TEST_F(PreviewWidgetTest, ALegendOfManyDepthsScrollsByKeysAndCutsNothingOff) {
     DepthList depths;
-    for (const float depth : {1.0F, 2.0F, 3.0F})
-        SaveDepth(depths, depth);
-    for (const int height : {72, 73, 74, 80}) {
-        Legend legend;
-        legend.setDepths(depths, 1, 3);
-        legend.fitHeight(height);
-        legend.resize(legend.minimumWidth(), height);
-        const QImage shown = legend.grab().toImage();
-        for (int x = 0; x < shown.width(); ++x)
-            ASSERT_EQ(shown.pixel(x, height - 1), shown.pixel(0, 0)) << height << " at " << x;
+    for (int i = 1; i <= 20; ++i)
+        SaveDepth(depths, static_cast<float>(i) + 99.25F);
+    Legend legend;
+    legend.setAttribute(Qt::WA_DontShowOnScreen);
+    legend.setDepths(depths, 100, 120);
+    for (const QSize size : {QSize(legend.stripWidth(), 200), QSize(300, 73), QSize(310, 76)}) {
+        SCOPED_TRACE(size.width());
+        legend.resize(size);
+        legend.show();
+        EXPECT_NE(legend.focusPolicy(), Qt::NoFocus);
+        std::set<QString> seen;
+        for (int step = 0; step < 20; ++step, QTest::keyClick(&legend, Qt::Key_Down)) {
+            for (const Legend::Row& row : legend.rowsInSight())
+                seen.insert(row.text);
+            const QImage shown = legend.viewport()->grab().toImage();
+            for (int x = 0; x < shown.width(); ++x)
+                ASSERT_EQ(shown.pixel(x, shown.height() - 1), shown.pixel(0, 0)) << x;
+            for (int y = 0; y < shown.height(); ++y)
+                ASSERT_EQ(shown.pixel(shown.width() - 1, y), shown.pixel(0, 0)) << y;
+        }
+        EXPECT_EQ(seen.size(), 20U);
+        QTest::keyClick(&legend, Qt::Key_Home);
+        EXPECT_EQ(legend.rowsInSight().front().text, "100.25 mm");
+    }
+    legend.resize(400, 600);
+    EXPECT_EQ(legend.focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(PreviewWidgetTest, ThePieceIsWholeInTheMiddleWhateverBecomesOfTheDrawing) {
+    tools = toolsOf({20});
+    read("SP1;PU800,0;PD800,400", {{1, 2}});
+    preview.DrawPiece();
+    job = {};
+    for (const QSize size : {QSize(700, 500), QSize(400, 700)}) {
+        preview.resize(size);
+        const QImage shown = child("picBack")->grab().toImage();
+        QRect piece;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                if (shown.pixel(x, y) != 0xFFFFFFFF)
+                    piece |= QRect(x, y, 1, 1);
+        EXPECT_TRUE(shown.rect().adjusted(7, 7, -7, -7).contains(piece));
+        EXPECT_NEAR(piece.height(), piece.width() * 1.5, 3);
+        EXPECT_NEAR(piece.center().x(), shown.rect().center().x(), 1);
+        EXPECT_NEAR(piece.center().y(), shown.rect().center().y(), 1);
     }
 }
 

@@ -180,9 +180,29 @@ TEST_F(FrmMainTest, ARefusedDrawingLeavesNothingBehind) {
     EXPECT_EQ(job.drawing.gstrPlotFile, "");
     window->resize(1300, 900);
     settle();
-    EXPECT_FALSE(showsPicture());
+    EXPECT_FALSE(showsPicture() || find<QPushButton>("cmdContinue").isVisible());
     ASSERT_EQ(recent().size(), 1);
     EXPECT_EQ(recent()[0]->text(), "&1  bracket.plt");
+}
+
+TEST_F(FrmMainTest, TheStartPageLeadsBackToTheDrawingThatWasLeft) {
+    startDrawing();
+    fillHeights();
+    for (const char* height : {"5", "7"}) {
+        EXPECT_FALSE(find<QPushButton>("cmdContinue").isVisible());
+        type("txtGlob1", height);
+        messages.answers = {buttonYes};
+        answers.expect("dlgOpen", DialogAnswers::cancel);
+        click("cmdBack");
+        messages.take();
+        EXPECT_EQ(find<QPushButton>("cmdContinue").text(), "&Continue with drawing.plt");
+        click("cmdContinue");
+        EXPECT_EQ(shown() + text("txtGlob1"), std::string("picGlobals Back Next") + height);
+    }
+    messages.answers = {buttonYes};
+    window->ReadFile(drawing); // what was left before it was continued is no longer offered
+    messages.take();
+    EXPECT_EQ(text("txtGlob1"), "");
 }
 
 TEST_F(FrmMainTest, ADrawingOfNothingIsToldAndGoesNoFurther) {
@@ -196,7 +216,8 @@ TEST_F(FrmMainTest, ADrawingOfNothingIsToldAndGoesNoFurther) {
 }
 
 TEST_F(FrmMainTest, OpenLeavesThePageAloneUntilAnotherDrawingIsIn) {
-    const auto other = folder.file("OTHER.PLT", "SP3;PD40,40;");
+    std::filesystem::create_directory(folder.path() / "else");
+    const auto other = folder.file("else/OTHER.PLT", "SP3;PD40,40;");
     startSample("bracket");
     for (const int step : {2, 3, 4, 5, 6}) {
         go(step);
@@ -213,6 +234,7 @@ TEST_F(FrmMainTest, OpenLeavesThePageAloneUntilAnotherDrawingIsIn) {
         EXPECT_TRUE(step != 3 || text("txtDet4") == "9");
         openFromMenu(buttonYes, DialogAnswers::file(other));
         EXPECT_EQ(shown(), "picGlobals Back -Next");
+        EXPECT_EQ(registry.strRegistryValueGet("PLT File Path", ""), other.parent_path().string());
         EXPECT_FALSE(isFlashing());
         EXPECT_EQ(treeRows(), 1);
         openFromMenu(buttonYes, DialogAnswers::file(drawing));
@@ -267,6 +289,19 @@ TEST_F(FrmMainTest, ADroppedDrawingIsOpenedUnlessADialogWaits) {
     EXPECT_EQ(shown(), "picOpening Start");
     EXPECT_TRUE(drop({drawing}));
     EXPECT_EQ(job.drawing.gstrPlotFile, drawing.string());
+    // One that a second start of the program brings waits for the end of the dialog.
+    const auto second = folder.file("second.plt", threePens);
+    job.output.gblnUnsaved = false;
+    answers.expect("dlgOpen", [&](QDialog& dialog) {
+        window->ReadFileWhenFree(drawing);
+        window->ReadFileWhenFree(second);
+        QTest::qWait(150);
+        EXPECT_EQ(job.drawing.gstrPlotFile, drawing.string());
+        dialog.reject();
+    });
+    find<QAction>("mnuFileOpen").trigger();
+    settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return job.drawing.gstrPlotFile == second.string(); }));
     answers.expect("frmPrepare", [](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLabel*>("lblSource")->text(), "Part.HPGL");
         dialog.reject();

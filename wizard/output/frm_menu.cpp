@@ -34,7 +34,6 @@ FrmMenu::FrmMenu(const QString& writtenFile, QWidget* parent) : QDialog(parent) 
         new QLabel(tr("The program has been written to\n%1\n\nWhat would you like to do next?")
                        .arg(breakablePath(writtenFile)));
     label->setObjectName(QStringLiteral("lblMenu"));
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setMinimumWidth(360);
     auto* const layout = new QVBoxLayout(this);

@@ -92,7 +92,6 @@ QWidget* OutputPage::buildDrive() {
     box->setObjectName(QStringLiteral("fraDriveA"));
     m_drive = new QLabel;
     m_drive->setObjectName(QStringLiteral("lblDriveA"));
-    m_drive->setTextFormat(Qt::PlainText);
     m_drive->setWordWrap(true);
     auto* const change = new QPushButton(tr("&Change…"));
     change->setObjectName(QStringLiteral("cmdDriveA"));

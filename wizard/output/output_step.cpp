@@ -72,12 +72,14 @@ std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
     for (;;) {
         FrmOutput dialog(dialect, &m_window);
         dialog.exec();
+        if (dialog.tag().empty())
+            return 0;
         try {
             const std::int16_t number = toInt16(leadingNumber(dialog.tag()));
-            if (number >= 0)
+            if (number > 0)
                 return number;
         } catch (const Overflow&) {
-            // Told below, as a number that is less than nothing.
+            // Told below, as a number that is less than one.
         }
         m_workshop.messages.intStdMsgBox(
             tr("The program number may be 1 to 32767 only").toStdString(), styleExclamation,

@@ -53,7 +53,6 @@ QString tr(const char* text) {
 QLabel* makeLabel(QWidget& page, const QString& name, const QString& text = {}) {
     auto* label = new QLabel(text, &page);
     label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
@@ -246,8 +245,7 @@ void setToolLabel(const PenControls& controls, std::size_t label, const QString&
                                                   (text.isEmpty() ? tr("none") : text));
     // A long type is cut off in its label.
     controls.toolLabels[label]->setToolTip(
-        text.isEmpty() ? tr(about.tip)
-                       : QString("<span>%1: %2</span>").arg(tr(about.tip), text.toHtmlEscaped()));
+        text.isEmpty() ? tr(about.tip) : tr(about.tip) + QStringLiteral(": ") + text);
 }
 
 void setToolNote(const PenControls& controls, const QString& text) {

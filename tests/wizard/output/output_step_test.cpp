@@ -6,8 +6,8 @@
 #include "tests/wizard/main_window_fixture.h"
 #include "wizard/output/drive_a.h"
 
+#include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
 
 #include <sstream>
 
@@ -76,7 +76,7 @@ TEST_F(OutputTest, ANumberThatIsNoneWritesNothing) {
     choose(1);
     const std::tuple<const char*, DialogAnswers::Answer, bool> rows[] = {
         {"cancelled", DialogAnswers::press("cmdCancel"), false},
-        {"zero", DialogAnswers::number("00"), false},
+        {"zero", DialogAnswers::number("00"), true},
         {"more than a whole number holds", DialogAnswers::number("32768"), true},
         {"more than any number holds", DialogAnswers::number(std::string(400, '9')), true},
         {"pasted, less than nothing",
@@ -129,19 +129,32 @@ TEST_F(OutputTest, AnExistingProgramIsOnlyReplacedAfterAYes) {
     EXPECT_EQ(shown(), "picOutput Back Next"); // the menu was left without a choice
 }
 
-TEST_F(OutputTest, TheDrawingItselfIsNeverTheProgramsFile) {
+TEST_F(OutputTest, TheSaveDialogStartsBesideTheDrawingAndAsksOfTheWholeName) {
     choose(3);
-    const std::string before = readWholeFile(drawing, 1 << 20);
-    answers.expect("dlgSave", DialogAnswers::file(drawing));
-    answers.expect("", [](QDialog& replace) { // asked first, as of any file
-        dynamic_cast<QMessageBox&>(replace).button(QMessageBox::Yes)->click();
+    const auto other = drive / "bracket.plt";
+    std::filesystem::copy_file(drawing, other);
+    job.drawing.gstrPlotFile = other.string();
+    registry.RegistryValuePut("CNC File Path", (folder.path() / "gone").string());
+    const std::string before = readWholeFile(other, 1 << 20);
+    const auto program = drive / "part.v2.mxc";
+    std::ofstream(program) << "old";
+    answers.expect("dlgSave", [&](QDialog& dialog) {
+        const QDir start = qobject_cast<QFileDialog*>(&dialog)->directory();
+        EXPECT_EQ(start.absolutePath().toStdString(), drive.string());
+        DialogAnswers::file(other)(dialog);
     });
-    answers.expect("dlgSave", DialogAnswers::cancel);
+    for (int i = 0; i < 2; ++i)
+        answers.expect("dlgSave", DialogAnswers::file(drive / "part.v2"));
+    answers.expect("frmMenu", DialogAnswers::cancel);
+    messages.answers = {buttonOk, buttonNo, buttonYes};
     click("cmdNext");
+    const std::string asked = "Torvik|260|A file named part.v2.mxc already exists in this folder\n"
+                              "Do you want to overwrite it?";
     EXPECT_EQ(messages.take(), "Torvik|48|This is the drawing itself.\nPlease choose another name "
-                               "for the program.");
-    EXPECT_EQ(readWholeFile(drawing, 1 << 20), before);
-    expectNothingWritten();
+                               "for the program." +
+                                   asked + asked);
+    EXPECT_EQ(readWholeFile(other, 1 << 20), before);
+    EXPECT_EQ(firstBytes(program, 1), "%");
 }
 
 TEST_F(OutputTest, AFileThatCannotBeOpenedCanBeTriedAgainAndAFailedWriteShowsNoMenu) {
