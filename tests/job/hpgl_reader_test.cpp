@@ -44,8 +44,6 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         std::string drawing;
         const char* elements;
     } rows[] = {
-        {"the last semicolon of a line may be missing", "SP1\nPD40,80\nPD0,0",
-         "1 0,0>1,2; 1 1,2>0,0"},
         {"lines end at CR LF, LF or CR", "SP1\r\nPD40,0\rPD80,0\n\r\nPD0,0\r",
          "1 0,0>1,0; 1 1,0>2,0; 1 2,0>0,0"},
         {"an instruction ends with its line", "SP1;PD40\n,80;PD80,40", "1 0,0>2,1"},
@@ -65,8 +63,6 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         {"a byte that is not ASCII hides an instruction", "SP1;\xC4PD40,0;PD80,0", "1 0,0>2,0"},
         {"... or ends a number", "SP1;PD4\xB2,80", "1 0,0>0.1,2"},
         {"a NUL byte does so too", "SP1;\0PD40,0;PD4\0,80\0"s, "1 0,0>0.1,2"},
-        {"a clockwise arc has its angles exchanged", "SP1;PU400,0;AA0,0,-90",
-         "1 10,0>0,-10 cw 0,0 r 10 4.712..0"},
         {"an arc leaves the plotter at its end", "SP2;PU400,0;AA0,0,90.0,5;PD0,0",
          "2 10,0>0,10 ccw 0,0 r 10 0..1.571; 2 0,10>0,0"},
         {"missing items of AA are 0, and no sweep is clockwise", "SP1;PU400,0;AA;AA200;",
@@ -76,8 +72,8 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         {"a negative radius starts at the foot", "SP1;CI-200",
          "1 0,-5>0,-5 ccw 0,0 r 5 4.712..4.712"},
         {"a missing radius is 0", "SP1;CI;PD40,0", "1 0,0>0,0 ccw 0,0 r 0 0..0; 1 0,0>1,0"},
-        {"SP0 ends the drawing", "SP1;PD40,0;SP0;PD80,0\nPD80,0", "1 0,0>1,0"},
-        {"so does SP with a blank, which is no number", "SP1;PD40,0;SP 2;PD80,0", "1 0,0>1,0"},
+        {"SP with a blank ends the drawing, which is no number", "SP1;PD40,0;SP 2;PD80,0",
+         "1 0,0>1,0"},
         {"so does a negative pen", "SP1;PD40,0;SP-40000;PD80,0", "1 0,0>1,0"},
         {"nothing after SP0 is checked", "SP8;PD40,0;SP0;PD1E999,0;SP99999;SP9;PD0,0", "8 0,0>1,0"},
         {"a pen is rounded, half to even", "SP2.5;PD40,0;SP3.5;PD0,0;SP0.6;PD40,0",
@@ -93,8 +89,7 @@ TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
     const struct {
         const char* says;
         const char* drawing;
-        long lost;
-        long harmless;
+        long lost, harmless;
         bool isPlain;
     } rows[] = {
         {"its own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1, true},
@@ -128,9 +123,9 @@ TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
     };
     for (const auto& row : rows) {
         const Reading reading = readDrawing(row.drawing).drawing.reading;
-        EXPECT_EQ(reading.lost, row.lost) << row.says;
-        EXPECT_EQ(reading.harmless, row.harmless) << row.says;
-        EXPECT_EQ(reading.isPlain, row.isPlain) << row.says;
+        EXPECT_EQ(std::tuple(reading.lost, reading.harmless, reading.isPlain),
+                  std::tuple(row.lost, row.harmless, row.isPlain))
+            << row.says;
     }
 }
 
@@ -184,10 +179,7 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
     }
     EXPECT_TRUE(read(full));
     EXPECT_EQ(job.drawing.gintPathCount, 32767);
-    std::filesystem::remove(name);
-    EXPECT_FALSE(blnGetCommands(job, name, logger));
-    EXPECT_EQ(causes.back(), name + ": the file does not exist");
-    EXPECT_EQ(causes.size(), std::size(rows) + 1) << "each is reported once";
+    EXPECT_EQ(causes.size(), std::size(rows)) << "each is reported once";
 }
 
 TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
