@@ -10,60 +10,32 @@
 namespace torvik {
 namespace {
 
-std::string contents(const std::filesystem::path& file) {
-    return readWholeFile(file, 1 << 20);
-}
-
-TEST(WriteFile, BeginsEachProgramAnew) {
-    const TemporaryFolder folder;
-    const auto program = folder.file("%MPF12", "an earlier program, " + std::string(200, 'x'));
-    JobToWrite work("SP1;");
-    ASSERT_EQ(WriteFile(work.job, work.tools, targetWinCam, 12, program, work.logger),
-              WriteOutcome::written);
-    EXPECT_EQ(contents(program), "%MPF12\r\nN1 G54\r\nN2 G97 G94\r\nN3 G58 X0 Y0 Z0\r\n"
-                                 "N4 G0 Z5.00\r\nN5 G0 Z50.00 M5\r\nN6 M30\r\n");
-    EXPECT_EQ(work.reports, "");
-}
-
 TEST(WriteFile, ReportsAFailureOnce) {
     // The buffer of the output is filled by the second and flushed at the end by the first.
-    for (const std::size_t nameLength : {std::size_t{0}, std::size_t{300000}})
-        for (const std::int16_t target : {targetWinNc, targetMaskor}) {
-            JobToWrite work("SP1;");
-            work.job.answers.gstrHeader[headerPartName] = std::string(nameLength, 'x');
-            EXPECT_EQ(WriteFile(work.job, work.tools, target, 1, "/dev/full", work.logger),
-                      WriteOutcome::failed);
-            EXPECT_EQ(work.reports,
-                      "/dev/full: the file cannot be written: No space left on device;");
-        }
+    for (const std::size_t nameLength : {std::size_t{0}, std::size_t{300000}}) {
+        JobToWrite work("SP1;");
+        work.job.answers.gstrHeader[headerPartName] = std::string(nameLength, 'x');
+        EXPECT_EQ(WriteFile(work.job, work.tools, targetMaskor, 1, "/dev/full", work.logger),
+                  WriteOutcome::failed);
+        EXPECT_EQ(work.reports, "/dev/full: the file cannot be written: No space left on device;");
+    }
 }
 
-TEST(WriteFile, TellsWhichFileFails) {
+TEST(WriteFile, TellsWhichFileFailsAndLeavesTheOther) {
     const TemporaryFolder folder;
-    JobToWrite work("SP1;");
-    EXPECT_EQ(WriteFile(work.job, work.tools, targetWinCam, 1, folder.path(), work.logger),
-              WriteOutcome::notOpened);
-    EXPECT_EQ(work.reports, "");
-
-    const auto program = folder.path() / "oprg1";
+    const auto program = folder.file("oprg1", std::string(300, 'x'));
     std::filesystem::create_directory(sideTextPath(program));
+    JobToWrite work("SP1;");
     EXPECT_EQ(WriteFile(work.job, work.tools, targetWinNc, 1, program, work.logger),
               WriteOutcome::failed);
     EXPECT_TRUE(work.reports.starts_with(utf8FromPath(sideTextPath(program)) + ": "))
         << work.reports;
-    EXPECT_TRUE(contents(program).ends_with("M30\r\n%\r\n")) << "what was written stays";
+    EXPECT_TRUE(readWholeFile(program, 1000).ends_with("M30\r\n%\r\n")) << "and nothing of before";
 }
 
 TEST(ProposedFileName, ReplacesThreeCharacters) {
-    const struct {
-        const char* drawing;
-        std::int16_t target;
-        const char* name;
-    } rows[] = {{"/jobs/gear.plt", targetMaskor, "gear.mxc"},
-                {"gear.hpgl", targetMaskor, "gear.hmxc"},
-                {"ab", targetKestra, "iso"}};
-    for (const auto& row : rows)
-        EXPECT_EQ(proposedFileName(dialectFor(row.target), row.drawing, 7), row.name);
+    EXPECT_EQ(proposedFileName(dialectFor(targetMaskor), "/jobs/gear.hpgl", 7), "gear.hmxc");
+    EXPECT_EQ(proposedFileName(dialectFor(targetKestra), "ab", 7), "iso");
 }
 
 } // namespace
