@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
-#include "tests/base/temporary_folder.h"
+#include "tests/app/app_fixture.h"
 
 #include <QSignalSpy>
 #include <QSysInfo>
@@ -15,27 +15,14 @@ namespace {
 
 const QString name = "torvik-test";
 
-// A process that has just ended.
-pid_t deadProcess() {
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(0);
-    waitpid(child, nullptr, 0);
-    return child;
-}
-
-class SingleInstanceTest : public testing::Test {
+class SingleInstanceTest : public AppTest {
 protected:
-    void SetUp() override { qputenv("TMPDIR", folder.path().c_str()); }
-    void TearDown() override { qunsetenv("TMPDIR"); }
-
     // What a lock file says: the process, its program, its machine.
     static std::string lockOf(pid_t process, const std::string& program, const std::string& host) {
         return std::to_string(process) + "\n" + program + "\n" + host + "\n";
     }
-    void leaveLock(const std::string& text) const { folder.file("torvik-test.lock", text); }
+    void leaveLock(const std::string& text) const { home.file("torvik-test.lock", text); }
 
-    TemporaryFolder folder;
     const std::string here = QSysInfo::machineHostName().toStdString();
 };
 
@@ -48,7 +35,7 @@ TEST_F(SingleInstanceTest, OnlyOneOfTwoCopiesClaimsUntilItEnds) {
     }
     leaveLock(lockOf(getpid(), "app_test", here)); // of a process that runs
     EXPECT_FALSE(SingleInstance(name).claim());
-    qputenv("TMPDIR", (folder.path() / "none").c_str()); // no folder for locks
+    qputenv("TMPDIR", (home.path() / "none").c_str()); // no folder for locks
     EXPECT_TRUE(SingleInstance(name).claim());
 }
 
@@ -69,8 +56,12 @@ TEST_F(SingleInstanceTest, TheSecondCopyReachesTheFirst) {
 }
 
 TEST_F(SingleInstanceTest, ALeftOverLockDoesNotKeepTheProgramFromStarting) {
+    const pid_t dead = fork();
+    if (dead == 0)
+        _exit(0);
+    waitpid(dead, nullptr, 0);
     const std::pair<const char*, std::string> locks[] = {
-        {"of a process that has ended", lockOf(deadProcess(), "app_test", here)},
+        {"of a process that has ended", lockOf(dead, "app_test", here)},
         {"of a process whose number another program has now", lockOf(getpid(), "torvik", here)},
         {"torn before anything was written", ""},
         {"torn within the number", "12"},
@@ -96,11 +87,9 @@ TEST_F(SingleInstanceTest, ACopyThatAnswersCountsEvenWhenItsLockIsSpoilt) {
 }
 
 TEST_F(SingleInstanceTest, UsersHaveNamesOfTheirOwn) {
-    const QByteArray home = qgetenv("HOME");
     const QString mine = instanceName();
     qputenv("HOME", "/home/somebody else");
     EXPECT_NE(instanceName(), mine);
-    qputenv("HOME", home);
 }
 
 } // namespace
