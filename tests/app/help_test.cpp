@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBlock>
@@ -22,12 +21,9 @@
 namespace torvik {
 namespace {
 
-QString shownTopic(const HelpWindow& help) {
-    return help.findChild<QTextBrowser*>("txtHelp")->source().fileName();
-}
-
-QString topic(int number) {
-    return QFileInfo(HelpWindow::topicFile(number)).fileName();
+void expectShown(const HelpWindow& help, int topic) {
+    EXPECT_EQ(help.findChild<QTextBrowser*>("txtHelp")->source().fileName(),
+              QFileInfo(HelpWindow::topicFile(topic)).fileName());
 }
 
 TEST(HelpTopics, AreAllBuiltIn) {
@@ -57,20 +53,20 @@ TEST(HelpWindow, ShowsTheTopicMarksItInTheContentsAndFollowsLinks) {
     auto& contents = *help.findChild<QListWidget*>("lstHelp");
     auto& page = *help.findChild<QTextBrowser*>("txtHelp");
     help.showTopic(242);
-    EXPECT_EQ(shownTopic(help), topic(242));
+    expectShown(help, 242);
     EXPECT_EQ(contents.currentItem()->text(), "Final pass depth of cut");
 
     ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
     expectReachable(help);
     QTest::keyClick(&page, Qt::Key_Tab); // to the first link
     QTest::keyClick(&page, Qt::Key_Return);
-    EXPECT_EQ(shownTopic(help), topic(244));
+    expectShown(help, 244);
     EXPECT_EQ(contents.currentItem()->text(), "Final pass horizontal feed rate");
 
     contents.setCurrentRow(0);
-    EXPECT_EQ(shownTopic(help), topic(1));
-    help.showTopic(7777);
-    EXPECT_EQ(shownTopic(help), topic(1)) << "a number without a topic opens the contents";
+    expectShown(help, 1);
+    help.showTopic(7777); // a number without a topic
+    expectShown(help, 1);
     QTest::keyClick(&help, Qt::Key_Escape);
     EXPECT_FALSE(help.isVisible());
 }
@@ -127,13 +123,13 @@ TEST_F(HelpKeyTest, HelpsInADialogThatWaitsAndCanBeUsedBesideIt) {
     QTimer::singleShot(0, &dialog, [&] {
         QApplication::setActiveWindow(&dialog);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
-        EXPECT_EQ(shownTopic(help), topic(60));
+        expectShown(help, 60);
         auto& contents = *help.findChild<QListWidget*>("lstHelp");
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
         const QPoint first = contents.visualItemRect(contents.item(0)).center();
         QTest::mouseClick(help.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           contents.viewport()->mapTo(&help, first));
-        EXPECT_EQ(shownTopic(help), topic(1)) << "the dialog does not block the help window";
+        expectShown(help, 1);
         dialog.reject();
     });
     dialog.exec();

@@ -13,8 +13,6 @@
 namespace torvik {
 namespace {
 
-const QPalette dark(QColor(49, 54, 59), QColor(42, 46, 50));
-
 // How well two colours can be told apart, 1 to 21.
 double contrast(QRgb a, QRgb b) {
     const auto light = [](QRgb colour) {
@@ -35,28 +33,22 @@ QImage picture(const QPalette& palette, QStyle& style) {
     return button.grab().toImage();
 }
 
-template <typename Button>
-class IndicatorStyleTest : public testing::Test {
-protected:
-    IndicatorStyle style{QStyleFactory::create("Fusion")};
-};
-
-using Buttons = testing::Types<QRadioButton, QCheckBox>;
-TYPED_TEST_SUITE(IndicatorStyleTest, Buttons);
-
-TYPED_TEST(IndicatorStyleTest, ShowsTheEdgesOnADarkDesktop) {
-    const QImage shown = picture<TypeParam>(dark, this->style);
-    const QRgb around = dark.color(QPalette::Window).rgb();
-    double best = 1;
-    for (int x = 0; x < shown.width(); ++x)
-        best = std::max(best, contrast(shown.pixel(x, shown.height() / 2), around));
-    EXPECT_GT(best, 3);
-}
-
-TYPED_TEST(IndicatorStyleTest, LeavesALightDesktopAsItIs) {
+TEST(IndicatorStyle, ShowsTheEdgesOnADarkDesktopAndLeavesALightOneAsItIs) {
+    IndicatorStyle style(QStyleFactory::create("Fusion"));
     const std::unique_ptr<QStyle> plain(QStyleFactory::create("Fusion"));
     const QPalette light(QColor(239, 239, 239));
-    EXPECT_EQ(picture<TypeParam>(light, this->style), picture<TypeParam>(light, *plain));
+    EXPECT_EQ(picture<QRadioButton>(light, style), picture<QRadioButton>(light, *plain));
+    EXPECT_EQ(picture<QCheckBox>(light, style), picture<QCheckBox>(light, *plain));
+
+    const QPalette dark(QColor(49, 54, 59), QColor(42, 46, 50));
+    const QRgb around = dark.color(QPalette::Window).rgb();
+    for (const QImage& shown :
+         {picture<QRadioButton>(dark, style), picture<QCheckBox>(dark, style)}) {
+        double best = 1;
+        for (int x = 0; x < shown.width(); ++x)
+            best = std::max(best, contrast(shown.pixel(x, shown.height() / 2), around));
+        EXPECT_GT(best, 3);
+    }
 }
 
 } // namespace

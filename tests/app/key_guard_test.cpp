@@ -11,26 +11,14 @@
 namespace torvik {
 namespace {
 
-struct Press {
-    const char* name;
-    int key;
-    quint64 released; // 0: never
-    quint64 pressed;
-    qint64 afterShow;
-    bool repeat;
-    bool arrives;
-};
-
-class Seen : public QObject {
-public:
-    explicit Seen(bool& arrived) : m_arrived(arrived) {}
+class KeyGuardTest : public QObject, public testing::Test {
+protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        m_arrived = m_arrived || event->type() == QEvent::KeyPress;
+        arrived = arrived || event->type() == QEvent::KeyPress;
         return false;
     }
 
-private:
-    bool& m_arrived;
+    bool arrived = false;
 };
 
 void send(QWidget& to, QEvent::Type type, int key, quint64 time, bool repeat) {
@@ -39,23 +27,29 @@ void send(QWidget& to, QEvent::Type type, int key, quint64 time, bool repeat) {
     QApplication::sendEvent(&to, &event);
 }
 
-TEST(KeyGuard, HoldsBackRepeatsAndKeysForDialogsJustShown) {
-    constexpr Press presses[] = {
-        {"a fresh Enter in a dialog seen for long", Qt::Key_Enter, 0, 1000, 300, false, true},
-        {"one just before the time is over", Qt::Key_Enter, 0, 1000, 299, false, false},
-        {"Return in a dialog just shown", Qt::Key_Return, 0, 1000, 0, false, false},
-        {"Escape in a dialog just shown", Qt::Key_Escape, 0, 1000, 10, false, false},
-        {"Space in a dialog just shown", Qt::Key_Space, 0, 1000, 10, false, false},
-        {"a letter in a dialog just shown", Qt::Key_Y, 0, 1000, 0, false, true},
-        {"a repeat that is marked", Qt::Key_Return, 0, 1000, 900, true, false},
-        {"a repeated Space", Qt::Key_Space, 0, 1000, 900, true, false},
-        {"a repeated arrow", Qt::Key_Down, 0, 1000, 900, true, true},
-        {"a press with its own release", Qt::Key_Escape, 1000, 1000, 900, false, false},
-        {"a press 5 ms after the release", Qt::Key_Enter, 995, 1000, 900, false, false},
-        {"a press 6 ms after the release", Qt::Key_Enter, 994, 1000, 900, false, true},
+constexpr quint64 never = 1000;
+
+TEST_F(KeyGuardTest, HoldsBackRepeatsAndKeysForDialogsJustShown) {
+    const struct {
+        const char* says;
+        int key;
+        qint64 afterShow;
+        quint64 sinceRelease; // the press is at 1000
+        bool repeat, arrives;
+    } rows[] = {
+        {"a fresh Enter in a dialog seen for long", Qt::Key_Enter, 300, never, false, true},
+        {"one just before the time is over", Qt::Key_Enter, 299, never, false, false},
+        {"Return in a dialog just shown", Qt::Key_Return, 0, never, false, false},
+        {"Escape in a dialog just shown", Qt::Key_Escape, 10, never, false, false},
+        {"Space in a dialog just shown", Qt::Key_Space, 10, never, false, false},
+        {"a letter in a dialog just shown", Qt::Key_Y, 0, never, false, true},
+        {"a repeat that is marked", Qt::Key_Return, 900, never, true, false},
+        {"a repeated arrow", Qt::Key_Down, 900, never, true, true},
+        {"a press with its own release", Qt::Key_Escape, 900, 0, false, false},
+        {"a press 5 ms after the release", Qt::Key_Enter, 900, 5, false, false},
+        {"a press 6 ms after the release", Qt::Key_Enter, 900, 6, false, true},
     };
-    for (const Press& row : presses) {
-        SCOPED_TRACE(row.name);
+    for (const auto& row : rows) {
         qint64 now = 50;
         const KeyGuard guard([&now] { return now; });
         QDialog dialog;
@@ -64,14 +58,13 @@ TEST(KeyGuard, HoldsBackRepeatsAndKeysForDialogsJustShown) {
         dialog.show();
         QApplication::setActiveWindow(&dialog);
         button.setFocus();
-        bool arrived = false;
-        Seen seen(arrived);
-        button.installEventFilter(&seen);
+        arrived = false;
+        button.installEventFilter(this);
         now += row.afterShow;
-        if (row.released != 0)
-            send(button, QEvent::KeyRelease, row.key, row.released, false);
-        send(button, QEvent::KeyPress, row.key, row.pressed, row.repeat);
-        EXPECT_EQ(arrived, row.arrives);
+        if (row.sinceRelease != never)
+            send(button, QEvent::KeyRelease, row.key, 1000 - row.sinceRelease, false);
+        send(button, QEvent::KeyPress, row.key, 1000, row.repeat);
+        EXPECT_EQ(arrived, row.arrives) << row.says;
     }
 }
 

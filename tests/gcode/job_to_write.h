@@ -40,7 +40,6 @@ struct JobToWrite {
             {"speed", &Settings::sngSpindleSpeed},
             {"feed", &Settings::sngFeedHorizontal},
             {"finalFeed", &Settings::sngFeedFinalPass},
-            {"feedDown", &Settings::sngFeedVertical},
             {"depth", &Settings::sngDepth},
             {"step", &Settings::sngDepthPerPass},
             {"final", &Settings::sngFinalPassDepth},
@@ -62,8 +61,6 @@ struct JobToWrite {
             Settings& settings = of(word[0] - '0', dot == 3 ? word[2] - '0' : 0);
             if (name == "tool")
                 settings.intTool = toInt16(value);
-            else if (name == "peck")
-                settings.blnPeck = value != 0;
             else
                 settings.*fields.at(name) = value;
         }

@@ -44,17 +44,12 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         std::string drawing;
         const char* elements;
     } rows[] = {
-        {"an empty file is an empty drawing", "", ""},
-        {"forty units are a millimetre", "SP1;PU400,400;PD800,404;SP0;", "1 10,10>20,10.1"},
-        {"the last semicolon of a line may be missing", "SP1\nPD40,80\nPD0,0",
-         "1 0,0>1,2; 1 1,2>0,0"},
         {"lines end at CR LF, LF or CR", "SP1\r\nPD40,0\rPD80,0\n\r\nPD0,0\r",
          "1 0,0>1,0; 1 1,0>2,0; 1 2,0>0,0"},
         {"an instruction ends with its line", "SP1;PD40\n,80;PD80,40", "1 0,0>2,1"},
         {"blanks at both ends of a line are trimmed", "  SP1;\n  PD40,80  \n", "1 0,0>1,2"},
         {"a tab at the start of a line is not", "SP1;\n\tPD40,80;PD80,80", "1 0,0>2,2"},
         {"a blank is a comma, which leaves X empty", "SP1;PD 400 400;", "1 0,0>0,10"},
-        {"a blank between X and Y is the comma", "SP1;PD400 800", "1 0,0>10,20"},
         {"a blank after the comma leaves Y empty", "SP1;PD400, 800", "1 0,0>10,0"},
         {"a blank after a semicolon hides the instruction", "SP1; PD40,0;PD80,0", "1 0,0>2,0"},
         {"tabs before a number are skipped", "SP1;PD\t40,\t80", "1 0,0>1,2"},
@@ -68,8 +63,6 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         {"a byte that is not ASCII hides an instruction", "SP1;\xC4PD40,0;PD80,0", "1 0,0>2,0"},
         {"... or ends a number", "SP1;PD4\xB2,80", "1 0,0>0.1,2"},
         {"a NUL byte does so too", "SP1;\0PD40,0;PD4\0,80\0"s, "1 0,0>0.1,2"},
-        {"a clockwise arc has its angles exchanged", "SP1;PU400,0;AA0,0,-90",
-         "1 10,0>0,-10 cw 0,0 r 10 4.712..0"},
         {"an arc leaves the plotter at its end", "SP2;PU400,0;AA0,0,90.0,5;PD0,0",
          "2 10,0>0,10 ccw 0,0 r 10 0..1.571; 2 0,10>0,0"},
         {"missing items of AA are 0, and no sweep is clockwise", "SP1;PU400,0;AA;AA200;",
@@ -79,9 +72,8 @@ TEST(HpglReader, ReadsWhatADrawingHolds) {
         {"a negative radius starts at the foot", "SP1;CI-200",
          "1 0,-5>0,-5 ccw 0,0 r 5 4.712..4.712"},
         {"a missing radius is 0", "SP1;CI;PD40,0", "1 0,0>0,0 ccw 0,0 r 0 0..0; 1 0,0>1,0"},
-        {"SP0 ends the drawing", "SP1;PD40,0;SP0;PD80,0\nPD80,0", "1 0,0>1,0"},
-        {"so does SP without a number", "SP1;PD40,0;SP;PD80,0", "1 0,0>1,0"},
-        {"so does SP with a blank, which is no number", "SP1;PD40,0;SP 2;PD80,0", "1 0,0>1,0"},
+        {"SP with a blank ends the drawing, which is no number", "SP1;PD40,0;SP 2;PD80,0",
+         "1 0,0>1,0"},
         {"so does a negative pen", "SP1;PD40,0;SP-40000;PD80,0", "1 0,0>1,0"},
         {"nothing after SP0 is checked", "SP8;PD40,0;SP0;PD1E999,0;SP99999;SP9;PD0,0", "8 0,0>1,0"},
         {"a pen is rounded, half to even", "SP2.5;PD40,0;SP3.5;PD0,0;SP0.6;PD40,0",
@@ -97,8 +89,7 @@ TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
     const struct {
         const char* says;
         const char* drawing;
-        long lost;
-        long harmless;
+        long lost, harmless;
         bool isPlain;
     } rows[] = {
         {"its own instructions are whole", "IN;SP1;PU0,0;PD1,1;AA0,0,9;CI5,1;SP0;", 0, 1, true},
@@ -132,9 +123,9 @@ TEST(HpglReader, CountsWhatItDoesNotReadAsWritten) {
     };
     for (const auto& row : rows) {
         const Reading reading = readDrawing(row.drawing).drawing.reading;
-        EXPECT_EQ(reading.lost, row.lost) << row.says;
-        EXPECT_EQ(reading.harmless, row.harmless) << row.says;
-        EXPECT_EQ(reading.isPlain, row.isPlain) << row.says;
+        EXPECT_EQ(std::tuple(reading.lost, reading.harmless, reading.isPlain),
+                  std::tuple(row.lost, row.harmless, row.isPlain))
+            << row.says;
     }
 }
 
@@ -188,21 +179,14 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
     }
     EXPECT_TRUE(read(full));
     EXPECT_EQ(job.drawing.gintPathCount, 32767);
-    std::filesystem::remove(name);
-    EXPECT_FALSE(blnGetCommands(job, name, logger));
-    EXPECT_EQ(causes.back(), name + ": the file does not exist");
-    EXPECT_EQ(causes.size(), std::size(rows) + 1) << "each is reported once";
+    EXPECT_EQ(causes.size(), std::size(rows)) << "each is reported once";
 }
 
 TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
     job = setUpDrawing("SP3;CI40;SP4;PD1,1");
-    job.answers.gudtPens[3].blnDrill = job.answers.gudtPens[4].blnOmit = job.answers.gblnOrderSet =
-        true;
     job.answers.gsngToolChangeHeight = job.answers.gsngSafeHeight = job.answers.gsngRapidDownTo =
         job.answers.gsngFeedFactor = 60;
-    job.position.gintCurrentPen = job.answers.gintOrder[1] = job.answers.gintOrderCount = 3;
-    job.answers.gstrHeader[headerDesigner] = "Ada";
-    job.position.gudtColourTree.emplace_back();
+    job.position.gintCurrentPen = 3;
     ASSERT_TRUE(read("SP1;CI;CI40;SP0"));
     EXPECT_EQ(job.drawing.gstrPlotFile, name);
     EXPECT_TRUE(job.output.gblnUnsaved);
@@ -210,13 +194,7 @@ TEST_F(DrawingFile, ThatIsReadStartsAFreshJob) {
     EXPECT_EQ(std::tuple(job.answers.gsngToolChangeHeight, job.answers.gsngSafeHeight,
                          job.answers.gsngRapidDownTo, job.answers.gsngFeedFactor),
               std::tuple(50, 0, 2, 0));
-    EXPECT_EQ(job.position.gintCurrentPen + job.answers.gintOrder[1] + job.answers.gintOrderCount,
-              0);
-    EXPECT_FALSE(job.answers.gudtPens[3].blnDrill || job.answers.gudtPens[4].blnOmit ||
-                 job.answers.gblnOrderSet);
-    EXPECT_EQ(job.answers.gintSettingsCount + job.answers.gudtSettings.count(), 0);
-    EXPECT_TRUE(job.answers.gstrHeader[headerDesigner].empty() &&
-                job.position.gudtColourTree.empty());
+    EXPECT_EQ(job.position.gintCurrentPen + job.answers.gintSettingsCount, 0);
     EXPECT_TRUE(causes.empty());
     EXPECT_NE(readWholeFile(folder.path() / "log", 10000)
                   .find("error sngArcCos (modHpgl): a number was divided by zero"),

@@ -4,40 +4,27 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
-#include <string_view>
 
 namespace torvik {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Room {
-    std::set<std::string> mayInclude;
-    bool windows = false;
-};
-
-using Rooms = std::map<std::string, Room>;
+// What each room may include; Qt counts as a room.
+using Rooms = std::map<std::string, std::set<std::string>>;
 
 Rooms readRooms(std::istream& table) {
     Rooms rooms;
     for (std::string line; std::getline(table, line);) {
-        if (line.empty() || line[0] == '#')
-            continue;
         std::istringstream words(line);
         std::string name;
-        std::string word;
-        words >> name;
-        Room& room = rooms[name];
-        words >> word; // the colon
-        while (words >> word) {
-            if (word == "Qt")
-                room.windows = true;
-            else
-                room.mayInclude.insert(word);
-        }
+        std::string colon;
+        if (words >> name >> colon && name[0] != '#')
+            rooms[name] = {std::istream_iterator<std::string>(words), {}};
     }
     return rooms;
 }
@@ -45,7 +32,7 @@ Rooms readRooms(std::istream& table) {
 // The room of a file's path, empty where it stands in none.
 std::string roomOf(const Rooms& rooms, const std::string& path) {
     std::string found;
-    for (const auto& [name, room] : rooms)
+    for (const auto& [name, mayInclude] : rooms)
         if (path.starts_with(name + "/") && name.size() > found.size())
             found = name;
     return found;
@@ -53,15 +40,14 @@ std::string roomOf(const Rooms& rooms, const std::string& path) {
 
 // Rooms lead upward only: one whose rooms are all known to be below it is below the next.
 std::string cycleOf(const Rooms& rooms) {
-    std::set<std::string> below;
+    std::set<std::string> below{"Qt"};
     for (bool grows = true; grows;) {
         grows = false;
-        for (const auto& [name, room] : rooms)
-            if (std::includes(below.begin(), below.end(), room.mayInclude.begin(),
-                              room.mayInclude.end()))
+        for (const auto& [name, mayInclude] : rooms)
+            if (std::includes(below.begin(), below.end(), mayInclude.begin(), mayInclude.end()))
                 grows = below.insert(name).second || grows;
     }
-    for (const auto& [name, room] : rooms)
+    for (const auto& [name, mayInclude] : rooms)
         if (!below.contains(name))
             return name + " is part of a cycle or includes an unknown room";
     return {};
@@ -69,7 +55,7 @@ std::string cycleOf(const Rooms& rooms) {
 
 bool namesTarget(const std::string& path, std::string code) {
     std::transform(code.begin(), code.end(), code.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+                   [](unsigned char c) { return std::tolower(c); });
     const auto names = [&](const char* target) { return code.find(target) != std::string::npos; };
     // The settings that the workshop's programs share bear the last name, too.
     return !path.starts_with("gcode/dialects.") &&
@@ -79,17 +65,15 @@ bool namesTarget(const std::string& path, std::string code) {
 
 // What is wrong with one line, empty where nothing is.
 std::string faultOf(const Rooms& rooms, const std::string& path, const std::string& line) {
-    constexpr std::string_view ownInclude = "#include \"";
     const std::string from = roomOf(rooms, path);
-    if (line.starts_with(ownInclude)) {
-        const std::string file =
-            line.substr(ownInclude.size(), line.rfind('"') - ownInclude.size());
+    const std::set<std::string>& mayInclude = rooms.at(from);
+    if (line.starts_with("#include \"")) {
+        const std::string file = line.substr(10, line.rfind('"') - 10);
         const std::string to = roomOf(rooms, file);
-        const bool hasFolder = file.find('/') != std::string::npos;
-        if (hasFolder && to != from && (to.empty() || !rooms.at(from).mayInclude.contains(to)))
+        if (file.find('/') != file.npos && to != from && !mayInclude.contains(to))
             return "may not include " + file;
     }
-    if (!rooms.at(from).windows && line.starts_with("#include <Q"))
+    if (!mayInclude.contains("Qt") && line.starts_with("#include <Q"))
         return "may not include Qt";
     if (namesTarget(path, line.substr(0, line.find("//"))))
         return "names a target";
@@ -103,7 +87,7 @@ std::set<std::string> faultsOf(const Rooms& rooms, const fs::path& root) {
     std::set<std::string> faults;
     if (const std::string cycle = cycleOf(rooms); !cycle.empty())
         faults.insert(cycle);
-    for (const auto& [name, room] : rooms)
+    for (const auto& [name, mayInclude] : rooms)
         if (!fs::exists(root / name))
             faults.insert(name + " is no folder");
     for (auto entry = fs::recursive_directory_iterator(root); entry != fs::end(entry); ++entry) {

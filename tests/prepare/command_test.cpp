@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // torvik-prepare as it is called: what it writes, says and exits with.
+#include "base/files.h"
 #include "prepare/command/preparer.h"
 #include "tests/base/temporary_folder.h"
 
@@ -24,8 +25,7 @@ protected:
     }
 
     std::string content(const std::string& name) const {
-        std::ifstream file(folder.path() / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return readWholeFile(folder.path() / name, 1000);
     }
 
     TemporaryFolder folder;
@@ -79,11 +79,11 @@ TEST_F(Command, TakesEveryOption) {
 }
 
 TEST_F(Command, TakesPicturesAndTheirColours) {
-    folder.file("a.SVG", R"(<svg xmlns="http://www.w3.org/2000/svg" width="1mm" height="1mm" )"
-                         R"(viewBox="0 0 1 1"><path d="M0 1h1v-1" fill="none" stroke="#102030"/>)"
-                         R"(</svg>)");
-    EXPECT_EQ(run("@a.SVG --pen #102030=1"), 0);
-    EXPECT_EQ(content("a-torvik.plt"), square);
+    folder.file("a.b.SVG", R"(<svg xmlns="http://www.w3.org/2000/svg" width="1mm" height="1mm" )"
+                           R"(viewBox="0 0 1 1"><path d="M0 1h1v-1" fill="none" stroke="#102030"/>)"
+                           R"(</svg>)");
+    EXPECT_EQ(run("@a.b.SVG --pen #102030=1"), 0);
+    EXPECT_EQ(content("a.b-torvik.plt"), square);
 }
 
 TEST_F(Command, SaysWhatIsWrongWithItsUsage) {
@@ -98,7 +98,6 @@ TEST_F(Command, SaysWhatIsWrongWithItsUsage) {
         const std::string message = err.str();
         EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
     }
-    EXPECT_FALSE(fs::exists(folder.path() / "a-torvik.plt"));
     EXPECT_EQ(run("--help"), 0);
     EXPECT_NE(out.str().find("--drop-duplicates"), std::string::npos);
 }

@@ -6,6 +6,7 @@
 #include "base/picture.h"
 #include "prepare/strokes.h"
 
+#include <exception>
 #include <span>
 #include <string>
 
@@ -24,29 +25,37 @@ inline std::string pointText(Point p) {
     return shortNumber(p.x) + "," + shortNumber(p.y);
 }
 
-inline std::string strokeText(const Stroke& stroke) {
-    std::string text = std::to_string(stroke.pen) + ":";
-    if (stroke.isCircle()) {
-        const Point centre = stroke.segments[0].first;
-        return text + " O" + pointText(centre) + " r" + shortNumber(distance(centre, stroke.start));
+// What is said where the work is refused; nothing where it is done.
+template <typename Work>
+std::string refusal(const Work& work) {
+    try {
+        work();
+    } catch (const std::exception& error) {
+        return error.what();
     }
-    text += " " + pointText(stroke.start);
-    for (const Segment& segment : stroke.segments) {
-        if (segment.kind == SegmentKind::arc)
-            text += " A" + pointText(segment.first) + " " + shortNumber(segment.sweep) + ">";
-        else if (segment.kind == SegmentKind::curve)
-            text += " B" + pointText(segment.first) + " " + pointText(segment.second) + ">";
-        else
-            text += " L";
-        text += pointText(segment.end);
-    }
-    return text;
+    return "";
 }
 
 inline std::string strokesText(std::span<const Stroke> strokes) {
     std::string text;
-    for (const Stroke& stroke : strokes)
-        text += (text.empty() ? "" : "; ") + strokeText(stroke);
+    for (const Stroke& stroke : strokes) {
+        text += (text.empty() ? "" : "; ") + std::to_string(stroke.pen) + ": ";
+        if (stroke.isCircle()) {
+            const Point centre = stroke.segments[0].first;
+            text += "O" + pointText(centre) + " r" + shortNumber(distance(centre, stroke.start));
+            continue;
+        }
+        text += pointText(stroke.start);
+        for (const Segment& segment : stroke.segments) {
+            if (isArc(segment))
+                text += " A" + pointText(segment.first) + " " + shortNumber(segment.sweep) + ">";
+            else if (isLine(segment))
+                text += " L";
+            else
+                text += " B" + pointText(segment.first) + " " + pointText(segment.second) + ">";
+            text += pointText(segment.end);
+        }
+    }
     return text;
 }
 

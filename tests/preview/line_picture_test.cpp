@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "preview/depths.h"
 #include "preview/line_picture.h"
 #include "tests/preview/machined_job.h"
 
@@ -24,6 +25,13 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(ScaleFactors, LinePictureTest, testing::Values(1.0, 1.25, 1.5, 2.0));
+
+TEST(LngPenColour, KnowsPens1To8Only) {
+    Job job;
+    SetColourDefinitions(job);
+    EXPECT_THROW(lngPenColour(job.answers, 0), SubscriptOutOfRange);
+    EXPECT_THROW(lngPenColour(job.answers, 9), SubscriptOutOfRange);
+}
 
 TEST_P(LinePictureTest, HiddenPathsLeaveNoTraceAndNoGapAndComeBack) {
     Job others = job;

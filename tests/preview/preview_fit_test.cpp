@@ -26,42 +26,26 @@ void expectNumbers(std::vector<double> found, const std::vector<double>& expecte
 
 TEST(GetScale, FitsDrawings) {
     const struct {
-        const char* name;
+        const char* says;
         const char* drawing;
-        std::vector<double> fit;     // scale, offsets
-        std::vector<double> picture; // left, top, width, height in twips
-    } cases[] = {
-        {"a wide drawing fills the width",
-         "SP1;PU400,400;PD4400,2400",
-         {87.6, 756, 756},
-         {0, 690, 9000, 4620}},
-        {"a level line lies at the margins",
-         "SP1;PU400,800;PD1200,800",
-         {438, 4260, 8640},
-         {0, 2880, 9000, 240}},
-        {"a dot has the largest scale",
-         "SP1;PU40,0;PD40,0",
-         {99999, 99879, -120},
-         {4380, 2880, 240, 240}},
-        {"a circle counts with all its sides",
-         "SP1;CI400",
-         {288, -3000, -3000},
-         {1500, 0, 6000, 6000}},
-        {"the search starts at 1000 mm",
-         "SP1;PU80000,0;PD100000,100000",
-         {2.304, 2184, -120},
-         {2652, 0, 3696, 6000}},
-        {"an empty drawing fills the frame",
-         "SP1;PU4000,4000",
-         {15, -120, -120},
-         {0, 0, 9000, 6000}},
+        double scale, offsetX, offsetY;
+        double left, top, width, height; // of the picture, in twips
+    } rows[] = {
+        {"the width is filled", "SP1;PU400,400;PD4400,2400", 87.6, 756, 756, 0, 690, 9000, 4620},
+        {"a level line keeps off", "SP1;PU400,800;PD1200,800", 438, 4260, 8640, 0, 2880, 9000, 240},
+        {"a dot is scaled most", "SP1;PU40,0;PD40,0", 99999, 99879, -120, 4380, 2880, 240, 240},
+        {"a circle counts with all its sides", "SP1;CI400", 288, -3000, -3000, 1500, 0, 6000, 6000},
+        {"the search starts at 1000 mm", "SP1;PU80000,0;PD100000,100000", 2.304, 2184, -120, 2652,
+         0, 3696, 6000},
+        {"an empty drawing fills the frame", "SP1;PU4000,4000", 15, -120, -120, 0, 0, 9000, 6000},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.says);
         const auto [extents, fit, picture] = lineScale(row.drawing);
-        expectNumbers({fit.gsngScale, fit.gsngOffsetX, fit.gsngOffsetY}, row.fit);
-        expectNumbers({picture.sngLeft, picture.sngTop, picture.sngWidth, picture.sngHeight},
-                      row.picture);
+        const auto& [left, top, width, height] = picture;
+        expectNumbers(
+            {fit.gsngScale, fit.gsngOffsetX, fit.gsngOffsetY, left, top, width, height},
+            {row.scale, row.offsetX, row.offsetY, row.left, row.top, row.width, row.height});
     }
 }
 
@@ -86,18 +70,20 @@ TEST(GetScale, ArcsCountWithTheirBulges) {
 }
 
 TEST(Arcs, AWholeTurnWithinAHundredthIsACircle) {
-    Path arc{arcCounterClockwise, 1};
-    arc.sngRadius = 100;
-    const auto gap = [&](float to) {
-        arc.sngAngleTo = to;
+    const struct {
+        float to;
+        double gap; // between both ends, at a radius of 100
+    } rows[] = {{6.279F, 0}, {0.009F, 0}, {6.26F, 200 * std::sin(M_PI - 3.13)}, {0.02F, 2}};
+    for (const auto& row : rows) {
+        Path arc{
+            .intType = arcCounterClockwise, .intPen = 1, .sngAngleTo = row.to, .sngRadius = 100};
         Points points;
         appendLine(points, arc, plainView(1, 0));
-        return std::hypot(points.front().x - points.back().x, points.front().y - points.back().y);
-    };
-    EXPECT_NEAR(gap(6.279F), 0, 1e-9);
-    EXPECT_NEAR(gap(0.009F), 0, 1e-9);
-    EXPECT_NEAR(gap(6.26F), 2 * 100 * std::sin((2 * M_PI - 6.26) / 2), 1e-3);
-    EXPECT_NEAR(gap(0.02F), 2, 1e-3);
+        EXPECT_NEAR(
+            std::hypot(points.front().x - points.back().x, points.front().y - points.back().y),
+            row.gap, 1e-3)
+            << row.to;
+    }
 }
 
 TEST(GetPieceScale, WidensEachPathByItsTool) {

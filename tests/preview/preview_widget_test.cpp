@@ -15,18 +15,24 @@
 namespace torvik {
 namespace {
 
-class PreviewWidgetTest : public testing::Test {
+class PreviewWidgetTest : public QObject, public testing::Test {
 protected:
     PreviewWidgetTest() {
         preview.resize(700, 500);
         preview.setAttribute(Qt::WA_DontShowOnScreen);
         preview.show();
+        read("SP1;PU400,400;PD4400,2400", {{1, 2}});
     }
 
     void read(const char* drawing, const std::vector<Group>& groups) {
         job = machinedDrawing(drawing, groups);
         preview.GetScale();
         preview.PlotLines();
+    }
+    // Counts the paintings of what is watched.
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
     }
     QWidget* child(const char* name) { return preview.findChild<QWidget*>(name); }
     bool isBlank() {
@@ -42,6 +48,7 @@ protected:
         return texts;
     }
 
+    int paints = 0;
     Job job;
     ToolList tools = toolsOf({6, 3});
     std::vector<std::string> reports;
@@ -49,21 +56,7 @@ protected:
     PreviewWidget preview{job, tools, logger};
 };
 
-// The picture as it is on the screen, without being asked to paint.
-class PaintCount : public QObject {
-public:
-    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-const char* const plate = "SP1;PU400,400;PD4400,2400";
-
 TEST_F(PreviewWidgetTest, ThePictureIsSizedAndCentred) {
-    read(plate, {{1, 2}});
     const QWidget* back = child("picBack");
     const QRect plot = child("picPlot")->geometry();
     EXPECT_EQ(plot.width(), back->width());
@@ -73,7 +66,6 @@ TEST_F(PreviewWidgetTest, ThePictureIsSizedAndCentred) {
 }
 
 TEST_F(PreviewWidgetTest, ThePieceFitStaysInForceUntilTheNextDrawing) {
-    read(plate, {{1, 2}});
     const float lines = preview.fit().gsngScale;
     const QRect plot = child("picPlot")->geometry();
     preview.DrawPiece();
@@ -163,7 +155,6 @@ TEST_F(PreviewWidgetTest, ThePieceIsWholeInTheMiddleWhateverBecomesOfTheDrawing)
 }
 
 TEST_F(PreviewWidgetTest, TheLegendNeverCoversTheDrawing) {
-    read(plate, {{1, 2}});
     preview.DrawPiece();
     for (const QSize size : {QSize(300, 250), QSize(400, 700), QSize(2400, 1800)}) {
         preview.resize(size.width(), size.height());
@@ -175,7 +166,6 @@ TEST_F(PreviewWidgetTest, TheLegendNeverCoversTheDrawing) {
 }
 
 TEST_F(PreviewWidgetTest, WhatWasClearedStaysEmptyAtAnySize) {
-    read(plate, {{1, 2}});
     EXPECT_FALSE(isBlank());
     preview.clear();
     EXPECT_FALSE(child("lblNoDrawing")->isHidden());
@@ -189,7 +179,6 @@ TEST_F(PreviewWidgetTest, WhatWasClearedStaysEmptyAtAnySize) {
 }
 
 TEST_F(PreviewWidgetTest, AGroupWithoutAToolIsReportedAndLeavesTheFrameEmpty) {
-    read(plate, {{1, 2}});
     preview.DrawPiece();
     job.answers.gudtSettings[1].intTool = 0;
     preview.DrawPiece();
@@ -203,7 +192,6 @@ TEST_F(PreviewWidgetTest, ABlinkThatFailsIsLoggedOnceAndNotReported) {
     const TemporaryFolder folder;
     const auto log = folder.file("preview.log", "");
     logger = Logger(log, [](const ErrorReport&) { FAIL(); });
-    read(plate, {{1, 2}});
     for (int tick = 0; tick < 3; ++tick)
         preview.plotBlink({7}, false);
     std::ifstream lines(log);
@@ -214,8 +202,7 @@ TEST_F(PreviewWidgetTest, EveryNewPictureComesToTheScreen) {
     preview.setAttribute(Qt::WA_DontShowOnScreen, false);
     preview.hide();
     preview.show();
-    read(plate, {{1, 2}});
-    PaintCount paints(*child("picPlot"));
+    child("picPlot")->installEventFilter(this);
     const std::pair<const char*, std::function<void()>> changes[] = {
         {"the drawing", [&] { preview.PlotLines(); }},
         {"the lines go", [&] { preview.plotBlink({1}, false); }},
@@ -225,10 +212,10 @@ TEST_F(PreviewWidgetTest, EveryNewPictureComesToTheScreen) {
     };
     for (const auto& [says, change] : changes) {
         QCoreApplication::processEvents();
-        paints.count = 0;
+        paints = 0;
         change();
         QCoreApplication::processEvents();
-        EXPECT_GT(paints.count, 0) << says;
+        EXPECT_GT(paints, 0) << says;
     }
 }
 
