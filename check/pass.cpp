@@ -16,8 +16,8 @@ auto keyOf(const Move& cut) {
     const auto whole = [](double length) {
         return std::isfinite(length) ? std::lround(length / lengthStep) : -1;
     };
-    return std::tuple(cut.kind, whole(cut.to.x), whole(cut.to.y), whole(cut.centre.x - cut.from.x),
-                      whole(cut.centre.y - cut.from.y));
+    return std::tuple(cut.kind, whole(cut.from.x), whole(cut.from.y), whole(cut.to.x),
+                      whole(cut.to.y), whole(cut.centre.x), whole(cut.centre.y));
 }
 
 bool precedes(const Move* a, const Move* b) {

@@ -27,7 +27,7 @@ bool startAlike(const Move& a, const Move& b);
 // the pen that both have in common.
 std::size_t commonCuts(const Pass& first, const Pass& second);
 
-// How many cuts of the second pass the first one has, wherever.
+// How many cuts of the second pass the first one has, wherever, from the same start.
 std::size_t sharedCuts(const Pass& first, const Pass& second);
 
 } // namespace torvik::check

@@ -30,15 +30,17 @@ private:
         const std::size_t common = commonCuts(before, pass);
         const std::size_t fewer = std::min(before.cuts.size(), pass.cuts.size());
         const bool startsDiffer = !startsAlike(before, pass, common);
-        m_isLinked = common > 0 && !startsDiffer;
+        m_isLinked = common > 0;
         if (common < fewer) {
             const std::size_t shared = sharedCuts(before, pass);
-            if (shared > common && shared >= 2 && 2 * shared >= fewer)
+            if (shared > common && shared >= 2 && 2 * shared >= fewer) {
                 findDifference(pass);
-        } else if (common >= 2 && startsDiffer) {
+                m_isLinked = true;
+            }
+        } else if (fewer >= 2 && startsDiffer) {
             findDifference(pass);
         }
-        return m_isLinked && before.cuts.size() == common && pass.cuts.size() == common;
+        return !startsDiffer && before.cuts.size() == common && pass.cuts.size() == common;
     }
 
     static bool startsAlike(const Pass& before, const Pass& pass, std::size_t common) {
@@ -52,8 +54,8 @@ private:
         m_findings.add(Kind::passDiffers, pass.cuts.front()->line, {heightText(pass.z)});
     }
 
-    // A pass that shares its cuts with only a part of the one before belongs to a pen whose first
-    // step is not known.
+    // Where a pass shares some of its cuts with the one before, the first step of its pen is not
+    // known.
     void beginAnew(bool goesOn) {
         findSteps();
         m_alike.clear();

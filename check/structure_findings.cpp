@@ -39,12 +39,15 @@ private:
     std::size_t findOpening() {
         std::size_t at = 0;
         for (const Meaning meaning : m_target.opening) {
-            if (at < m_statements.size() && m_statements[at].meaning == meaning)
+            const bool isThere = at < m_statements.size();
+            if (isThere && m_statements[at].meaning == meaning) {
                 ++at;
-            else
-                m_findings.add(Kind::opening,
-                               at < m_statements.size() ? m_statements[at].line : m_lastLine,
-                               {quoted(meaning)});
+                continue;
+            }
+            m_findings.add(Kind::opening, isThere ? m_statements[at].line : m_lastLine,
+                           {quoted(meaning)});
+            if (!isThere || !isOneOf(m_target.opening, m_statements[at].meaning))
+                break;
         }
         return at;
     }
@@ -53,23 +56,24 @@ private:
     std::size_t findEnding() {
         const auto& wanted = m_target.ending;
         std::size_t end = m_statements.size();
-        while (end > 0 && m_statements[end - 1].meaning != wanted.back())
+        while (end > 0 && !endsProgram(m_statements[end - 1].meaning))
             --end;
-        if (end == 0) {
-            m_findings.add(Kind::ending, m_lastLine, {quoted(wanted.back()) + " is missing"});
-            return m_statements.size();
-        }
-        if (end < m_statements.size())
+        if (end > 0 && end < m_statements.size())
             m_findings.add(Kind::ending, m_statements[end].line, {"lines follow behind it"});
-        --end;
-        for (std::size_t i = wanted.size() - 1; i > 0; --i) {
-            if (end > 0 && m_statements[end - 1].meaning == wanted[i - 1])
+        const std::size_t known = end == 0 ? 1 : wanted.size(); // all are missing: one says it
+        const std::uint32_t line = end == 0 ? m_lastLine : m_statements[end - 1].line;
+        for (std::size_t i = 0; i < known; ++i) {
+            const Meaning meaning = wanted[wanted.size() - 1 - i];
+            if (end > 0 && m_statements[end - 1].meaning == meaning)
                 --end;
             else
-                m_findings.add(Kind::ending, m_statements[end].line,
-                               {quoted(wanted[i - 1]) + " is missing before it"});
+                m_findings.add(Kind::ending, line, {quoted(meaning) + " is missing"});
         }
-        return end;
+        return end == 0 ? m_statements.size() : end;
+    }
+
+    static bool endsProgram(Meaning meaning) {
+        return meaning == Meaning::programEnd || meaning == Meaning::percent;
     }
 
     static bool isChange(Meaning meaning) {
@@ -111,7 +115,7 @@ private:
     }
 
     void findOutOfPlace(const Statement& statement) {
-        if (statement.meaning == Meaning::programEnd || statement.meaning == Meaning::percent)
+        if (endsProgram(statement.meaning))
             m_findings.add(Kind::ending, statement.line, {"it ends here, but lines follow"});
         else if (isOneOf({{Meaning::coordinates, Meaning::feedMode, Meaning::zeroShift}},
                          statement.meaning))
