@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "convert/options.h"
 
-#include "base/errors.h"
 #include "base/files.h"
+#include "commands/option_table.h"
 #include "gcode/output_file.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
-#include <getopt.h>
 #include <limits>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace torvik {
 namespace {
@@ -30,32 +29,6 @@ enum OptionCode : int {
     optionVersion = 'v',
 };
 
-struct OptionRow {
-    const char* name;
-    OptionCode code;
-    const char* value; // what stands for its value in the help, nullptr where it has none
-    const char* help;  // lines at "\n"
-};
-
-constexpr std::array<OptionRow, 12> rows{{
-    {"target", optionTarget, "NAME", "the control to write for: "},
-    {"answers", optionAnswers, "FILE.plx",
-     "the answers to use (default: those saved for the\ndrawing)"},
-    {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
-    {"number", optionNumber, "N",
-     "the program number of the controls that need one,\n1 to 32767; with several drawings it "
-     "counts up"},
-    {"output", optionOutput, "FILE",
-     "the file to write, for one drawing (default: beside\nthe drawing); overwritten if it exists"},
-    {"output-dir", optionOutputFolder, "DIR", "the folder to write to"},
-    {"date", optionDate, "TEXT", "the date of the header where the answers have none"},
-    {"force", optionForce, nullptr, "overwrite files that exist"},
-    {"quiet", optionQuiet, nullptr, "say nothing but what went wrong"},
-    {"show", optionShow, nullptr, "print what the drawings hold instead of converting"},
-    {"help", optionHelp, nullptr, "print this text"},
-    {"version", optionVersion, nullptr, "print the version"},
-}};
-
 std::string targetNames() {
     std::string names;
     for (const Dialect& dialect : dialects())
@@ -63,25 +36,27 @@ std::string targetNames() {
     return names;
 }
 
-std::array<option, rows.size() + 1> longOptions() {
-    std::array<option, rows.size() + 1> table{};
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        table[i] = {rows[i].name, rows[i].value == nullptr ? no_argument : required_argument,
-                    nullptr, rows[i].code};
+const std::vector<OptionRow>& rows() {
+    static const std::vector<OptionRow> table{
+        {"target", optionTarget, "NAME", "the control to write for: " + targetNames()},
+        {"answers", optionAnswers, "FILE.plx",
+         "the answers to use (default: those saved for the\ndrawing)"},
+        {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
+        {"number", optionNumber, "N",
+         "the program number of the controls that need one,\n1 to 32767; with several drawings it "
+         "counts up"},
+        {"output", optionOutput, "FILE",
+         "the file to write, for one drawing (default: beside\nthe drawing); overwritten if it "
+         "exists"},
+        {"output-dir", optionOutputFolder, "DIR", "the folder to write to"},
+        {"date", optionDate, "TEXT", "the date of the header where the answers have none"},
+        {"force", optionForce, nullptr, "overwrite files that exist"},
+        {"quiet", optionQuiet, nullptr, "say nothing but what went wrong"},
+        {"show", optionShow, nullptr, "print what the drawings hold instead of converting"},
+        {"help", optionHelp, nullptr, "print this text"},
+        {"version", optionVersion, nullptr, "print the version"},
+    };
     return table;
-}
-
-// Raised for a command line that is wrong; the text says why.
-class UsageError : public RunTimeError {
-public:
-    using RunTimeError::RunTimeError;
-};
-
-// An empty name is what an unset variable of a script leaves: nothing that was meant.
-std::filesystem::path namedPath(const char* value, const char* what) {
-    if (*value == '\0')
-        throw UsageError(std::string(what) + " is an empty name");
-    return pathFromUtf8(value);
 }
 
 void take(ConvertOptions& options, std::string& target, std::string& number, int code,
@@ -169,46 +144,23 @@ void checkOutputs(const ConvertOptions& options) {
     }
 }
 
-// The message for what getopt_long did not understand.
-std::string unknownOption(const std::string& argument, int code) {
-    if (code == ':')
-        return "the option " + argument + " needs a value";
-    if (std::any_of(rows.begin(), rows.end(),
-                    [](const OptionRow& row) { return row.code == optopt; }))
-        return "the option " + argument.substr(0, argument.find('=')) + " takes no value";
-    return "there is no option " + argument;
-}
-
-ConvertOptions parse(std::vector<std::string>& arguments) {
-    std::vector<char*> words;
-    words.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments)
-        words.push_back(argument.data());
-    words.push_back(nullptr);
-
-    const auto table = longOptions();
+ConvertOptions parse(std::vector<std::string> arguments) {
     ConvertOptions options;
     std::string target;
     std::string number;
-    opterr = 0;
-    optind = 0; // start afresh
-    for (;;) {
-        const auto at = static_cast<std::size_t>(optind == 0 ? 1 : optind);
-        const int code = getopt_long(static_cast<int>(arguments.size()), words.data(), ":hv",
-                                     table.data(), nullptr);
-        if (code == -1)
-            break;
-        if (code == '?' || code == ':') {
-            const auto last = static_cast<std::size_t>(optind) - 1;
-            throw UsageError(unknownOption(words[std::max(at, last)], code));
-        }
-        take(options, target, number, code, optarg);
-        if (options.action == ConvertOptions::Action::help ||
-            options.action == ConvertOptions::Action::version)
-            return options;
-    }
-    for (auto i = static_cast<std::size_t>(optind); i < arguments.size(); ++i)
-        options.drawings.push_back(namedPath(words[i], "a drawing"));
+    const auto isRun = [&] {
+        return options.action == ConvertOptions::Action::convert ||
+               options.action == ConvertOptions::Action::show;
+    };
+    const auto names =
+        readArguments(std::move(arguments), rows(), [&](int code, const char* value) {
+            take(options, target, number, code, value);
+            return isRun();
+        });
+    if (!isRun())
+        return options;
+    for (const std::string& name : names)
+        options.drawings.push_back(namedPath(name, "a drawing"));
 
     if (options.drawings.empty())
         throw UsageError("no drawing is named");
@@ -239,7 +191,7 @@ std::int16_t ConvertOptions::outputNumber(std::size_t i) const {
 std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
                                            std::string& usageError) {
     try {
-        return parse(arguments);
+        return parse(std::move(arguments));
     } catch (const UsageError& error) {
         usageError = error.what();
         return {};
@@ -247,28 +199,13 @@ std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
 }
 
 std::string helpText() {
-    constexpr std::size_t column = 24;
-    std::string text =
-        "Usage: torvik-convert DRAWING.plt... --target NAME [OPTIONS]\n"
-        "       torvik-convert --show DRAWING.plt...\n\n"
-        "Converts pen-plotter drawings (HPGL) to programs for milling machines, with the\n"
-        "answers saved for each drawing and the workshop's tools.\n\n";
-    for (const OptionRow& row : rows) {
-        std::string line = std::string("  --") + row.name;
-        if (row.value != nullptr)
-            line.append(" ").append(row.value);
-        line.append(line.size() < column ? column - line.size() : 1, ' ');
-        for (const char* at = row.help; *at != '\0'; ++at) {
-            line += *at;
-            if (*at == '\n')
-                line.append(column, ' ');
-        }
-        if (row.code == optionTarget)
-            line += targetNames();
-        text += line + "\n";
-    }
-    return text + "\nExit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the\n"
-                  "answers do not belong to the drawing; 4 the job cannot be written as it is.\n";
+    return "Usage: torvik-convert DRAWING.plt... --target NAME [OPTIONS]\n"
+           "       torvik-convert --show DRAWING.plt...\n\n"
+           "Converts pen-plotter drawings (HPGL) to programs for milling machines, with the\n"
+           "answers saved for each drawing and the workshop's tools.\n\n" +
+           optionLines(rows()) +
+           "\nExit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the\n"
+           "answers do not belong to the drawing; 4 the job cannot be written as it is.\n";
 }
 
 } // namespace torvik

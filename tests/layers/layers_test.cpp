@@ -57,8 +57,9 @@ bool namesTarget(const std::string& path, std::string code) {
     std::transform(code.begin(), code.end(), code.begin(),
                    [](unsigned char c) { return std::tolower(c); });
     const auto names = [&](const char* target) { return code.find(target) != std::string::npos; };
-    // The settings that the workshop's programs share bear the last name, too.
-    return !path.starts_with("gcode/dialects.") &&
+    // The check has a table of its own. The settings that the workshop's programs share bear the
+    // last name, too.
+    return !path.starts_with("gcode/dialects.") && !path.starts_with("check/targets.") &&
            (names("wincam") || names("winnc") || names("kestra") ||
             (names("maskor") && !path.starts_with("tools/")));
 }

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "check/check.h"
+
+#include "check/finders.h"
+#include "check/machine.h"
+#include "check/opening_lines.h"
+#include "check/program_reader.h"
+
+namespace torvik::check {
+
+Report checkProgram(std::string_view program, std::string_view sideText, const Target* target) {
+    Report report;
+    Findings& findings = report.findings;
+    report.target = target == nullptr ? recogniseTarget(program) : target;
+    if (report.target == nullptr) {
+        findings.add(Kind::opening, 1, {"a line that one of the controls knows"});
+        return report;
+    }
+    Program read = readProgram(*report.target, program, findings);
+    if (report.target->commentOpener == 0)
+        read.header = readSideText(sideText);
+    const Moves moves = walk(read);
+    findStructure(read, findings);
+    const Walked walked{read, moves, learnHeights(moves)};
+    for (const auto find : {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs,
+                            findBillet, findPasses, findHoles})
+        find(walked, findings);
+    report.summary = summaryOf(moves);
+    return report;
+}
+
+} // namespace torvik::check

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "check/command/checker.h"
+
+#include "base/files.h"
+#include "check/command/options.h"
+#include "check/command/program_files.h"
+#include "check/command/report_text.h"
+#include "commands/drawing_run.h"
+
+#include <algorithm>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+namespace torvik::check {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view programName = "torvik-check";
+
+class Checker {
+public:
+    Checker(const CheckOptions& options, std::ostream& out, std::ostream& err)
+        : m_options(options), m_out(out), m_err(err) {}
+
+    int run() {
+        const auto say = [this](std::string_view message) {
+            m_err << programName << ": " << message << '\n';
+        };
+        const int named = runEach(
+            m_options.files.size(), [this](std::size_t i) { find(m_options.files[i]); }, say);
+        begin();
+        const int checked = runEach(
+            m_programs.size(), [this](std::size_t i) { check(m_programs[i]); }, say);
+        if (m_options.form == CheckOptions::Form::json)
+            m_out << (m_isFirst ? "[]\n" : "]\n");
+        if (named != 0 || checked != 0)
+            return named != 0 ? named : checked;
+        return static_cast<int>(m_areGood ? ExitCode::done : ExitCode::findings);
+    }
+
+private:
+    void find(const fs::path& path) {
+        for (const fs::path& program : programsOf(path))
+            m_programs.push_back(program);
+    }
+
+    void begin() {
+        for (const fs::path& program : m_programs)
+            m_width = std::max(m_width, widthOf(utf8FromPath(program)));
+        if (m_options.form == CheckOptions::Form::table && !m_programs.empty())
+            m_out << tableHead(m_width);
+    }
+
+    void check(const fs::path& path) {
+        const ProgramBytes bytes = readProgramFile(path);
+        const Report report = checkProgram(bytes.program, bytes.sideText, m_options.target);
+        m_areGood = m_areGood && report.findings.isGood();
+        print(utf8FromPath(path), report);
+        m_out.flush();
+    }
+
+    void print(const std::string& file, const Report& report) {
+        switch (m_options.form) {
+        case CheckOptions::Form::text:
+            m_out << reportText(file, report, m_options.quiet);
+            break;
+        case CheckOptions::Form::table:
+            if (!m_options.quiet || !report.findings.isGood())
+                m_out << tableLine(file, report, m_width);
+            break;
+        case CheckOptions::Form::json:
+            m_out << (m_isFirst ? "[" : ",\n ") << reportJson(file, report, m_options.quiet);
+            m_isFirst = false;
+            break;
+        }
+    }
+
+    const CheckOptions& m_options;
+    std::ostream& m_out;
+    std::ostream& m_err;
+    std::vector<fs::path> m_programs;
+    std::size_t m_width = std::string_view("program").size();
+    bool m_areGood = true;
+    bool m_isFirst = true;
+};
+
+int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    if (!options) {
+        err << programName << ": " << usageError << " (see --help)\n";
+        return static_cast<int>(ExitCode::usage);
+    }
+    if (options->action == CheckOptions::Action::help)
+        out << helpText();
+    else if (options->action == CheckOptions::Action::version)
+        out << programName << " " TORVIK_VERSION "\n";
+    else
+        return Checker(*options, out, err).run();
+    return static_cast<int>(ExitCode::done);
+}
+
+} // namespace
+
+int runChecker(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
+    const int code = doAsTold(std::move(arguments), out, err);
+    if (out.flush())
+        return code;
+    err << programName << ": the standard output cannot be written\n";
+    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+}
+
+} // namespace torvik::check

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "check/command/options.h"
+
+#include "commands/option_table.h"
+
+#include <utility>
+
+namespace torvik::check {
+namespace {
+
+enum OptionCode : int {
+    optionTarget = 256,
+    optionQuiet,
+    optionTable,
+    optionJson,
+    optionHelp = 'h',
+    optionVersion = 'v',
+};
+
+std::string targetNames() {
+    std::string names;
+    for (const Target& target : targets())
+        names.append(names.empty() ? "" : ", ").append(target.optionName);
+    return names;
+}
+
+const std::vector<OptionRow>& rows() {
+    static const std::vector<OptionRow> table{
+        {"target", optionTarget, "NAME",
+         "the control that the programs are for (default: each\nprogram's beginning tells it): " +
+             targetNames()},
+        {"quiet", optionQuiet, nullptr, "print what is dangerous or wrong, and nothing else"},
+        {"table", optionTable, nullptr, "print one line for each program"},
+        {"json", optionJson, nullptr, "print everything as JSON, for other programs"},
+        {"help", optionHelp, nullptr, "print this text"},
+        {"version", optionVersion, nullptr, "print the version"},
+    };
+    return table;
+}
+
+void setTarget(CheckOptions& options, const std::string& name) {
+    options.target = targetNamed(name);
+    if (options.target == nullptr)
+        throw UsageError("there is no target \"" + name + "\" (one of " + targetNames() + ")");
+}
+
+void setForm(CheckOptions& options, CheckOptions::Form form) {
+    if (options.form != CheckOptions::Form::text && options.form != form)
+        throw UsageError("--table and --json exclude each other");
+    options.form = form;
+}
+
+void take(CheckOptions& options, int code, const char* value) {
+    switch (code) {
+    case optionTarget:
+        setTarget(options, value);
+        break;
+    case optionQuiet:
+        options.quiet = true;
+        break;
+    case optionTable:
+        setForm(options, CheckOptions::Form::table);
+        break;
+    case optionJson:
+        setForm(options, CheckOptions::Form::json);
+        break;
+    case optionHelp:
+        options.action = CheckOptions::Action::help;
+        break;
+    case optionVersion:
+        options.action = CheckOptions::Action::version;
+        break;
+    default:
+        break;
+    }
+}
+
+CheckOptions parse(std::vector<std::string> arguments) {
+    CheckOptions options;
+    const auto names =
+        readArguments(std::move(arguments), rows(), [&](int code, const char* value) {
+            take(options, code, value);
+            return options.action == CheckOptions::Action::check;
+        });
+    for (const std::string& name : names)
+        options.files.push_back(namedPath(name, "a program"));
+    if (options.action == CheckOptions::Action::check && options.files.empty())
+        throw UsageError("no program is named");
+    return options;
+}
+
+} // namespace
+
+std::optional<CheckOptions> parseOptions(std::vector<std::string> arguments,
+                                         std::string& usageError) {
+    try {
+        return parse(std::move(arguments));
+    } catch (const UsageError& error) {
+        usageError = error.what();
+        return {};
+    }
+}
+
+std::string helpText() {
+    return "Usage: torvik-check FILE... [OPTIONS]\n\n"
+           "Reads programs for milling machines and says what is dangerous or wrong in them.\n"
+           "FILE is a program, or a folder whose programs are all read.\n\n" +
+           optionLines(rows()) +
+           "\nEach finding is one line, FILE:LINE: KIND: SENTENCE. Behind the findings of a\n"
+           "program stands what it cuts, how deep, with which tools and how long, and the\n"
+           "number of findings of each level:\n"
+           "  danger  tool, work or machine can break\n"
+           "  wrong   the machine will not do what was meant, or may refuse the program\n"
+           "  look    may be meant: have a look\n"
+           "  note    good to know\n"
+           "The header of a diskette program is read from the text beside it, FILE.txt.\n"
+           "The time is counted at the written feeds, without tool changes.\n\n"
+           "Exit codes: 0 nothing dangerous or wrong was found; 1 wrong usage; 2 a file cannot be\n"
+           "read; 5 something dangerous or wrong was found.\n";
+}
+
+} // namespace torvik::check

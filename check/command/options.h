@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The command line of torvik-check.
+#pragma once
+
+#include "check/targets.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace torvik::check {
+
+struct CheckOptions {
+    enum class Action { check, help, version };
+    enum class Form { text, table, json };
+
+    Action action = Action::check;
+    Form form = Form::text;
+    std::vector<std::filesystem::path> files; // programs, and folders of them
+    const Target* target = nullptr;           // nullptr: each program tells its own
+    bool quiet = false;
+};
+
+// Reads the arguments (UTF-8), the program's name first. Where they are wrong, `usageError` says in
+// one line why, and the result is empty.
+std::optional<CheckOptions> parseOptions(std::vector<std::string> arguments,
+                                         std::string& usageError);
+
+// The text of --help.
+std::string helpText();
+
+} // namespace torvik::check

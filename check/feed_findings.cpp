@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "base/picture.h"
+#include "check/finders.h"
+
+#include <algorithm>
+#include <array>
+
+namespace torvik::check {
+namespace {
+
+constexpr double slowest = 1;      // mm/min; what is outside is unusual
+constexpr double fastest = 6000;   // mm/min
+constexpr double longestWait = 30; // s
+
+// The last five moves of one kind to one height. The one in the middle is odd where it has another
+// feed than the four about it, which have one.
+class Neighbours {
+public:
+    void clear() { m_count = 0; }
+
+    // The odd one, nullptr where there is none.
+    const Move* take(const Move& move) {
+        if (m_count > 0 && !isSameHeight(m_last[(m_count - 1) % 5]->to.z, move.to.z))
+            clear();
+        m_last[m_count++ % 5] = &move;
+        if (m_count < 5)
+            return nullptr;
+        const auto feedOf = [&](std::size_t back) { return m_last[(m_count - back) % 5]->feed; };
+        const double usual = feedOf(1);
+        const bool isUsual = feedOf(2) == usual && feedOf(4) == usual && feedOf(5) == usual;
+        return isUsual && feedOf(3) != usual ? m_last[(m_count - 3) % 5] : nullptr;
+    }
+
+private:
+    std::array<const Move*, 5> m_last{};
+    std::size_t m_count = 0;
+};
+
+class Feeds {
+public:
+    Feeds(const Walked& walked, Findings& findings) : m_walked(walked), m_findings(findings) {}
+
+    void find() {
+        for (const Move& move : m_walked.moves) {
+            if (move.isFed())
+                fed(move);
+            else if (move.kind == MoveKind::dwell)
+                dwell(move);
+            else if (move.kind == MoveKind::tool || move.kind == MoveKind::spindleOn)
+                newSpeed();
+        }
+    }
+
+private:
+    void newSpeed() {
+        m_cuts.clear();
+        m_plunges.clear();
+    }
+
+    void fed(const Move& move) {
+        const Move* const odd = (move.isCut() ? m_cuts : m_plunges).take(move);
+        if (std::isnan(move.feed))
+            m_findings.add(Kind::feedMissing, move.line);
+        else if (move.feed <= 0)
+            m_findings.add(Kind::feedZero, move.line);
+        else if (move.feed < slowest || move.feed > fastest)
+            findOdd(move);
+        if (odd != nullptr && odd->feed >= slowest && odd->feed <= fastest)
+            findOdd(*odd);
+    }
+
+    void findOdd(const Move& move) {
+        m_findings.add(Kind::feedOdd, move.line, {formatFixed(move.feed, 1)});
+    }
+
+    void dwell(const Move& move) {
+        if (move.value <= 0 || move.value > longestWait || move.to.z > 0)
+            m_findings.add(Kind::dwellOdd, move.line,
+                           {heightText(move.value), heightText(move.to.z)});
+    }
+
+    const Walked& m_walked;
+    Findings& m_findings;
+    Neighbours m_cuts;
+    Neighbours m_plunges;
+};
+
+} // namespace
+
+void findFeeds(const Walked& walked, Findings& findings) {
+    Feeds(walked, findings).find();
+}
+
+} // namespace torvik::check

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "check/kinds.h"
+
+#include <array>
+#include <cstddef>
+
+namespace torvik::check {
+namespace {
+
+constexpr std::array table{
+    // how it is written
+    KindRow{Kind::lineEnd, "line-end", Level::wrong,
+            "The line does not end with carriage return and line feed, or a control character "
+            "stands in it."},
+    KindRow{Kind::lineNumber, "line-number", Level::wrong,
+            "The line number should be N{1}. A line may have been lost, added or moved."},
+    KindRow{Kind::statement, "statement", Level::wrong,
+            "\"{1}\" is not a line that {2} programs have at this place."},
+    KindRow{Kind::number, "number", Level::wrong,
+            "\"{1}\" is not written as it should be: here a number looks like {2}."},
+    KindRow{Kind::opening, "opening", Level::wrong, "The program should begin with {1} here."},
+    KindRow{Kind::ending, "ending", Level::wrong, "The end of the program is not right: {1}."},
+    KindRow{Kind::comment, "comment", Level::wrong,
+            "A bracket stands inside this comment, or it does not close. The machine may take the "
+            "rest for commands."},
+    KindRow{Kind::noList, "no-list", Level::note,
+            "There is no list of tools to compare with the tools of the program."},
+
+    // how the tool moves
+    KindRow{Kind::rapidSideways, "rapid-sideways", Level::danger,
+            "The tool moves sideways at full speed at Z{1}, inside the material."},
+    KindRow{Kind::rapidDown, "rapid-down", Level::danger,
+            "The tool goes down to Z{1} at full speed and hits the material."},
+    KindRow{Kind::lowRapid, "low-rapid", Level::wrong,
+            "The tool moves sideways at full speed at Z{1}; elsewhere it first goes up to Z{2}."},
+    KindRow{Kind::oddHeight, "odd-height", Level::look,
+            "A move at full speed at Z{1} does not fit: elsewhere the heights are {2}."},
+    KindRow{Kind::unknownPlace, "unknown-place", Level::danger,
+            "The tool moves although the program has not said yet {1}."},
+    KindRow{Kind::airCut, "air-cut", Level::wrong,
+            "The tool cuts at Z{1}, above the material. The move down may be missing."},
+    KindRow{Kind::upwardFeed, "upward-feed", Level::wrong,
+            "The tool goes up slowly from Z{1} to Z{2}, where a way down should be."},
+    KindRow{Kind::emptyPlunge, "empty-plunge", Level::wrong,
+            "The tool goes into the material and comes out again without cutting."},
+    KindRow{Kind::lostRapid, "lost-rapid", Level::look,
+            "The tool goes up and down again at one place. A move sideways may be missing."},
+    KindRow{Kind::endHeight, "end-height", Level::wrong,
+            "At the end the tool stays at Z{1}, lower than at a tool change."},
+    KindRow{Kind::surfaceCut, "surface-cut", Level::look,
+            "The tool moves along the surface at Z0.00 and cuts nothing."},
+    KindRow{Kind::slowPlunge, "slow-plunge", Level::look,
+            "The slow way down begins at Z{1} already. The quick move to Z{2} may be missing."},
+
+    // tool and spindle
+    KindRow{Kind::noTool, "no-tool", Level::danger, "The program cuts before it has taken a tool."},
+    KindRow{Kind::toolLow, "tool-low", Level::danger,
+            "The tool is changed at Z{1}. It should be at Z{2} or higher for that."},
+    KindRow{Kind::toolSpinning, "tool-spinning", Level::danger,
+            "The tool is changed while the spindle turns."},
+    KindRow{Kind::toolStop, "tool-stop", Level::danger,
+            "The machine does not stop for this tool change as it should: {1} must stand before "
+            "it."},
+    KindRow{Kind::toolOrder, "tool-order", Level::wrong,
+            "The tools are not those of the header's list: {1}."},
+    KindRow{Kind::toolOffset, "tool-offset", Level::danger,
+            "Tool T{1} is used with the length of another tool: {2} should be {3}."},
+    KindRow{Kind::toolUnlisted, "tool-unlisted", Level::wrong,
+            "Tool T{1} is not in the header's list."},
+    KindRow{Kind::spindleOff, "spindle-off", Level::danger,
+            "The tool cuts while the spindle stands still. The spindle speed may be missing."},
+    KindRow{Kind::spindleZero, "spindle-zero", Level::danger,
+            "The spindle speed is 0, the tool does not turn."},
+    KindRow{Kind::spindleLeftOn, "spindle-left-on", Level::wrong,
+            "The program ends, but the spindle still turns."},
+    KindRow{Kind::spindleOdd, "spindle-odd", Level::look,
+            "A spindle speed of {1} turns a minute is unusual."},
+
+    // feed and dwell
+    KindRow{Kind::feedMissing, "feed-missing", Level::wrong, "This move has no feed (F)."},
+    KindRow{Kind::feedZero, "feed-zero", Level::wrong,
+            "The feed is 0, the machine would stand still."},
+    KindRow{Kind::feedOdd, "feed-odd", Level::look, "A feed of {1} mm/min is unusual here."},
+    KindRow{Kind::dwellOdd, "dwell-odd", Level::look,
+            "The tool waits {1} s at Z{2}. That is unusual."},
+
+    // arcs
+    KindRow{Kind::arcMisses, "arc-misses", Level::wrong,
+            "The arc ends {1} mm beside its own circle. The machine may refuse it."},
+    KindRow{Kind::arcNoRadius, "arc-no-radius", Level::wrong,
+            "The arc has no radius: its centre is where it starts."},
+    KindRow{Kind::arcCollapsed, "arc-collapsed", Level::wrong,
+            "The arc is only {1} mm long. If a full circle was meant, it will not be cut."},
+    KindRow{Kind::arcOneAngle, "arc-one-angle", Level::wrong,
+            "Start and end of the arc lie in one direction from its centre. The machine may cut a "
+            "full circle or nothing."},
+
+    // billet
+    KindRow{Kind::tooDeep, "too-deep", Level::danger,
+            "The tool goes {1} mm deep, but the billet is {2} mm thick. It would cut the table."},
+    KindRow{Kind::through, "through", Level::note,
+            "The tool goes {1} mm deep and so through the billet of {2} mm."},
+    KindRow{Kind::outside, "outside", Level::wrong,
+            "The cuts reach {1}, outside the billet that lies from 0 to {2}."},
+    KindRow{Kind::tooWide, "too-wide", Level::wrong,
+            "The cuts need {1} mm in {3}, the billet has {2} mm."},
+
+    // passes and holes
+    KindRow{Kind::passDiffers, "pass-differs", Level::wrong,
+            "The pass at Z{1} does not fit the pass before. A cut or a whole pass may be missing."},
+    KindRow{Kind::holeDiffers, "hole-differs", Level::look,
+            "This hole is not drilled like the holes beside it."},
+    KindRow{Kind::holeTwice, "hole-twice", Level::look,
+            "The same tool has drilled a hole at this place before."},
+};
+
+constexpr bool isInOrder() {
+    for (std::size_t i = 0; i < table.size(); ++i)
+        if (static_cast<std::size_t>(table[i].kind) != i)
+            return false;
+    return true;
+}
+static_assert(isInOrder(), "a kind's row is found by its place");
+
+} // namespace
+
+std::span<const KindRow> kinds() {
+    return table;
+}
+
+const KindRow& rowOf(Kind kind) {
+    return table[static_cast<std::size_t>(kind)];
+}
+
+std::string_view levelName(Level level) {
+    constexpr std::array<std::string_view, 4> names{"note", "look", "wrong", "danger"};
+    return names[static_cast<std::size_t>(level)];
+}
+
+} // namespace torvik::check

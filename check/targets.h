@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// How a program of each control looks: one row of one table for each. Nobody else of this room asks
+// which control it is. It knows nothing of the writer, on purpose.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace torvik::check {
+
+// What a statement means.
+enum class Meaning : std::uint8_t {
+    unknown,     // none of the control's statements
+    unknownMove, // the same, and it moves an axis
+    coordinates, // G54
+    feedMode,    // G97 G94
+    zeroShift,   // G58
+    unload,      // G49
+    pause,       // M1
+    stop,        // M0
+    tool,
+    spindleOn,
+    rapidHeight,
+    retract, // to a height, and the spindle stops
+    rapidAcross,
+    feedHeight,
+    cutLine,
+    cutClockwise,
+    cutCounterClockwise,
+    dwell,
+    programEnd, // M30
+    percent,    // "%", without a number
+};
+
+// A statement as it is written, "#" for a number.
+struct StatementForm {
+    std::string_view pattern;
+    Meaning meaning;
+};
+
+struct Target {
+    std::string_view name;
+    std::string_view optionName;
+    std::string_view fileStart; // of a program's file name, digits follow; else empty
+    std::string_view fileEnd;   // of a program's file name, in small letters; else empty
+    // The lines before the first block number; "#" for the program number, "####" with four digits.
+    std::span<const std::string_view> openingLines;
+    char commentOpener;                   // 0: a text of its own lies beside the program
+    char commentCloser;                   // 0: a comment ends with its line
+    std::span<const Meaning> opening;     // the first statements
+    std::span<const StatementForm> forms; // besides those that all controls have
+    std::span<const Meaning> beforeFirstTool;
+    std::span<const Meaning> beforeTool;
+    std::span<const Meaning> ending; // the last statements, behind the last height
+    int (*offsetOf)(int tool);       // the offset number of a tool, nullptr where none is written
+    char offsetLetter;
+    int feedDecimals;
+    double feedFactor; // a written feed times this is mm/min
+    int dwellDecimals;
+    double dwellFactor; // a written dwell times this is seconds
+    bool stopsSpindle;  // it has a statement for that
+};
+
+std::span<const Target> targets();
+// The row of an option's value ("kestra"), nullptr where there is none.
+const Target* targetNamed(std::string_view optionName);
+
+// The statements that all controls have.
+std::span<const StatementForm> commonForms();
+// How a statement of this meaning is written; empty where the control has none.
+std::string_view patternOf(const Target& target, Meaning meaning);
+
+} // namespace torvik::check
