@@ -43,9 +43,8 @@ void expectNear(double x, double y, float pathX, float pathY) {
 void expectPath(const Move& move, const Path& path) {
     const auto [x, y, fromX, fromY] =
         std::tuple(move.to.at('X'), move.to.at('Y'), move.from.at('X'), move.from.at('Y'));
-    EXPECT_EQ(move.to.at('G'), path.intType == straightLine   ? 1
-                               : path.intType == arcClockwise ? 2
-                                                              : 3);
+    const int g = path.intType == straightLine ? 1 : path.intType == arcClockwise ? 2 : 3;
+    EXPECT_EQ(move.to.at('G'), g);
     expectNear(fromX, fromY, path.sngStartX, path.sngStartY);
     expectNear(x, y, path.sngEndX, path.sngEndY);
     if (path.intType == straightLine)

@@ -34,7 +34,6 @@ std::string pair(long x, long y, int base = 64) {
 
 const std::vector<Case>& cases() {
     static const std::vector<Case> table{
-        // Pens and modes
         {"IN lifts the pen and goes back to the origin and to plotter units",
          "SP2;SC0,1,0,1;PR;PD5,5;IN;PD10,0;", "2: 0,0 L50000,36000; 2: 0,0 L10,0"},
         {"IN brings the page's own corners back and turns it back",
@@ -62,7 +61,6 @@ const std::vector<Case>& cases() {
         {"pen down and up without a move is a dot", "PU7,8;PD;PU;PD7,8;PU;PA9,9", "1: 7,8; 1: 7,8"},
         {"a figure drawn with the pen down leaves no dot", "PU7,8;PD;CI5;PU", "1: O7,8 r5"},
 
-        // Encoded polylines
         {"PE is relative and draws", "PU100,100;PE" + pair(10, -5) + pair(0, 20) + ";PD0,0",
          "1: 100,100 L110,95 L110,115 L0,0"},
         {"PE takes every flag, in base 32, too",
@@ -78,7 +76,6 @@ const std::vector<Case>& cases() {
         {"PE passes over white space", "PE" + encoded(3) + "\n " + encoded(4) + ";", "1: 0,0 L3,4"},
         {"PE ends the pen up after a lone <", "PD1,0;PE<;PA5,5;PD6,5", "1: 0,0 L1,0; 1: 5,5 L6,5"},
 
-        // Arcs and curves
         {"AA draws about a centre", "PU100,0;PD;AA0,0,90;PD0,0", "1: 100,0 A0,0 90>0,100 L0,0"},
         {"AA with the pen up only moves", "PU100,0;AA0,0,-90,5;PD0,0", "1: 0,-100 L0,0"},
         {"AA of 360 is two halves", "PU10,0;PD;AA0,0,360", "1: 10,0 A0,0 180>-10,0 A0,0 180>10,0"},
@@ -91,7 +88,6 @@ const std::vector<Case>& cases() {
         {"BR counts all points of a curve from its start", "PU10,10;PD;BR0,5,5,5,5,0,1,1,2,2,3,3",
          "1: 10,10 B10,15 15,15>15,10 B16,11 17,12>18,13"},
 
-        // Figures
         {"CI does not part a stroke", "PD10,0;CI-3,5;PD20,0", "1: 0,0 L10,0 L20,0; 1: O10,0 r3"},
         {"EA stays where it was", "PU1,1;EA3,2;PD0,0", "1: 1,1 L3,1 L3,2 L1,2 L1,1; 1: 1,1 L0,0"},
         {"ER counts from the pen's place", "PU10,10;ER20,-5", "1: 10,10 L30,10 L30,5 L10,5 L10,10"},
@@ -106,7 +102,6 @@ const std::vector<Case>& cases() {
         {"a tick within a stroke does not part it", "IP0,0,1000,1000;TL1;PD5,0;XT;PD9,0",
          "1: 0,0 L5,0 L9,0; 1: 5,0 L5,10"},
 
-        // Polygons
         {"PM keeps a polygon, closes it, and EP draws it", "PU10,10;PM0;PD20,10,20,20;PM2;EP;PD0,0",
          "1: 10,10 L20,10 L20,20 L10,10; 1: 10,10 L0,0"},
         {"EP leaves out edges drawn with the pen up", "PM;PD10,0;PU10,10;PD0,10;PM2;EP",
@@ -122,7 +117,6 @@ const std::vector<Case>& cases() {
          "1: 0,0 L9,0 L9,9 L0,0; 2: 0,0 L9,0 L9,9 L0,0"},
         {"EP without a polygon draws nothing", "EP;FP;PM2;EP", ""},
 
-        // Units
         {"SC stretches P1 to P2", "IP10,20,110,220;SC0,10,0,10;PU1,1;PD10,10", "1: 20,40 L110,220"},
         {"SC keeps shapes with 1", "IP0,0,200,100;SC0,10,0,10,1;PU0,0;PD10,10", "1: 50,0 L150,100"},
         {"SC keeps shapes with 1, with free space where it is told",
@@ -145,7 +139,6 @@ const std::vector<Case>& cases() {
          "1: 3900,2000 L3900,1990 A4000,2000 90>4010,1900"},
         {"RO without a number turns back", "RO90;RO;PD10,0", "1: 0,0 L10,0"},
 
-        // Texts and the like
         {"LB goes on over lines, and in lower case", "lbPD9,9;\r\nPU5,5;\x03pd2,0", "1: 0,0 L2,0"},
         {"DT sets labels' end", "DT#;LBPD9,9;\x03;#PD2,0;DT;LBPD7,7\x03PD3,0", "1: 0,0 L2,0 L3,0"},
         {"DT may say whether its character is written, too", "DT*,1;LBPD9,9*PD2,0", "1: 0,0 L2,0"},

@@ -19,8 +19,7 @@ PreparedDrawing prepared(const std::string& drawing, const PrepareOptions& optio
     return prepareDrawing(readHpgl(drawing, "test.plt"), options);
 }
 
-// Strokes as drawings have them: lines, chords of arcs, jittered lines, wiggles, arcs, curves; at
-// whole units or anywhere.
+// Strokes as drawings have them, at whole units or anywhere.
 class RandomStrokes {
 public:
     explicit RandomStrokes(unsigned seed) : m_random(seed), m_wholeUnits(whole(0, 1) == 0) {}
