@@ -29,10 +29,10 @@ public:
             m_err << programName << ": " << message << '\n';
         };
         const int named = runEach(
-            m_options.files.size(), [this](std::size_t i) { find(m_options.files[i]); }, say);
+            m_options.files, [this](std::size_t i) { find(m_options.files[i]); }, say);
         begin();
         const int checked = runEach(
-            m_programs.size(), [this](std::size_t i) { check(m_programs[i]); }, say);
+            m_programs, [this](std::size_t i) { check(m_programs[i]); }, say);
         if (m_options.form == CheckOptions::Form::json)
             m_out << (m_isFirst ? "[]\n" : "]\n");
         if (named != 0 || checked != 0)

@@ -42,7 +42,7 @@ bool takeLock(QLockFile& lock) {
     return true;
 }
 
-bool makeFolder(const std::filesystem::path& file) {
+bool makeFolderOf(const std::filesystem::path& file) {
     return QDir().mkpath(QFileInfo(toQt(file)).absolutePath());
 }
 
@@ -92,7 +92,7 @@ std::string SettingsFileRegistry::storedValueGet(std::string_view name,
 }
 
 bool SettingsFileRegistry::store(const Values& values) {
-    if (!makeFolder(m_file))
+    if (!makeFolderOf(m_file))
         return false;
     {
         QLockFile lock(toQt(m_file) + QStringLiteral(".lock")); // as QSettings names its own
@@ -106,7 +106,7 @@ bool SettingsFileRegistry::store(const Values& values) {
 
 bool SettingsFileRegistry::lock() {
     try {
-        if (!makeFolder(m_file) || !takeLock(m_batchLock))
+        if (!makeFolderOf(m_file) || !takeLock(m_batchLock))
             return false;
         read();
         m_inBatch = true;
