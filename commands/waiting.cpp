@@ -4,6 +4,7 @@
 #include "base/files.h"
 
 #include <chrono>
+#include <system_error>
 
 namespace torvik {
 namespace {
@@ -26,8 +27,12 @@ std::string slowOnes(const std::vector<std::filesystem::path>& files) {
 WaitingNotice::WaitingNotice(const std::vector<std::filesystem::path>& files,
                              std::function<void(std::string_view message)> say)
     : m_say(std::move(say)), m_names(slowOnes(files)) {
-    if (!m_names.empty())
-        m_thread = std::thread([this] { wait(); });
+    try {
+        if (!m_names.empty())
+            m_thread = std::thread([this] { wait(); });
+    } catch (const std::system_error&) {
+        m_names.clear(); // no thread to be had: nothing is said
+    }
 }
 
 WaitingNotice::~WaitingNotice() {
