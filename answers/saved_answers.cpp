@@ -12,7 +12,9 @@ namespace torvik {
 namespace {
 
 SavedGroup savedGroup(const Settings& settings, const ToolList& tools) {
-    const bool hasTool = isInList(tools, settings.intTool);
+    // A place behind the list is an error; one whose record cannot be read holds no tool.
+    const bool hasTool =
+        settings.intTool > tools.gintToolCount || isInList(tools, settings.intTool);
     return {hasTool ? toolAt(tools, settings.intTool).intNumber : std::int16_t{0}, settings};
 }
 

@@ -44,9 +44,10 @@ StoredEntries readEntries(const RegistryReader& registry, std::string_view count
     }
     if (!count || entries.texts.size() > last + mostMissing) {
         entries.texts.resize(last);
-        entries.fault = std::string(countName) + " is \"" + countText + "\", but " +
-                        formatInteger(static_cast<long>(last)) +
-                        " entries are stored; these are used";
+        entries.fault =
+            std::string(countName) + " is \"" + countText +
+            "\", which cannot be right; the list is used up to its last entry, number " +
+            formatInteger(static_cast<long>(last));
     }
     return entries;
 }

@@ -18,7 +18,7 @@ StatusLines::StatusLines(QStatusBar& bar) : m_bar(bar), m_toolsUnsaved(new QLabe
     layout->setSpacing(0);
     m_toolsUnsaved->setObjectName(QStringLiteral("lblToolsUnsaved"));
     m_toolsUnsaved->setTextFormat(Qt::PlainText);
-    m_toolsUnsaved->setWordWrap(true); // a long path does not widen the window
+    m_toolsUnsaved->setMinimumWidth(1); // a long path does not widen the window
     m_toolsUnsaved->setMargin(4);
     addLine(*m_toolsUnsaved);
     bar.setObjectName(QStringLiteral("staMain"));
@@ -36,6 +36,7 @@ void StatusLines::addLine(QWidget& line) {
 void StatusLines::showToolsUnsaved(bool unsaved) {
     m_toolsUnsaved->setText(tr("The tools could not be saved in %1: they last until Torvik ends")
                                 .arg(QString::fromStdString(registryPlace())));
+    m_toolsUnsaved->setToolTip(m_toolsUnsaved->text());
     m_toolsUnsaved->setVisible(unsaved);
 }
 

@@ -22,11 +22,5 @@ TEST(ToolEdits, LaterToolsMoveDownAndTheArrayKeepsItsSize) {
     EXPECT_EQ(numbers(tools), "1 3 9 /3");
 }
 
-TEST(ToolEdits, AFullListTakesNoMore) {
-    ToolList tools = drills(32767);
-    EXPECT_THROW(addTool(tools, {}), Overflow);
-    EXPECT_EQ(tools.gintToolCount, 32767);
-}
-
 } // namespace
 } // namespace torvik

@@ -182,7 +182,9 @@ QString FrmToolSelect::deletionQuestion(const Tool& tool) {
     const QString ask = tr("Are you sure you want to delete:") + u'\n';
     if (tool.strUnreadable)
         return ask + tr("The tool that cannot be read\n(%1)?\n")
-                         .arg(QString::fromStdString(*tool.strUnreadable));
+                         .arg(tool.strUnreadable->empty()
+                                  ? tr("nothing is stored")
+                                  : QString::fromStdString(*tool.strUnreadable));
     return ask + tr("Tool no. %1\n(%2  %3 mm)?\n")
                      .arg(QString::number(tool.intNumber), QString::fromStdString(tool.strType),
                           QString::fromStdString(formatFixed(tool.sngDiameter, 3)));

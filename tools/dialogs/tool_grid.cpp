@@ -108,14 +108,13 @@ int ToolGrid::appendTool(const QString& number, const Tool& tool, std::int16_t p
 
 void ToolGrid::setTool(int row, const QString& number, const Tool& tool) {
     const bool readable = !tool.strUnreadable;
-    const QString type = QString::fromStdString(tool.strType);
+    const QString type = QString::fromStdString(readable ? tool.strType : *tool.strUnreadable);
     item(row, columnNumber)->setText(readable ? number : QString());
-    item(row, columnType)->setText(readable ? type : tr("cannot be read"));
-    item(row, columnType) // it may be too long to show
-        ->setToolTip(
-            readable ? type : tr("Stored is: %1").arg(QString::fromStdString(*tool.strUnreadable)));
+    item(row, columnType)->setText(type);
+    item(row, columnType)->setToolTip(type); // it may be too long to show
     item(row, columnDiameter)
-        ->setText(readable ? QString::fromStdString(formatFixed(tool.sngDiameter, 3)) : QString());
+        ->setText(readable ? QString::fromStdString(formatFixed(tool.sngDiameter, 3))
+                           : tr("cannot be read"));
 }
 
 int ToolGrid::selectedRow() const {

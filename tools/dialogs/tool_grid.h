@@ -37,7 +37,7 @@ public:
     void clearTools();
     // Fills the first empty row (appending one where there is none) and returns it.
     int appendTool(const QString& number, const Tool& tool, std::int16_t place);
-    // A tool whose record could not be read shows "cannot be read".
+    // A record that could not be read is shown as it is stored, and that it "cannot be read".
     void setTool(int row, const QString& number, const Tool& tool);
 
     // The selected row, -1 where none is selected.

@@ -177,7 +177,7 @@ TEST_F(FrmToolSelectTest, AToolThatCannotBeReadIsMendedOrDeletedButNotChosen) {
     list.gudtTools[2].strUnreadable = "";
     list.gudtTools[2].intNumber = 0;
     show(list);
-    EXPECT_EQ(row(0), "|cannot be read||1|");
+    EXPECT_EQ(row(0), "|2|Reamer|cannot be read|1|");
     clickRow(0, true);
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(actions(), "cmdEditcmdDelete");
