@@ -12,28 +12,25 @@ constexpr double slowest = 1;      // mm/min; what is outside is unusual
 constexpr double fastest = 6000;   // mm/min
 constexpr double longestWait = 30; // s
 
-// The last five moves of one kind to one height. The one in the middle is odd where it has another
-// feed than the four about it, which have one.
+// The last three moves of one kind to one height. The one in the middle is odd where it has another
+// feed than the two beside it, which have one.
 class Neighbours {
 public:
-    void clear() { m_count = 0; }
+    void clear() { m_last = {}; }
 
     // The odd one, nullptr where there is none.
     const Move* take(const Move& move) {
-        if (m_count > 0 && !isSameHeight(m_last[(m_count - 1) % 5]->to.z, move.to.z))
+        if (m_last[2] != nullptr && !isSameHeight(m_last[2]->to.z, move.to.z))
             clear();
-        m_last[m_count++ % 5] = &move;
-        if (m_count < 5)
-            return nullptr;
-        const auto feedOf = [&](std::size_t back) { return m_last[(m_count - back) % 5]->feed; };
-        const double usual = feedOf(1);
-        const bool isUsual = feedOf(2) == usual && feedOf(4) == usual && feedOf(5) == usual;
-        return isUsual && feedOf(3) != usual ? m_last[(m_count - 3) % 5] : nullptr;
+        m_last = {m_last[1], m_last[2], &move};
+        const auto& [first, middle, last] = m_last;
+        const bool isOdd = first != nullptr && first->feed == last->feed && // both are known
+                           middle->feed != first->feed;
+        return isOdd ? middle : nullptr;
     }
 
 private:
-    std::array<const Move*, 5> m_last{};
-    std::size_t m_count = 0;
+    std::array<const Move*, 3> m_last{};
 };
 
 class Feeds {

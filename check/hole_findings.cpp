@@ -108,15 +108,13 @@ private:
         return true;
     }
 
-    // The one in the middle, where the four about it are alike.
+    // The one in the middle, where the two beside it are alike.
     void findOdd() {
-        const Hole& usual = m_last[0];
-        const auto isUsual = [&](std::size_t i) { return areDrilledAlike(m_last[i], usual); };
-        if (isUsual(1) && isUsual(3) && isUsual(4) && !isUsual(2))
-            m_findings.add(Kind::holeDiffers, m_last[2].line);
+        if (areDrilledAlike(m_last[0], m_last[2]) && !areDrilledAlike(m_last[0], m_last[1]))
+            m_findings.add(Kind::holeDiffers, m_last[1].line);
     }
 
-    static constexpr std::size_t seen = 5;
+    static constexpr std::size_t seen = 3;
 
     const Walked& m_walked;
     Findings& m_findings;

@@ -38,7 +38,7 @@ constexpr std::array table{
     KindRow{Kind::unknownPlace, "unknown-place", Level::danger,
             "The tool moves although the program has not said yet {1}."},
     KindRow{Kind::airCut, "air-cut", Level::wrong,
-            "The tool cuts at Z{1}, above the material. The move down may be missing."},
+            "The tool cuts at Z{1}, above the material. It does not go down far enough."},
     KindRow{Kind::upwardFeed, "upward-feed", Level::wrong,
             "The tool goes up slowly from Z{1} to Z{2}, where a way down should be."},
     KindRow{Kind::emptyPlunge, "empty-plunge", Level::wrong,

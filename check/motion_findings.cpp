@@ -76,6 +76,8 @@ private:
     void feedHeight(const Move& move) {
         if (!m_placeSaid)
             findUnknown(move, "where the tool is, X and Y");
+        if (move.to.z > 0)
+            m_findings.add(Kind::airCut, move.line, {heightText(move.to.z)});
         if (move.to.z > move.from.z)
             m_findings.add(Kind::upwardFeed, move.line,
                            {heightText(move.from.z), heightText(move.to.z)});

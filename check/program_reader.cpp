@@ -90,11 +90,18 @@ private:
             Statement statement;
             statement.line = line.number;
             statement.meaning = Meaning::percent;
-            m_program.statements.push_back(statement);
-            return;
+            keep(statement);
+        } else {
+            keep(readStatement(target(), withoutNumber(line), line.number, m_findings));
         }
-        const std::string_view text = withoutNumber(line);
-        m_program.statements.push_back(readStatement(target(), text, line.number, m_findings));
+    }
+
+    // A run of lines that are no statements is one: a file that is no program may have millions.
+    void keep(const Statement& statement) {
+        auto& kept = m_program.statements;
+        const bool isNone = statement.meaning == Meaning::unknown;
+        if (!isNone || kept.empty() || kept.back().meaning != Meaning::unknown)
+            kept.push_back(statement);
     }
 
     std::string_view withoutNumber(const Line& line) {

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t largestProgram = std::uintmax_t{256} << 20;
+constexpr std::uintmax_t largestProgram = std::uintmax_t{64} << 20;
 
 std::string inSmallLetters(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](char c) {

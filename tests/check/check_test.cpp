@@ -51,6 +51,7 @@ const Row rows[]{
     {"the tool goes across at the tool change height", 42, "", Kind::oddHeight, 42},
     {"the first way across is missing", 14, "", Kind::unknownPlace, 15},
     {"the way down is missing before a cut", 34, "", Kind::airCut, 34},
+    {"a way down ends above the material", 45, "G1 Z1.00 F1.00", Kind::airCut, 45},
     {"a way down leads up", 21, "G1 Z-0.50 F2.50", Kind::upwardFeed, 21},
     {"a cut is missing", 35, "", Kind::emptyPlunge, 34},
     {"the way across to a hole is missing", 57, "", Kind::lostRapid, 57},
