@@ -6,12 +6,15 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
+#include "base/picture.h"
 #include "base/text.h"
 #include "commands/drawing_run.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
+#include "gcode/comment_check.h"
 #include "gcode/output_file.h"
+#include "gcode/program_size.h"
 #include "gcode/tool_check.h"
 #include "job/hpgl_reader.h"
 #include "job/job.h"
@@ -81,6 +84,7 @@ private:
         if (trimBlanks(job.answers.gstrHeader[headerDate]).empty())
             job.answers.gstrHeader[headerDate] = m_options.date;
         requireTools(job, drawing);
+        const ProgramSize size = requireWritable(job, drawing);
 
         const auto output = m_options.outputPath(i);
         refuseOverwritingInput(output, job);
@@ -92,8 +96,39 @@ private:
         if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
                                overwrite, m_logger))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
-        if (!m_options.quiet)
-            m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+        warnOfComments(job);
+        if (m_options.quiet)
+            return;
+        if (size.isLong())
+            m_reported.push_back("the program has " + formatInteger(size.lines) + " lines (about " +
+                                 formatInteger(size.megabytes()) + " MB) in " +
+                                 formatInteger(size.steps) + " depth passes and pecks");
+        m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+    }
+
+    // A file that no control can take is not begun.
+    ProgramSize requireWritable(const Job& job, const std::filesystem::path& drawing) const {
+        const ProgramSize size = programSize(job, m_tools, *m_options.dialect);
+        if (!size.isTooLong())
+            return size;
+        const auto& [pen, radius, settings] = size.longest.value();
+        throw Failure{ExitCode::job, utf8FromPath(drawing) + ": the program would have more than " +
+                                         formatInteger(mostLines) + " lines, most of them for " +
+                                         groupText(job.answers.gudtPens[pen], radius) +
+                                         "; larger steps or a smaller depth make it shorter"};
+    }
+
+    void warnOfComments(const Job& job) {
+        for (const CommentFault& fault : commentFaults(job, m_tools, *m_options.dialect)) {
+            const std::string about = (fault.isTool ? "the type of tool " : "") + fault.field +
+                                      ", \"" + fault.text + "\": ";
+            if (fault.endsComment)
+                m_reported.push_back(about + "a round bracket ends the comment, and the control "
+                                             "may read the rest as statements");
+            if (!fault.lost.empty())
+                m_reported.push_back(about + "a program cannot hold " + fault.lost +
+                                     ", ? stands there instead");
+        }
     }
 
     // The tool library is read once, with the first drawing that needs it.

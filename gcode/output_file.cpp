@@ -38,13 +38,18 @@ std::string absolutePlotFile(const Job& job) {
 
 } // namespace
 
-bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
-                  std::int16_t number, ByteSink& sink, Logger& logger) {
-    ProgramOutput output(sink);
+void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+              ProgramOutput& output, Logger& logger) {
     writeOpening(dialect.opening, number, output);
     if (!dialect.commentOpener.empty())
         WriteHeader(job, tools, dialect.commentOpener, dialect.commentCloser, output, logger);
     writeOpening(dialect.openingAfterHeader, number, output);
+}
+
+bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  std::int16_t number, ByteSink& sink, Logger& logger) {
+    ProgramOutput output(sink);
+    writeTop(job, tools, dialect, number, output, logger);
     const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
     output.flush();
     return whole && !output.failed();

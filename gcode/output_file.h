@@ -15,6 +15,7 @@ struct Job;
 struct ToolList;
 class ByteSink;
 class Logger;
+class ProgramOutput;
 
 enum class WriteOutcome {
     written,
@@ -32,6 +33,10 @@ WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t targe
 // the header (more than sixteen tools) is reported and passed over, a failed write excepted.
 bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                   std::int16_t number, ByteSink& sink, Logger& logger);
+
+// What stands before the body: the opening lines and the header.
+void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+              ProgramOutput& output, Logger& logger);
 
 // The text beside a program: where the drawing is, the program's name without its folder, and the
 // header. Raises FileError where the sink does; False where that was reported already, in the

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "base/picture.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cerrno>
@@ -24,6 +25,10 @@ char* put(char* out, std::string_view text) {
 }
 
 } // namespace
+
+std::int64_t lineEndsIn(std::string_view bytes) {
+    return std::count(bytes.begin(), bytes.end(), lineEnd.back());
+}
 
 FileSink::FileSink(const std::filesystem::path& file) : m_name(utf8FromPath(file)) {
     // The lines are gathered in large pieces already.

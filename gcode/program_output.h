@@ -18,6 +18,9 @@ namespace torvik {
 
 inline constexpr std::string_view lineEnd = "\r\n";
 
+// How many lines end in the bytes.
+std::int64_t lineEndsIn(std::string_view bytes);
+
 // A file opened for writing, replacing any of that name. Raises FileError where it cannot be
 // opened, and on every failed write.
 class FileSink final : public ByteSink {
