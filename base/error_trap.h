@@ -2,6 +2,7 @@
 // The one error trap: whoever must go on after a run-time error runs its work inside it.
 #pragma once
 
+#include "base/errors.h"
 #include "base/logger.h"
 
 #include <exception>
@@ -16,13 +17,15 @@ struct Location {
     std::string_view module;
 };
 
-// Runs the work; an exception is logged and reported with the location. True when the work ran to
-// its end.
+// Runs the work; an exception is logged and reported with the location, unless the user ended the
+// work. True when the work ran to its end.
 template <typename Work>
 bool withErrorTrap(Logger& logger, Location at, Work&& work) {
     try {
         std::forward<Work>(work)();
         return true;
+    } catch (const Cancelled&) {
+        return false;
     } catch (const std::exception& error) {
         logger.reportError(at.procedure, at.module, error.what());
     }

@@ -36,6 +36,28 @@ std::string absolutePlotFile(const Job& job) {
     return error ? job.drawing.gstrPlotFile : utf8FromPath(path);
 }
 
+// Passes bytes on and tells the progress of it.
+class WatchedSink final : public ByteSink {
+public:
+    WatchedSink(ByteSink& sink, const WriteProgress& progress)
+        : m_sink(sink), m_progress(progress) {}
+
+    void write(std::string_view bytes) override {
+        m_sink.write(bytes);
+        m_lines += lineEndsIn(bytes);
+        m_cancelled = m_progress && !m_progress(m_lines);
+        if (m_cancelled)
+            throw Cancelled();
+    }
+    bool isCancelled() const { return m_cancelled; }
+
+private:
+    ByteSink& m_sink;
+    const WriteProgress& m_progress;
+    std::int64_t m_lines = 0;
+    bool m_cancelled = false;
+};
+
 } // namespace
 
 void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
@@ -71,17 +93,19 @@ std::filesystem::path sideTextPath(const std::filesystem::path& program) {
 }
 
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
-                       std::int16_t number, const std::filesystem::path& file, Logger& logger) {
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger,
+                       const WriteProgress& progress) {
     constexpr Location here{"WriteFile", "modHpgl"};
     const Dialect& dialect = dialectFor(target);
     std::optional<FileSink> program;
     if (!withQuietErrorTrap(logger, here, [&] { program.emplace(file); }))
         return WriteOutcome::notOpened;
+    WatchedSink watched(*program, progress);
     bool whole = false;
     const bool stored = withErrorTrap(logger, here, [&] {
-        whole = writeProgram(job, tools, dialect, number, *program, logger);
+        whole = writeProgram(job, tools, dialect, number, watched, logger);
         if (!whole)
-            return; // told already
+            return; // told already, or cancelled
         program->close();
         if (!dialect.needsNumber())
             return;
@@ -90,6 +114,8 @@ WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t targe
         if (whole)
             sideText.close();
     });
+    if (watched.isCancelled())
+        return WriteOutcome::cancelled;
     return stored && whole ? WriteOutcome::written : WriteOutcome::failed;
 }
 

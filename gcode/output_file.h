@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,8 +18,12 @@ class ByteSink;
 class Logger;
 class ProgramOutput;
 
+// Hears how many lines are written, now and then; false ends the writing.
+using WriteProgress = std::function<bool(std::int64_t lines)>;
+
 enum class WriteOutcome {
     written,
+    cancelled, // by the progress; nothing of it is left
     notOpened, // the program's file cannot be opened for writing; logged only
     failed,    // logged and reported; what was written stays
 };
@@ -27,7 +32,8 @@ enum class WriteOutcome {
 // file beside it where the target has one. `number` is the
 // program number of the targets that have one, 1 to 32767.
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
-                       std::int16_t number, const std::filesystem::path& file, Logger& logger);
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger,
+                       const WriteProgress& progress = {});
 
 // The program alone, into any sink. False after a trapped error that ended the body; an error in
 // the header (more than sixteen tools) is reported and passed over, a failed write excepted.
