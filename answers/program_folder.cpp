@@ -5,7 +5,7 @@
 #include "base/user_folders.h"
 
 #ifdef _WIN32
-#include <fstream>
+#include "base/whole_file.h"
 #else
 #include <unistd.h>
 #endif
@@ -32,11 +32,12 @@ bool belongsToSystem(const fs::path&) {
 
 // Who may write is not looked up there unless a file is made; it is removed at once.
 bool canBeWritten(const fs::path& folder) {
-    const fs::path probe = folder / "torvik-probe.tmp";
-    const bool opened = std::ofstream(probe).is_open();
-    std::error_code ignored;
-    fs::remove(probe, ignored);
-    return opened;
+    try {
+        const WholeFile probe(folder / "probe");
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
 }
 
 #else

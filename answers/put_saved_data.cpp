@@ -5,7 +5,6 @@
 #include "answers/saved_names.h"
 #include "answers/saved_settings.h"
 #include "base/error_trap.h"
-#include "base/errors.h"
 #include "base/files.h"
 #include "base/whole_file.h"
 #include "job/job.h"
@@ -29,11 +28,7 @@ void putAside(const Job& job, const std::filesystem::path& file) {
 bool PutSavedData(const Job& job, const ToolList& tools, const std::filesystem::path& folder,
                   Logger& logger) {
     return withErrorTrap(logger, {"PutSavedData", "modHpgl"}, [&] {
-        std::error_code error;
-        std::filesystem::create_directories(folder, error);
-        if (error)
-            throw FileError(utf8FromPath(folder),
-                            "the folder cannot be created: " + error.message());
+        makeFolder(folder);
         const std::string answers = formatAnswers(answersOfJob(job, tools));
         const auto file = folder / pathFromUtf8(savedFileName(job.drawing.gstrPlotFile));
         putAside(job, file);

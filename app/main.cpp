@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
+#include "base/stop_signals.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    torvik::tidyUpWhenStopped();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Torvik"));
     QApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));

@@ -27,7 +27,7 @@ bool withErrorTrap(Logger& logger, Location at, Work&& work) {
     } catch (const Cancelled&) {
         return false;
     } catch (const std::exception& error) {
-        logger.reportError(at.procedure, at.module, error.what());
+        logger.reportError(at.procedure, at.module, causeOf(error));
     }
     return false;
 }
@@ -39,7 +39,7 @@ bool withQuietErrorTrap(Logger& logger, Location at, Work&& work) {
         std::forward<Work>(work)();
         return true;
     } catch (const std::exception& error) {
-        logger.logError(at.procedure, at.module, error.what());
+        logger.logError(at.procedure, at.module, causeOf(error));
     }
     return false;
 }

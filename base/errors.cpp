@@ -15,4 +15,9 @@ FileError::FileError(const std::string& file, const std::string& cause, long lin
                    cause),
       m_cause(cause), m_line(line) {}
 
+std::string causeOf(const std::exception& error) {
+    return dynamic_cast<const std::bad_alloc*>(&error) != nullptr ? "there is not enough memory"
+                                                                  : error.what();
+}
+
 } // namespace torvik

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace torvik {
 
@@ -55,5 +57,18 @@ private:
     std::string m_cause;
     long m_line;
 };
+
+// What is to be said of any error: what() in plain words.
+std::string causeOf(const std::exception& error);
+
+// Runs the work for a file. Where the memory ends, FileError with the file's name is raised.
+template <typename Work>
+void namingFile(const std::string& file, Work&& work) {
+    try {
+        std::forward<Work>(work)();
+    } catch (const std::bad_alloc& error) {
+        throw FileError(file, causeOf(error));
+    }
+}
 
 } // namespace torvik

@@ -6,12 +6,21 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <ctime>
 #include <fstream>
 #include <string>
 
 namespace torvik {
 namespace {
+
+constexpr std::uintmax_t largestLog = 1'000'000; // bytes
+
+bool isPowerOfTen(long count) {
+    while (count > 1 && count % 10 == 0)
+        count /= 10;
+    return count == 1;
+}
 
 std::string now() {
     const std::time_t seconds = std::time(nullptr);
@@ -86,17 +95,32 @@ bool Logger::excluded(std::string_view procedure, std::string_view module) const
         [&](const std::string& name) { return name == procedure || name == module; });
 }
 
+long Logger::countOf(std::string_view message) {
+    m_lastCount = message == m_lastMessage ? m_lastCount + 1 : 1;
+    m_lastMessage = message;
+    return m_lastCount;
+}
+
 void Logger::append(std::string_view kind, std::string_view procedure, std::string_view module,
                     std::string_view text) {
     if (m_logFile.empty())
         return;
-    std::string line = now() + " " + std::string(kind) + " " + location(procedure, module);
+    std::string line = std::string(kind) + " " + location(procedure, module);
     if (!text.empty())
         line.append(": ").append(text);
+    const long count = countOf(line);
+    if (!isPowerOfTen(count))
+        return;
+    if (count > 1)
+        line += " (" + std::to_string(count) + " times in a row)";
+    line.insert(0, now() + " ");
     std::replace_if(
         line.begin(), line.end(), [](unsigned char c) { return c < 32; }, ' ');
     std::error_code ignored;
     std::filesystem::create_directories(m_logFile.parent_path(), ignored);
+    const auto size = std::filesystem::file_size(m_logFile, ignored);
+    if (!ignored && size >= largestLog)
+        std::filesystem::rename(m_logFile, std::filesystem::path(m_logFile) += ".old", ignored);
     std::ofstream(m_logFile, std::ios::app) << line << '\n';
 }
 

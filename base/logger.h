@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The error logger: appends what happened to the program's log file and, for errors, tells the
 // user through the report that the program hands in (a message box, a line on standard error).
-// A log file that cannot be written is passed over: logging never stops the program.
+// A log file that cannot be written is passed over: logging never stops the program. One that has
+// grown to a megabyte becomes NAME.old, in place of the one before. Of equal messages in a row the
+// first is written and then the 10th, the 100th and so on, each with its count.
 #pragma once
 
 #include <filesystem>
@@ -53,6 +55,8 @@ public:
     void info(std::string_view procedure, std::string_view module, std::string_view text);
 
 private:
+    // How often the message has come in a row, this time included.
+    long countOf(std::string_view message);
     bool excluded(std::string_view procedure, std::string_view module) const;
     void append(std::string_view kind, std::string_view procedure, std::string_view module,
                 std::string_view text);
@@ -60,6 +64,8 @@ private:
     std::filesystem::path m_logFile;
     Report m_report;
     LogSwitches m_switches;
+    std::string m_lastMessage;
+    long m_lastCount = 0;
 };
 
 } // namespace torvik

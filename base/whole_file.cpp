@@ -1,93 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "base/whole_file.h"
 
+#include "base/file_calls.h"
 #include "base/files.h"
+#include "base/stop_signals.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
-#include <random>
-
-#ifdef _WIN32
-#include <io.h>
-#include <sys/stat.h>
-#else
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 namespace torvik {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int namesToTry = 100;
-
-// A name beside the target that nobody can guess.
-fs::path strangeName(const fs::path& target, const char* kind) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    constexpr int length = 16;
-    std::random_device random;
-    std::string name = ".torvik-";
-    for (int i = 0; i < length; ++i)
-        name += digits[random() % digits.size()];
-    return target.parent_path() / (name + kind);
-}
-
-#ifdef _WIN32
-
-int createNew(const fs::path& file) {
-    return _wopen(file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
-                  _S_IREAD | _S_IWRITE);
-}
-
-long put(int descriptor, const char* bytes, std::size_t size) {
-    constexpr std::size_t most = std::size_t{1} << 30;
-    return _write(descriptor, bytes, static_cast<unsigned>(std::min(size, most)));
-}
-
-int shut(int descriptor) {
-    return _close(descriptor);
-}
-
-bool mayBeReplaced(const fs::path& file) {
-    return _waccess(file.c_str(), 2) == 0;
-}
-
-void takeRights(int, const fs::path&) {}
-
-#else
-
-int createNew(const fs::path& file) {
-    constexpr mode_t forAll = 0666; // less what the user's mask takes
-    return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, forAll);
-}
-
-long put(int descriptor, const char* bytes, std::size_t size) {
-    return ::write(descriptor, bytes, size);
-}
-
-int shut(int descriptor) {
-    return ::close(descriptor);
-}
-
-bool mayBeReplaced(const fs::path& file) {
-    return ::access(file.c_str(), W_OK) == 0;
-}
-
-// What the system does not allow stays as it is.
-void takeRights(int descriptor, const fs::path& from) {
-    constexpr mode_t rights = 07777;
-    struct stat status {};
-    if (::stat(from.c_str(), &status) != 0)
-        return;
-    if (::fchown(descriptor, status.st_uid, status.st_gid) != 0)
-        errno = 0;
-    if (::fchmod(descriptor, status.st_mode & rights) != 0)
-        errno = 0;
-}
-
-#endif
 
 // The file to write. Refuses what cannot be replaced by a file.
 fs::path realTarget(const fs::path& file) {
@@ -103,7 +26,7 @@ fs::path realTarget(const fs::path& file) {
     if (!fs::is_regular_file(status))
         throw FileError(name, "this is no ordinary file");
     errno = 0;
-    if (!mayBeReplaced(file))
+    if (!calls::mayBeReplaced(file))
         throw FileError(name, "the file cannot be written: " + systemErrorText());
     fs::path real = fs::canonical(file, error);
     if (error)
@@ -115,27 +38,24 @@ fs::path realTarget(const fs::path& file) {
 
 WholeFile::WholeFile(const fs::path& target)
     : m_target(realTarget(target)), m_name(utf8FromPath(target)) {
+    removeLeftOvers(m_target.parent_path());
     open();
-    takeRights(m_descriptor, m_target);
+    calls::takeRights(m_descriptor, m_target);
 }
 
 WholeFile::~WholeFile() {
     if (m_descriptor >= 0)
-        shut(m_descriptor);
-    std::error_code ignored;
-    if (!m_committed)
-        fs::remove(m_pending, ignored);
-    dropOld();
+        calls::shut(m_descriptor);
 }
 
 void WholeFile::open() {
-    for (int i = 0; i < namesToTry && m_descriptor < 0; ++i) {
-        m_pending = strangeName(m_target, ".new");
-        errno = 0;
-        m_descriptor = createNew(m_pending);
-        if (m_descriptor < 0 && errno != EEXIST)
-            break;
-    }
+    m_descriptor = calls::createNameless(m_target.parent_path());
+    m_isNameless = m_descriptor >= 0;
+    if (m_isNameless)
+        return;
+    m_pending.emplace(m_target, ".new");
+    errno = 0;
+    m_descriptor = calls::createNew(m_pending->path());
     if (m_descriptor < 0)
         fail("the file cannot be opened for writing: " + systemErrorText());
 }
@@ -150,7 +70,7 @@ void WholeFile::fail(const std::string& what) {
 void WholeFile::write(std::string_view bytes) {
     while (!bytes.empty()) {
         errno = 0;
-        const long written = put(m_descriptor, bytes.data(), bytes.size());
+        const long written = calls::put(m_descriptor, bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR)
             continue;
         if (written <= 0)
@@ -159,61 +79,86 @@ void WholeFile::write(std::string_view bytes) {
     }
 }
 
+// The bytes are on the disk, under a name that can be exchanged for the own one.
+void WholeFile::makeSure() {
+    if (m_isNameless)
+        m_pending.emplace(m_target, ".new");
+    errno = 0;
+    if (calls::sync(m_descriptor) != 0 ||
+        (m_isNameless && calls::giveName(m_descriptor, m_pending->path()) != 0))
+        fail("the file cannot be written to its end: " + systemErrorText());
+}
+
 void WholeFile::close() {
-    if (m_descriptor >= 0) {
-        errno = 0;
-        const int descriptor = m_descriptor;
-        m_descriptor = -1;
-        if (shut(descriptor) != 0 && !m_failure)
-            fail("the file cannot be written to its end: " + systemErrorText());
-    }
     if (m_failure)
         throw FileError(*m_failure);
+    if (m_descriptor < 0)
+        return;
+    makeSure();
+    errno = 0;
+    const int descriptor = m_descriptor;
+    m_descriptor = -1;
+    if (calls::shut(descriptor) != 0)
+        fail("the file cannot be written to its end: " + systemErrorText());
+}
+
+void WholeFile::takeName() {
+    std::error_code error;
+    fs::rename(m_pending->path(), m_target, error);
+    if (error)
+        fail("the file cannot be written: " + error.message());
+    m_pending->keep();
+}
+
+void WholeFile::commit() {
+    close();
+    const StopWaits untilItIsThere;
+    takeName();
 }
 
 // A second name for the file that is replaced, so that it can come back.
 void WholeFile::keepOld() {
     std::error_code error;
-    if (!fs::exists(m_target, error))
+    const auto status = fs::status(m_target, error);
+    if (status.type() == fs::file_type::not_found)
         return;
-    m_old = strangeName(m_target, ".old");
-    fs::create_hard_link(m_target, m_old, error);
+    m_old.emplace(m_target, ".old");
+    fs::create_hard_link(m_target, m_old->path(), error);
     if (error) // a disk that knows no second names
-        fs::copy_file(m_target, m_old, error);
+        fs::copy_file(m_target, m_old->path(), error);
+    if (error)
+        fail("the file cannot be replaced: " + error.message());
+}
+
+// What was there before comes again.
+void WholeFile::withdraw() {
+    std::error_code error;
+    if (!m_old) {
+        fs::remove(m_target, error);
+        return;
+    }
+    fs::rename(m_old->path(), m_target, error);
+    if (error)
+        fs::copy_file(m_old->path(), m_target, fs::copy_options::overwrite_existing, error);
     if (error) {
-        const std::string cause = error.message();
-        dropOld();
-        fail("the file cannot be replaced: " + cause);
+        m_old->keep();
+        fail("the earlier file could not be put back; it is now " + utf8FromPath(m_old->path()));
     }
 }
 
-void WholeFile::dropOld() {
-    std::error_code ignored;
-    if (!m_old.empty())
-        fs::remove(m_old, ignored);
-    m_old.clear();
-}
-
-void WholeFile::commit(WayBack wayBack) {
-    close();
-    if (wayBack == WayBack::kept)
-        keepOld();
-    std::error_code error;
-    fs::rename(m_pending, m_target, error);
-    if (error)
-        fail("the file cannot be written: " + error.message());
-    m_committed = true;
-}
-
-void WholeFile::withdraw() {
-    if (!m_committed)
-        return;
-    std::error_code ignored;
-    if (m_old.empty())
-        fs::remove(m_target, ignored);
-    else
-        fs::rename(m_old, m_target, ignored);
-    m_old.clear();
+void commitBoth(WholeFile& first, WholeFile& second) {
+    first.close();
+    second.close();
+    const StopWaits untilBothAreThere;
+    first.keepOld();
+    first.takeName();
+    try {
+        second.takeName();
+    } catch (const FileError&) {
+        first.withdraw();
+        throw;
+    }
+    first.m_old.reset();
 }
 
 void saveWhole(const fs::path& target, std::string_view bytes) {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Saving a file whole: it is written under a name that nobody else has, in the folder that it goes
-// to, and takes its own name when it is complete. Whatever fails leaves the old file as it was, and
-// nothing beside it.
+// Saving a file whole: it is written without a name, or under one that nobody else has, in the
+// folder that it goes to, and takes its own name when it is complete. Whatever fails, and whoever
+// stops the program, leaves the old file as it was and nothing beside it.
 #pragma once
 
 #include "base/byte_sink.h"
 #include "base/errors.h"
+#include "base/pending_name.h"
 
 #include <filesystem>
 #include <optional>
@@ -24,29 +25,32 @@ public:
     ~WholeFile() override;
 
     void write(std::string_view bytes) override;
-    // Ends the writing. Raises what the first failed write raised, also where an error trap caught
-    // that, and FileError where the system cannot keep the bytes.
+    // Ends the writing; the bytes are on the disk. Raises what the first failed write raised, also
+    // where an error trap caught that, and FileError where the system cannot keep the bytes.
     void close();
-    enum class WayBack { none, kept };
     // Closes the file and gives it its own name. Raises FileError.
-    void commit(WayBack wayBack = WayBack::none);
-    // Takes a file back that was committed with a way back: what was there before comes again.
-    void withdraw();
+    void commit();
+    // The same for two that belong together: both or none. Raises FileError.
+    friend void commitBoth(WholeFile& first, WholeFile& second);
 
 private:
     void open();
     [[noreturn]] void fail(const std::string& what);
+    void makeSure();
+    void takeName();
     void keepOld();
-    void dropOld();
+    void withdraw();
 
     std::filesystem::path m_target;
     std::string m_name; // as the user knows it
-    std::filesystem::path m_pending;
-    std::filesystem::path m_old; // the file that was replaced, until this one goes
     int m_descriptor = -1;
-    bool m_committed = false;
+    bool m_isNameless = false;
+    std::optional<PendingName> m_pending;
+    std::optional<PendingName> m_old; // the file that is replaced, until both are in their places
     std::optional<FileError> m_failure;
 };
+
+void commitBoth(WholeFile& first, WholeFile& second);
 
 // The bytes as the whole content of the file. Raises FileError.
 void saveWhole(const std::filesystem::path& target, std::string_view bytes);

@@ -4,10 +4,13 @@
 #pragma once
 
 #include "base/errors.h"
+#include "base/files.h"
 #include "commands/exit_codes.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 namespace torvik {
 
@@ -17,15 +20,15 @@ struct Failure {
     std::string message;
 };
 
-// Calls work(i) for each drawing from 0 and say(message) for each that fails. What else was raised
-// is taken for a file that cannot be read or written.
+// Calls work(i) for each drawing and say(message) for each that fails. What else was raised is
+// taken for a file that cannot be read or written.
 template <typename Work, typename Say>
-int runEach(std::size_t drawings, Work work, Say say) {
+int runEach(const std::vector<std::filesystem::path>& drawings, Work work, Say say) {
     ExitCode first = ExitCode::done;
-    for (std::size_t i = 0; i < drawings; ++i) {
+    for (std::size_t i = 0; i < drawings.size(); ++i) {
         ExitCode code = ExitCode::done;
         try {
-            work(i);
+            namingFile(utf8FromPath(drawings[i]), [&] { work(i); });
         } catch (const Failure& failure) {
             say(failure.message);
             code = failure.code;

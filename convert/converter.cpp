@@ -3,12 +3,14 @@
 
 #include "answers/import_drawing.h"
 #include "answers/program_folder.h"
+#include "answers/saved_text.h"
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
 #include "base/picture.h"
 #include "base/text.h"
 #include "commands/drawing_run.h"
+#include "commands/waiting.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
@@ -40,7 +42,7 @@ public:
 
     int run() {
         return runEach(
-            m_options.drawings.size(), [this](std::size_t i) { work(i); },
+            m_options.drawings, [this](std::size_t i) { work(i); },
             [this](std::string_view message) { say(message); });
     }
 
@@ -56,6 +58,10 @@ private:
 
     void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
 
+    WaitingNotice noticeFor(const std::vector<std::filesystem::path>& files) {
+        return {files, [this](std::string_view message) { say(message); }};
+    }
+
     // What was reported on the way although the work went on.
     void sayWarnings(const std::string& about) {
         for (const std::string& cause : std::exchange(m_reported, {}))
@@ -68,8 +74,9 @@ private:
     }
 
     void show(const std::filesystem::path& drawing) {
-        requireReadable(drawing);
+        requireReadable(drawing, maxDrawingBytes);
         Job job;
+        const WaitingNotice notice = noticeFor({drawing});
         if (!readDrawing(job, drawing, m_logger))
             throw Failure{ExitCode::job, takeLastReport()};
         m_out << describeDrawing(job);
@@ -77,7 +84,7 @@ private:
 
     void convert(std::size_t i) {
         const auto& drawing = m_options.drawings[i];
-        requireReadable(drawing);
+        requireReadable(drawing, maxDrawingBytes);
         loadTools();
         Job job;
         import(job, drawing);
@@ -91,10 +98,9 @@ private:
         if (m_options.dialect->needsNumber())
             refuseOverwritingInput(sideTextPath(output), job);
         if (m_options.outputFolder)
-            std::filesystem::create_directories(*m_options.outputFolder, m_ignoredError);
-        const bool overwrite = m_options.force || m_options.output.has_value();
+            makeFolder(*m_options.outputFolder);
         if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
-                               overwrite, m_logger))
+                               overwriting(), m_logger))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
         warnOfComments(job);
         if (m_options.quiet)
@@ -131,10 +137,17 @@ private:
         }
     }
 
+    Overwriting overwriting() const {
+        if (m_options.force)
+            return Overwriting::everything;
+        return m_options.output ? Overwriting::programNamed : Overwriting::nothing;
+    }
+
     // The tool library is read once, with the first drawing that needs it.
     void loadTools() {
         if (m_toolsLoaded)
             return;
+        const WaitingNotice notice = noticeFor({m_options.tools.value_or(userSettingsFile())});
         const std::unique_ptr<RegistryReader> registry =
             m_options.tools ? std::make_unique<SettingsFileReader>(
                                   *m_options.tools, SettingsFileReader::IfUnreadable::raises)
@@ -151,11 +164,15 @@ private:
 
     void import(Job& job, const std::filesystem::path& drawing) {
         if (m_options.answers)
-            requireReadable(*m_options.answers);
-        const auto result =
-            m_options.answers
-                ? importDrawingWithAnswers(job, drawing, m_tools, *m_options.answers, m_logger)
-                : importDrawing(job, drawing, m_tools, savedSettingsFolder(), m_logger);
+            requireReadable(*m_options.answers, maxSavedBytes);
+        const ImportResult result = [&] {
+            const WaitingNotice notice =
+                noticeFor({drawing, m_options.answers.value_or(std::filesystem::path())});
+            return m_options.answers
+                       ? importDrawingWithAnswers(job, drawing, m_tools, *m_options.answers,
+                                                  m_logger)
+                       : importDrawing(job, drawing, m_tools, savedSettingsFolder(), m_logger);
+        }();
         if (!result.imported)
             throw Failure{ExitCode::job, takeLastReport()};
         const std::string answers =
@@ -205,7 +222,6 @@ private:
     Logger m_logger;
     ToolList m_tools;
     bool m_toolsLoaded = false;
-    std::error_code m_ignoredError;
 };
 
 int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {

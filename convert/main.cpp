@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "base/stop_signals.h"
 #include "convert/converter.h"
 
 #include <iostream>
 
 int main(int argc, char** argv) {
+    torvik::tidyUpWhenStopped();
     return torvik::runConverter({argv, argv + argc}, std::cout, std::cerr);
 }

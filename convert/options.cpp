@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "gcode/output_file.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <getopt.h>
@@ -172,6 +173,9 @@ void checkOutputs(const ConvertOptions& options) {
 std::string unknownOption(const std::string& argument, int code) {
     if (code == ':')
         return "the option " + argument + " needs a value";
+    if (std::any_of(rows.begin(), rows.end(),
+                    [](const OptionRow& row) { return row.code == optopt; }))
+        return "the option " + argument.substr(0, argument.find('=')) + " takes no value";
     return "there is no option " + argument;
 }
 

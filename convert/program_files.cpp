@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "convert/program_files.h"
 
-#include "base/files.h"
 #include "base/whole_file.h"
 #include "commands/overwriting.h"
 #include "gcode/dialects.h"
@@ -9,29 +8,21 @@
 
 namespace torvik {
 
-bool writeProgramFiles(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
-                       const std::filesystem::path& program, bool overwrite, Logger& logger) {
-    requireFree(program, overwrite);
-    WholeFile pendingProgram(program);
-    const bool whole = writeProgram(job, tools, dialect, number, pendingProgram, logger);
-    pendingProgram.close();
-    if (!whole)
-        return false;
-    if (!dialect.needsNumber()) {
-        pendingProgram.commit();
-        return true;
+bool writeProgramFiles(const Job& job, const ToolList& tools, const Dialect& dialect,
+                       std::int16_t number, const std::filesystem::path& program,
+                       Overwriting overwriting, Logger& logger) {
+    requireFree(program, overwriting != Overwriting::nothing);
+    if (dialect.needsNumber()) {
+        // The text of a program goes with it. Without its program it may be anything.
+        std::error_code unknown;
+        const bool isOfProgram =
+            overwriting == Overwriting::programNamed && std::filesystem::exists(program, unknown);
+        requireFree(sideTextPath(program), overwriting == Overwriting::everything || isOfProgram);
     }
-    requireFree(sideTextPath(program), overwrite);
-    WholeFile pendingText(sideTextPath(program));
-    writeSideText(job, tools, utf8FromPath(program.filename()), pendingText, logger);
-    pendingText.commit(WholeFile::WayBack::kept);
-    try {
-        pendingProgram.commit();
-    } catch (const FileError&) {
-        pendingText.withdraw();
-        throw;
-    }
-    return true;
+    WholeFile pending(program);
+    const bool whole = writeProgram(job, tools, dialect, number, pending, logger);
+    pending.close();
+    return whole && storeProgram(job, tools, dialect, program, pending, logger);
 }
 
 } // namespace torvik

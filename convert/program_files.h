@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A program and the text file beside it, written together or not at all: both are written under
-// temporary names in their folder and renamed when they are whole.
+// A program and the text file beside it, written together or not at all, and what they may
+// take the place of.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +13,17 @@ struct Job;
 struct ToolList;
 class Logger;
 
-// Raises FileError where a file exists already (unless `overwrite`) or cannot be written. False
+enum class Overwriting : std::uint8_t {
+    nothing,
+    programNamed, // the program's file was named, so it may be replaced, with the text beside it
+    everything,
+};
+
+// Raises FileError where a file exists that may not be overwritten, or cannot be written. False
 // where the job cannot be written as it stands; the logger has been told why. In both cases no
 // file of this name has changed.
-bool writeProgramFiles(Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
-                       const std::filesystem::path& program, bool overwrite, Logger& logger);
+bool writeProgramFiles(const Job& job, const ToolList& tools, const Dialect& dialect,
+                       std::int16_t number, const std::filesystem::path& program,
+                       Overwriting overwriting, Logger& logger);
 
 } // namespace torvik

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "base/picture.h"
 #include "base/text.h"
+#include "base/whole_file.h"
 #include "gcode/dialects.h"
 #include "gcode/header.h"
 #include "gcode/program_output.h"
@@ -92,31 +93,37 @@ std::filesystem::path sideTextPath(const std::filesystem::path& program) {
     return path += ".txt";
 }
 
+bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  const std::filesystem::path& file, WholeFile& program, Logger& logger) {
+    if (!dialect.needsNumber()) {
+        program.commit();
+        return true;
+    }
+    program.close();
+    WholeFile sideText(sideTextPath(file));
+    if (!writeSideText(job, tools, utf8FromPath(file.filename()), sideText, logger))
+        return false;
+    commitBoth(sideText, program);
+    return true;
+}
+
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
                        std::int16_t number, const std::filesystem::path& file, Logger& logger,
                        const WriteProgress& progress) {
     constexpr Location here{"WriteFile", "modHpgl"};
     const Dialect& dialect = dialectFor(target);
-    std::optional<FileSink> program;
+    std::optional<WholeFile> program;
     if (!withQuietErrorTrap(logger, here, [&] { program.emplace(file); }))
         return WriteOutcome::notOpened;
     WatchedSink watched(*program, progress);
-    bool whole = false;
-    const bool stored = withErrorTrap(logger, here, [&] {
-        whole = writeProgram(job, tools, dialect, number, watched, logger);
-        if (!whole)
-            return; // told already, or cancelled
-        program->close();
-        if (!dialect.needsNumber())
-            return;
-        FileSink sideText(sideTextPath(file));
-        whole = writeSideText(job, tools, utf8FromPath(file.filename()), sideText, logger);
-        if (whole)
-            sideText.close();
+    bool stored = false;
+    withErrorTrap(logger, here, [&] {
+        stored = writeProgram(job, tools, dialect, number, watched, logger) &&
+                 storeProgram(job, tools, dialect, file, *program, logger);
     });
     if (watched.isCancelled())
         return WriteOutcome::cancelled;
-    return stored && whole ? WriteOutcome::written : WriteOutcome::failed;
+    return stored ? WriteOutcome::written : WriteOutcome::failed;
 }
 
 std::string proposedFileName(const Dialect& dialect, std::string_view plotFile,

@@ -17,6 +17,7 @@ struct ToolList;
 class ByteSink;
 class Logger;
 class ProgramOutput;
+class WholeFile;
 
 // Hears how many lines are written, now and then; false ends the writing.
 using WriteProgress = std::function<bool(std::int64_t lines)>;
@@ -25,12 +26,12 @@ enum class WriteOutcome {
     written,
     cancelled, // by the progress; nothing of it is left
     notOpened, // the program's file cannot be opened for writing; logged only
-    failed,    // logged and reported; what was written stays
+    failed,    // logged and reported; no file has changed
 };
 
 // Writes the program for the target code to the file, replacing any of that name, and the text
-// file beside it where the target has one. `number` is the
-// program number of the targets that have one, 1 to 32767.
+// file beside it where the target has one: both or none. `number` is the program number of the
+// targets that have one, 1 to 32767.
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
                        std::int16_t number, const std::filesystem::path& file, Logger& logger,
                        const WriteProgress& progress = {});
@@ -49,6 +50,12 @@ void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std
 // header.
 bool writeSideText(const Job& job, const ToolList& tools, std::string_view fileName, ByteSink& sink,
                    Logger& logger);
+
+// Gives a program that is written to its end, and the text beside it where the target has one,
+// their names: both or none. `file` is the program's name. False where the text's header failed and
+// that was reported. Raises FileError.
+bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  const std::filesystem::path& file, WholeFile& program, Logger& logger);
 
 // The program's name with ".txt" behind it.
 std::filesystem::path sideTextPath(const std::filesystem::path& program);

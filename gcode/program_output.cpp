@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "gcode/program_output.h"
 
-#include "base/errors.h"
-#include "base/files.h"
 #include "base/picture.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cerrno>
 #include <cstring>
-#include <utility>
 
 namespace torvik {
 namespace {
@@ -28,32 +24,6 @@ char* put(char* out, std::string_view text) {
 
 std::int64_t lineEndsIn(std::string_view bytes) {
     return std::count(bytes.begin(), bytes.end(), lineEnd.back());
-}
-
-FileSink::FileSink(const std::filesystem::path& file) : m_name(utf8FromPath(file)) {
-    // The lines are gathered in large pieces already.
-    m_file.rdbuf()->pubsetbuf(nullptr, 0);
-    errno = 0;
-    m_file.open(file, std::ios::binary | std::ios::trunc);
-    if (!m_file)
-        fail("the file cannot be opened for writing: ");
-}
-
-void FileSink::write(std::string_view bytes) {
-    errno = 0;
-    if (!m_file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
-        fail("the file cannot be written: ");
-}
-
-void FileSink::close() {
-    errno = 0;
-    m_file.close();
-    if (!m_file)
-        fail("the file cannot be written to its end: ");
-}
-
-void FileSink::fail(const char* what) {
-    throw FileError(m_name, what + systemErrorText());
 }
 
 char* BlockNumber::put(char* out, std::int16_t number) {

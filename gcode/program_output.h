@@ -4,13 +4,9 @@
 #pragma once
 
 #include "base/byte_sink.h"
-#include "base/errors.h"
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,23 +16,6 @@ inline constexpr std::string_view lineEnd = "\r\n";
 
 // How many lines end in the bytes.
 std::int64_t lineEndsIn(std::string_view bytes);
-
-// A file opened for writing, replacing any of that name. Raises FileError where it cannot be
-// opened, and on every failed write.
-class FileSink final : public ByteSink {
-public:
-    explicit FileSink(const std::filesystem::path& file);
-
-    void write(std::string_view bytes) override;
-    // Closes the file; what the system could not keep shows at the latest here.
-    void close();
-
-private:
-    [[noreturn]] void fail(const char* what);
-
-    std::string m_name;
-    std::ofstream m_file;
-};
 
 // "N", a block number and a blank as text; the number after the last one is counted up in place.
 class BlockNumber {

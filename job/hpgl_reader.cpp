@@ -113,7 +113,9 @@ bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger,
         requireSingleBytes(bytes, job.drawing.gstrPlotFile);
         if (seen)
             seen(bytes);
-        readInstructions(job.drawing, std::move(bytes), utf8FromPath(file), logger);
+        namingFile(job.drawing.gstrPlotFile, [&] {
+            readInstructions(job.drawing, std::move(bytes), utf8FromPath(file), logger);
+        });
     });
     if (read)
         job.output.gblnUnsaved = true;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/stop_signals.h"
 #include "prepare/command/preparer.h"
 
 #include <QCoreApplication>
@@ -7,6 +8,7 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
+    torvik::tidyUpWhenStopped();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("torvik-prepare"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));

@@ -7,6 +7,7 @@
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <set>
 
 namespace torvik {
@@ -27,9 +28,7 @@ public:
             QStringLiteral("drawings"),
             QStringLiteral("Drawings to prepare (.plt, .hpgl, .hpg, .plo, .svg)."),
             QStringLiteral("DRAWING..."));
-        m_parser.addOptions({m_output, m_outputFolder, m_tolerance, m_roundTurn, m_noArcs,
-                             m_optimize, m_dropDuplicates, m_origin, m_scale, m_mirror, m_rotate,
-                             m_dots, m_pen, m_report, m_force, m_quiet, m_help, m_version});
+        m_parser.addOptions(m_options);
     }
 
     QString helpText() const { return m_parser.helpText(); }
@@ -39,6 +38,10 @@ public:
             error = m_parser.errorText();
             if (error.endsWith(u'.'))
                 error.chop(1);
+            for (const QString& word : arguments)
+                if (isFlagWithValue(word))
+                    error = QStringLiteral("the option %1 takes no value")
+                                .arg(word.section(u'=', 0, 0));
             return {};
         }
         PrepareCommand command;
@@ -65,6 +68,15 @@ private:
     void mistake(const QString& text) {
         if (m_mistake.isEmpty())
             m_mistake = text;
+    }
+
+    bool isFlagWithValue(const QString& word) const {
+        const QString name = word.section(u'=', 0, 0);
+        return name != word &&
+               std::any_of(m_options.begin(), m_options.end(), [&](const auto& option) {
+                   return option.valueName().isEmpty() &&
+                          option.names().contains(name.mid(name.startsWith(u"--") ? 2 : 1));
+               });
     }
 
     void readFlagsAndPaths(PrepareCommand& command) {
@@ -216,6 +228,11 @@ private:
         option({QStringLiteral("h"), QStringLiteral("help")}, "Print this help.");
     QCommandLineOption m_version =
         option({QStringLiteral("v"), QStringLiteral("version")}, "Print the version.");
+
+    const QList<QCommandLineOption> m_options{
+        m_output, m_outputFolder, m_tolerance, m_roundTurn, m_noArcs, m_optimize, m_dropDuplicates,
+        m_origin, m_scale,        m_mirror,    m_rotate,    m_dots,   m_pen,      m_report,
+        m_force,  m_quiet,        m_help,      m_version};
 
     QCommandLineParser m_parser;
     QString m_mistake;

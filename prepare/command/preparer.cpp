@@ -6,6 +6,7 @@
 #include "base/whole_file.h"
 #include "commands/drawing_run.h"
 #include "commands/overwriting.h"
+#include "commands/waiting.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
 #include "prepare/files/drawing_files.h"
@@ -29,7 +30,7 @@ public:
 
     int run() {
         return runEach(
-            m_command.drawings.size(), [this](std::size_t i) { prepare(i); },
+            m_command.drawings, [this](std::size_t i) { prepare(i); },
             [this](std::string_view message) { say(message); });
     }
 
@@ -39,10 +40,10 @@ private:
     void prepare(std::size_t i) {
         const fs::path& drawing = m_command.drawings[i];
         const std::string name = utf8FromPath(drawing);
-        requireReadable(drawing);
+        requireReadable(drawing, maxDrawingBytes);
         const fs::path output = m_command.outputPath(i);
         requireWritable(output, drawing);
-        const std::string bytes = readWholeFile(drawing, maxDrawingBytes);
+        const std::string bytes = read(drawing);
         const PreparedDrawing prepared = prepareBytes(bytes, name);
         write(output, prepared.text);
 
@@ -53,6 +54,11 @@ private:
         m_out.flush();
         if (const std::string lost = lossLine(prepared.report); !lost.empty())
             say("warning: " + name + ": not carried over: " + lost);
+    }
+
+    std::string read(const fs::path& drawing) {
+        const WaitingNotice notice({drawing}, [this](std::string_view message) { say(message); });
+        return readWholeFile(drawing, maxDrawingBytes);
     }
 
     PreparedDrawing prepareBytes(const std::string& bytes, const std::string& name) const {
@@ -74,9 +80,8 @@ private:
     }
 
     void write(const fs::path& output, const std::string& text) const {
-        std::error_code ignored;
         if (m_command.outputFolder)
-            fs::create_directories(*m_command.outputFolder, ignored);
+            makeFolder(*m_command.outputFolder);
         saveWhole(output, text);
     }
 

@@ -39,6 +39,14 @@ TEST_F(LoggerTest, ATrappedErrorIsLoggedAndReportedWithItsLocation) {
                         "error sngArcCos (modHpgl): a number was divided by zero\n");
 }
 
+TEST_F(LoggerTest, TheEndOfTheMemoryIsSaidInPlainWordsAndOfTheFile) {
+    EXPECT_FALSE(withErrorTrap(logger, {"A", "mod"},
+                               [] { namingFile("a.plt", [] { throw std::bad_alloc(); }); }));
+    EXPECT_FALSE(withErrorTrap(logger, {"A", "mod"}, [] { throw std::bad_alloc(); }));
+    EXPECT_EQ(logged(), "error A (mod): a.plt: there is not enough memory\n"
+                        "error A (mod): there is not enough memory\n");
+}
+
 TEST_F(LoggerTest, TheSwitchesChooseWhatIsLogged) {
     const auto logAll = [this] {
         logger.logError("A", "mod", "x");
@@ -57,6 +65,18 @@ TEST_F(LoggerTest, TheSwitchesChooseWhatIsLogged) {
     EXPECT_EQ(logged(), "trace A (mod)\ninfo A (frm): y\n") << "a text that is no number is off";
     logger.reportError("A", "mod", "z");
     EXPECT_EQ(reports.size(), 1U) << "an error that is not logged is still reported";
+}
+
+TEST_F(LoggerTest, EqualMessagesAreCountedAndAFullLogIsPutAside) {
+    for (int i = 0; i < 120; ++i)
+        logger.logError("A", "mod", "x");
+    logger.logError("A", "mod", "y");
+    EXPECT_EQ(logged(), "error A (mod): x\nerror A (mod): x (10 times in a row)\n"
+                        "error A (mod): x (100 times in a row)\nerror A (mod): y\n");
+    folder.file("torvik.log", std::string(1'000'000, 'x'));
+    logger.logError("A", "mod", "z");
+    EXPECT_EQ(logged(), "error A (mod): z\n");
+    EXPECT_EQ(std::filesystem::file_size(folder.path() / "torvik.log.old"), 1'000'000U);
 }
 
 TEST_F(LoggerTest, ALogThatCannotBeWrittenStopsNobody) {

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/files.h"
+#include "base/stop_signals.h"
 #include "base/whole_file.h"
 #include "tests/base/temporary_folder.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace torvik {
 namespace {
@@ -38,17 +42,45 @@ TEST_F(WholeFileTest, IsThereWholeOrNotAtAll) {
     EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST_F(WholeFileTest, CanBeTakenBack) {
-    {
-        WholeFile file(target);
-        file.write("new");
-        file.commit(WholeFile::WayBack::kept);
-        file.withdraw();
-        WholeFile fresh(folder.path() / "b.txt");
-        fresh.commit(WholeFile::WayBack::kept);
-        fresh.withdraw();
+TEST_F(WholeFileTest, TwoAreThereBothOrNone) {
+    for (const char* first : {"a.txt", "c.txt"}) { // one that is replaced, and a new one
+        WholeFile one(folder.path() / first);
+        one.write("new");
+        WholeFile other(folder.path() / "b.txt");
+        fs::create_directory(folder.path() / "b.txt"); // too late to be seen
+        EXPECT_THROW(commitBoth(one, other), FileError);
+        fs::remove(folder.path() / "b.txt");
     }
     EXPECT_EQ(files(), (Files{{"a.txt", "old"}}));
+}
+
+TEST_F(WholeFileTest, OnlyOldLeftOversOfItsOwnGo) {
+    const std::string mine = ".torvik-0123456789abcdef.new";
+    const std::string young = ".torvik-0123456789abcde0.new";
+    const std::string foreign = ".torvik-0123456789abcdef.txt";
+    const std::string second = ".torvik-0123456789abcdef.old"; // a new name for an old file
+    for (const std::string& name : {mine, young, foreign, second})
+        fs::last_write_time(folder.file(name, ""), fs::file_time_type::clock::now() -
+                                                       std::chrono::hours(name == young ? 23 : 25));
+    saveWhole(target, "new");
+    EXPECT_EQ(files(), (Files{{"a.txt", "new"}, {young, ""}, {foreign, ""}, {second, ""}}));
+}
+
+TEST_F(WholeFileTest, AStopRemovesWhatIsPendingAfterWhatMustNotBeCut) {
+    const pid_t program = fork();
+    if (program == 0) {
+        tidyUpWhenStopped();
+        const PendingName pending(target, ".new");
+        folder.file(pending.path().filename().string(), "half");
+        const StopWaits untilTheEnd;
+        std::raise(SIGTERM);
+        folder.file("a.txt", "saved");
+        return; // not as far as that
+    }
+    int status = 0;
+    waitpid(program, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_EQ(files(), (Files{{"a.txt", "saved"}}));
 }
 
 TEST_F(WholeFileTest, ALinkLeadsToTheFile) {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "job/hpgl_reader.h"
 #include "tests/convert/conversion.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
 
 namespace torvik {
 namespace {
@@ -80,6 +83,7 @@ TEST_F(Converter, RefusesMistakesBeforeAnythingIsWritten) {
         {"a.plt", "b.plt", "--target", "kestra", "--answers", "drawing.plx"},
         {"a.plt", "--target", "wincam", "--number", "1e3"},
         {"a.plt", "--target", "kestra", "--fast"},
+        {"a.plt", "--target", "kestra", "--quiet=3"},
         {"a.plt", "", "--target", "kestra"},
         {"a.plt", "--target", "wincam", "--number", "0"},
         {"a.plt", "--target"},
@@ -103,6 +107,16 @@ TEST_F(Converter, OverwritesOnlyWhenTold) {
     EXPECT_EQ(run({"a.plt", "--target", "kestra", "--force", "--quiet"}), "0||");
     EXPECT_EQ(bytes("a.iso"), bytes("b.iso"));
     EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output", "a.iso"}), "0|a.plt -> a.iso\n|");
+    // The text beside a program goes with it; alone it may be anything.
+    write("notes.txt", "mine");
+    EXPECT_EQ(run({"a.plt", "--target", "winnc", "--number", "1", "--output", "notes"}),
+              "2||torvik-convert: notes.txt: the file exists already; --force overwrites it\n");
+    write("notes", "an earlier program");
+    EXPECT_EQ(run({"a.plt", "--target", "winnc", "--number", "1", "--output", "notes", "--quiet"}),
+              "0||");
+    fs::permissions(path("a.iso"), fs::perms::owner_read);
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--force"}),
+              "2||torvik-convert: a.iso: the file cannot be written: Permission denied\n");
 }
 
 TEST_F(Converter, LeavesBothFilesOrNone) {
@@ -160,6 +174,24 @@ TEST_F(Converter, NamesTheFileThatIsToBlame) {
     write("odd.ini", "[Maskor]\nToolCount=1\nTool01=70000|Drill|5|0\n");
     EXPECT_TRUE(run({"a.plt", "--target", "kestra", "--tools", "odd.ini"})
                     .starts_with("4||torvik-convert: warning: odd.ini: Tool01: "));
+    write("large.plt", "");
+    fs::resize_file(path("large.plt"), maxDrawingBytes + 1);
+    EXPECT_EQ(run({"large.plt", "--target", "kestra"}),
+              "2||torvik-convert: large.plt: the file is larger than 256 MB\n");
+    EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output-dir", "odd.ini/new"}),
+              "2||torvik-convert: odd.ini/new: the folder cannot be created: Not a directory\n");
+}
+
+TEST_F(Converter, NamesThePipeThatItWaitsFor) {
+    ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+    std::thread writer([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1200));
+        write("pipe", bytes("a.plt"));
+    });
+    const std::string said = run({"--show", "pipe"});
+    writer.join();
+    EXPECT_TRUE(said.starts_with("0|Drawing: pipe\n")) << said;
+    EXPECT_TRUE(said.ends_with("|torvik-convert: waiting for pipe, a pipe or a device\n")) << said;
 }
 
 TEST_F(Converter, ShowsWhatDrawingsHold) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "base/error_trap.h"
+#include "base/errors.h"
 #include "base/files.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
@@ -26,32 +28,35 @@ TEST(WriteFile, BeginsEachProgramAnew) {
 }
 
 TEST(WriteFile, ReportsAFailureOnce) {
+    struct FullDisk final : ByteSink {
+        void write(std::string_view) override { throw FileError("a", "full"); }
+    } disk;
     // The buffer of the output is filled by the second and flushed at the end by the first.
-    for (const std::size_t nameLength : {std::size_t{0}, std::size_t{300000}})
-        for (const std::int16_t target : {targetWinNc, targetMaskor}) {
-            JobToWrite work("SP1;");
-            work.job.answers.gstrHeader[headerPartName] = std::string(nameLength, 'x');
-            EXPECT_EQ(WriteFile(work.job, work.tools, target, 1, "/dev/full", work.logger),
-                      WriteOutcome::failed);
-            EXPECT_EQ(work.reports,
-                      "/dev/full: the file cannot be written: No space left on device;");
-        }
+    for (const std::size_t nameLength : {std::size_t{0}, std::size_t{300000}}) {
+        JobToWrite work("SP1;");
+        work.job.answers.gstrHeader[headerPartName] = std::string(nameLength, 'x');
+        withErrorTrap(work.logger, {"WriteFile", "modHpgl"}, [&] {
+            EXPECT_FALSE(
+                writeProgram(work.job, work.tools, dialectFor(targetMaskor), 1, disk, work.logger));
+        });
+        EXPECT_EQ(work.reports, "a: full;");
+    }
 }
 
-TEST(WriteFile, TellsWhichFileFails) {
+TEST(WriteFile, TellsWhichFileFailsAndLeavesBothOrNone) {
     const TemporaryFolder folder;
     JobToWrite work("SP1;");
     EXPECT_EQ(WriteFile(work.job, work.tools, targetWinCam, 1, folder.path(), work.logger),
               WriteOutcome::notOpened);
     EXPECT_EQ(work.reports, "");
 
-    const auto program = folder.path() / "oprg1";
+    const auto program = folder.file("oprg1", "an earlier program");
     std::filesystem::create_directory(sideTextPath(program));
     EXPECT_EQ(WriteFile(work.job, work.tools, targetWinNc, 1, program, work.logger),
               WriteOutcome::failed);
     EXPECT_TRUE(work.reports.starts_with(utf8FromPath(sideTextPath(program)) + ": "))
         << work.reports;
-    EXPECT_TRUE(contents(program).ends_with("M30\r\n%\r\n")) << "what was written stays";
+    EXPECT_EQ(contents(program), "an earlier program");
 }
 
 TEST(WriteFile, LeavesNothingOfACancelledProgram) {

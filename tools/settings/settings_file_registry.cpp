@@ -2,6 +2,7 @@
 #include "tools/settings/settings_file_registry.h"
 
 #include "base/files.h"
+#include "base/stop_signals.h"
 #include "tools/settings/settings_format.h"
 
 #include <QtCore/QDeadlineTimer>
@@ -79,6 +80,7 @@ bool SettingsFileRegistry::canBeSaved() const {
 
 void SettingsFileRegistry::save() {
     if (!m_unsaved.empty() && canBeSaved()) {
+        const StopWaits untilItIsSaved;
         for (const auto& [name, data] : m_unsaved)
             m_settings.setValue(settingsKey(name), settingsEntry(name, data));
         m_settings.sync();

@@ -154,12 +154,13 @@ TEST_F(OutputTest, AFileThatCannotBeOpenedCanBeTriedAgainAndAFailedWriteShowsNoM
     EXPECT_TRUE(messages.take().ends_with(told + told));
     expectNothingWritten();
 
-    std::filesystem::create_symlink("/dev/full", drive / "%MPF4");
+    std::filesystem::create_directory(drive / "%MPF4.txt"); // nor of the text
     answers.expect("frmOutput", DialogAnswers::number("4"));
     messages.answers = {buttonYes};
     click("cmdNext");
     messages.take();
     EXPECT_EQ(std::exchange(errors, {}).size(), 1U);
+    EXPECT_FALSE(std::filesystem::exists(drive / "%MPF4"));
     expectNothingWritten();
 }
 
