@@ -5,6 +5,7 @@
 #include "answers/saved_names.h"
 #include "answers/saved_settings.h"
 #include "base/error_trap.h"
+#include "base/errors.h"
 #include "base/files.h"
 #include "base/whole_file.h"
 #include "job/job.h"

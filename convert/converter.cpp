@@ -7,14 +7,13 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
-#include "base/picture.h"
 #include "base/text.h"
 #include "commands/drawing_run.h"
 #include "commands/waiting.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
-#include "gcode/comment_check.h"
+#include "convert/warnings.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
 #include "gcode/tool_check.h"
@@ -102,39 +101,21 @@ private:
         if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
                                overwriting(), m_logger))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
-        warnOfComments(job);
+        for (std::string& warning : commentWarnings(job, m_tools, *m_options.dialect))
+            m_reported.push_back(std::move(warning));
         if (m_options.quiet)
             return;
         if (size.isLong())
-            m_reported.push_back("the program has " + formatInteger(size.lines) + " lines (about " +
-                                 formatInteger(size.megabytes()) + " MB) in " +
-                                 formatInteger(size.steps) + " depth passes and pecks");
+            m_reported.push_back(longText(size));
         m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
     }
 
     // A file that no control can take is not begun.
     ProgramSize requireWritable(const Job& job, const std::filesystem::path& drawing) const {
         const ProgramSize size = programSize(job, m_tools, *m_options.dialect);
-        if (!size.isTooLong())
-            return size;
-        const auto& [pen, radius, settings] = size.longest.value();
-        throw Failure{ExitCode::job, utf8FromPath(drawing) + ": the program would have more than " +
-                                         formatInteger(mostLines) + " lines, most of them for " +
-                                         groupText(job.answers.gudtPens[pen], radius) +
-                                         "; larger steps or a smaller depth make it shorter"};
-    }
-
-    void warnOfComments(const Job& job) {
-        for (const CommentFault& fault : commentFaults(job, m_tools, *m_options.dialect)) {
-            const std::string about = (fault.isTool ? "the type of tool " : "") + fault.field +
-                                      ", \"" + fault.text + "\": ";
-            if (fault.endsComment)
-                m_reported.push_back(about + "a round bracket ends the comment, and the control "
-                                             "may read the rest as statements");
-            if (!fault.lost.empty())
-                m_reported.push_back(about + "a program cannot hold " + fault.lost +
-                                     ", ? stands there instead");
-        }
+        if (size.isTooLong())
+            throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + tooLongText(job, size)};
+        return size;
     }
 
     Overwriting overwriting() const {
