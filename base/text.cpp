@@ -70,7 +70,7 @@ std::string lettersOutsideLatin1(std::string_view utf8) {
         const std::string_view letter =
             point.value == outside ? "\xEF\xBF\xBD" : utf8.substr(0, point.length);
         if (point.value > 0xFF && letters.find(letter) == std::string::npos)
-            letters += letter;
+            letters.append(letters.empty() ? "" : " ").append(letter);
         utf8.remove_prefix(point.length);
     }
     return letters;

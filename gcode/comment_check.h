@@ -17,7 +17,7 @@ struct CommentFault {
     std::string text;  // UTF-8
     bool isTool = false;
     bool endsComment = false;
-    std::string lost; // the letters that become "?", in UTF-8
+    std::string lost; // the letters that become "?", with blanks between
 };
 
 // The header's lines and the types of the tools that the program takes, in the order in which they

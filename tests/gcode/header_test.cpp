@@ -74,7 +74,7 @@ TEST(CommentFaults, NameFieldTextAndLetters) {
                                      "d\xC5\x81 \xFF";
     work.tools.gudtTools[1].strType = "Drill)";
     const std::string letters = "Material|\xC5\x81\xC3\xB3"
-                                "d\xC5\x81 \xFF||\xC5\x81\xEF\xBF\xBD;";
+                                "d\xC5\x81 \xFF||\xC5\x81 \xEF\xBF\xBD;";
     const std::pair<std::int16_t, std::string> rows[] = {
         {targetKestra, "Designer|Anna (7b)|ends|;" + letters + "T1|Drill)|ends|;"},
         {targetMaskor, letters}, // a comment there ends with its line
