@@ -29,6 +29,7 @@ std::int16_t placeOfTool(std::int16_t number, const ToolList& tools, Logger& log
 void placeTool(SavedGroup& group, const ToolList& tools, Logger& logger) {
     group.settings.intTool = placeOfTool(group.toolNumber, tools, logger);
     group.settings.blnComplete = group.settings.intTool > 0;
+    group.settings.intToolGone = group.settings.blnComplete ? std::int16_t{0} : group.toolNumber;
 }
 
 void takePen(Job& job, const SavedPen& saved) {

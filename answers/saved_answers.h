@@ -21,8 +21,8 @@ SavedAnswers answersShape(const Job& job);
 SavedAnswers answersOfJob(const Job& job, const ToolList& tools);
 
 // Puts answers of the job's own shape into the job. A group is complete when its tool is in the
-// list. An order that is not one of the machined pens leaves gblnOrderSet False and the order
-// rebuilt.
+// list; intToolGone has the number of a tool that is not. An order that is not one of the machined
+// pens leaves gblnOrderSet False and the order rebuilt.
 void takeAnswers(Job& job, SavedAnswers answers, const ToolList& tools, Logger& logger);
 
 // Takes over an order of just the machined pens, each once; entries of 0 or less are skipped.

@@ -15,8 +15,9 @@ namespace {
 // What some editors put before a text in UTF-8.
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-SavedOutcome takeFile(Job& job, const ToolList& tools, const std::filesystem::path& file,
-                      Logger& logger) {
+// The answers in the file where they are the drawing's: then the outcome is "taken". Raises
+// FileError for a file that cannot be read or understood.
+SavedOutcome readAnswers(const Job& job, const std::filesystem::path& file, SavedAnswers& answers) {
     std::error_code unknown;
     if (std::filesystem::status(file, unknown).type() == std::filesystem::file_type::not_found)
         return SavedOutcome::none;
@@ -26,8 +27,7 @@ SavedOutcome takeFile(Job& job, const ToolList& tools, const std::filesystem::pa
         text.remove_prefix(byteOrderMark.size());
     if (!text.empty() && savedDigest(text) != job.drawing.gstrDigest)
         return SavedOutcome::digestDiffers;
-    takeAnswers(job, parseAnswers(text, answersShape(job), utf8FromPath(file)), tools, logger);
-    job.answers.gblnSavedFound = true;
+    answers = parseAnswers(text, answersShape(job), utf8FromPath(file));
     return SavedOutcome::taken;
 }
 
@@ -45,13 +45,28 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
     withQuietErrorTrap(logger, {"GetSavedData", "modHpgl"}, [&] {
         try {
             job.answers.gstrSavedFile = utf8FromPath(file);
-            data.outcome = takeFile(job, tools, file, logger);
+            SavedAnswers answers;
+            data.outcome = readAnswers(job, file, answers);
+            if (data.outcome != SavedOutcome::taken)
+                return;
+            takeAnswers(job, std::move(answers), tools, logger);
+            job.answers.gblnSavedFound = true;
         } catch (const RunTimeError& error) {
             data = {SavedOutcome::damaged, error.what()};
             throw;
         }
     });
     return data;
+}
+
+bool isDamaged(const Job& job, const std::filesystem::path& file) {
+    try {
+        SavedAnswers answers;
+        readAnswers(job, file, answers);
+        return false;
+    } catch (const RunTimeError&) {
+        return true;
+    }
 }
 
 } // namespace torvik

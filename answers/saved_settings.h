@@ -34,4 +34,7 @@ SavedData GetSavedData(Job& job, const ToolList& tools, const std::filesystem::p
 SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesystem::path& file,
                            Logger& logger);
 
+// Whether the file, which need not exist, holds answers for the job's drawing that cannot be used.
+bool isDamaged(const Job& job, const std::filesystem::path& file);
+
 } // namespace torvik

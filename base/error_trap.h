@@ -17,13 +17,15 @@ struct Location {
     std::string_view module;
 };
 
-// Runs the work; an exception is logged and reported with the location. True when the work ran to
-// its end.
+// Runs the work; an exception is logged and reported with the location, unless the user ended the
+// work. True when the work ran to its end.
 template <typename Work>
 bool withErrorTrap(Logger& logger, Location at, Work&& work) {
     try {
         std::forward<Work>(work)();
         return true;
+    } catch (const Cancelled&) {
+        return false;
     } catch (const std::exception& error) {
         logger.reportError(at.procedure, at.module, causeOf(error));
     }

@@ -38,6 +38,12 @@ public:
     using RunTimeError::RunTimeError;
 };
 
+// The user ended the work before it was done. No error trap logs or reports it.
+class Cancelled : public RunTimeError {
+public:
+    Cancelled() : RunTimeError("the work was cancelled") {}
+};
+
 // A file that cannot be read, written or understood. what() reads "FILE: cause" or
 // "FILE, line N: cause".
 class FileError : public RunTimeError {

@@ -63,6 +63,19 @@ std::string latin1Line(std::string_view utf8) {
     return line;
 }
 
+std::string lettersOutsideLatin1(std::string_view utf8) {
+    std::string letters;
+    while (!utf8.empty()) {
+        const CodePoint point = firstCodePoint(utf8);
+        const std::string_view letter =
+            point.value == outside ? "\xEF\xBF\xBD" : utf8.substr(0, point.length);
+        if (point.value > 0xFF && letters.find(letter) == std::string::npos)
+            letters.append(letters.empty() ? "" : " ").append(letter);
+        utf8.remove_prefix(point.length);
+    }
+    return letters;
+}
+
 std::string_view fileNameOf(std::string_view path) {
     auto separator = path.find_last_of("\\/");
     if (separator == std::string_view::npos)

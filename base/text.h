@@ -14,6 +14,10 @@ std::string_view trimBlanks(std::string_view text);
 // blank for a line break or any other control character.
 std::string latin1Line(std::string_view utf8);
 
+// The code points that latin1Line makes "?" of, each once, in UTF-8 with blanks
+// between; U+FFFD for broken bytes.
+std::string lettersOutsideLatin1(std::string_view utf8);
+
 // A file's name without its folder: what stands after the last "\\" or "/", or after the last ":"
 // where there is neither.
 std::string_view fileNameOf(std::string_view path);

@@ -13,7 +13,9 @@
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
+#include "convert/warnings.h"
 #include "gcode/output_file.h"
+#include "gcode/program_size.h"
 #include "gcode/tool_check.h"
 #include "job/hpgl_reader.h"
 #include "job/job.h"
@@ -88,6 +90,7 @@ private:
         if (trimBlanks(job.answers.gstrHeader[headerDate]).empty())
             job.answers.gstrHeader[headerDate] = m_options.date;
         requireTools(job, drawing);
+        const ProgramSize size = requireWritable(job, drawing);
 
         const auto output = m_options.outputPath(i);
         refuseOverwritingInput(output, job);
@@ -98,8 +101,21 @@ private:
         if (!writeProgramFiles(job, m_tools, *m_options.dialect, m_options.outputNumber(i), output,
                                overwriting(), m_logger))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + takeLastReport()};
-        if (!m_options.quiet)
-            m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+        for (std::string& warning : commentWarnings(job, m_tools, *m_options.dialect))
+            m_reported.push_back(std::move(warning));
+        if (m_options.quiet)
+            return;
+        if (size.isLong())
+            m_reported.push_back(longText(size));
+        m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+    }
+
+    // A file that no control can take is not begun.
+    ProgramSize requireWritable(const Job& job, const std::filesystem::path& drawing) const {
+        const ProgramSize size = programSize(job, m_tools, *m_options.dialect);
+        if (size.isTooLong())
+            throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + tooLongText(job, size)};
+        return size;
     }
 
     Overwriting overwriting() const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/comment_box.h"
 
+#include "base/text.h"
 #include "forms/side_hint.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,23 @@
 #include <algorithm>
 
 namespace torvik {
+namespace {
+
+// Says which letters a program cannot hold, when there are others than before.
+void sayLostLetters(QLineEdit& box, const QString& text) {
+    constexpr const char* saidProperty = "lostLetters";
+    const QString lost = QString::fromStdString(lettersOutsideLatin1(text.toStdString()));
+    if (lost == box.property(saidProperty).toString())
+        return;
+    box.setProperty(saidProperty, lost);
+    if (!lost.isEmpty())
+        showHintBeside(box, QCoreApplication::translate("CommentBox",
+                                                        "A program cannot hold %1, so ? will "
+                                                        "stand there instead")
+                                .arg(lost));
+}
+
+} // namespace
 
 void keepCommentWhole(QLineEdit& box) {
     QObject::connect(&box, &QLineEdit::textEdited, &box, [&box] { mendComment(box); });
@@ -22,6 +40,7 @@ void mendComment(QLineEdit& box) {
         text.begin(), text.end(),
         [](QChar c) { return c.category() == QChar::Other_Control || c == QChar::LineSeparator; },
         QChar(u' '));
+    sayLostLetters(box, text);
     if (text == box.text())
         return;
     const int cursor = box.cursorPosition();

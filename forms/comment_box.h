@@ -8,7 +8,7 @@ class QLineEdit;
 namespace torvik {
 
 // Makes square brackets of round ones and blanks of control characters, typed or pasted, and says
-// so of the brackets beside the box.
+// so of the brackets beside the box, and of letters that will be lost.
 void keepCommentWhole(QLineEdit& box);
 // The same at once, for a text that was set.
 void mendComment(QLineEdit& box);

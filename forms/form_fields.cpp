@@ -8,6 +8,12 @@
 #include <QLineEdit>
 
 namespace torvik {
+namespace {
+
+const QColor darkRed(176, 0, 32);
+const QColor brightRed(255, 138, 128);
+
+} // namespace
 
 QLabel* makePageTitle(const QString& text) {
     auto* const title = new QLabel(text);
@@ -24,6 +30,24 @@ QString breakablePath(QString path) {
     for (const QChar separator : {u'/', u'\\'})
         path.replace(separator, QString(separator) + zeroWidthSpace);
     return path;
+}
+
+QLabel* makeWarning(const QString& name) {
+    auto* const label = new QLabel;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->hide();
+    return label;
+}
+
+void showWarning(QLabel& label, const QString& text) {
+    QPalette palette; // an empty one follows the system's
+    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
+    palette.setColor(QPalette::WindowText, isDark ? brightRed : darkRed);
+    label.setPalette(palette);
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
 }
 
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,

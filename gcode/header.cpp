@@ -31,17 +31,6 @@ constexpr std::array<HeaderLabel, 9> labels{{{"Date - ", ""},
                                              {"Billet Width Y - ", "mm"},
                                              {"Billet Depth Z - ", "mm"}}};
 
-// The tools in the order of their use; one that is used twice in a row stands once.
-std::vector<std::int16_t> toolsInUse(const Job& job) {
-    std::vector<std::int16_t> places;
-    visitMachinedGroups(job, [&](const MachinedGroup& group) {
-        const std::int16_t place = job.answers.gudtSettings[group.settings].intTool;
-        if (places.empty() || places.back() != place)
-            places.push_back(place);
-    });
-    return places;
-}
-
 std::string toolLine(const Tool& tool) {
     return "T" + formatInteger(tool.intNumber) + " " + formatFixed(tool.sngDiameter, 1) + "mm " +
            latin1Line(tool.strType);
@@ -67,6 +56,21 @@ void writeHeader(const Job& job, const ToolList& tools, const std::string& opene
 }
 
 } // namespace
+
+std::string headerFieldName(std::int16_t index) {
+    const std::string_view label = labels.at(static_cast<std::size_t>(index)).label;
+    return std::string(label.substr(0, label.find(" - ")));
+}
+
+std::vector<std::int16_t> toolsInUse(const Job& job) {
+    std::vector<std::int16_t> places;
+    visitMachinedGroups(job, [&](const MachinedGroup& group) {
+        const std::int16_t place = job.answers.gudtSettings[group.settings].intTool;
+        if (places.empty() || places.back() != place)
+            places.push_back(place);
+    });
+    return places;
+}
 
 bool WriteHeader(const Job& job, const ToolList& tools, std::string_view opener,
                  std::string_view closer, ProgramOutput& output, Logger& logger) {

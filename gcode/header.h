@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace torvik {
 
@@ -11,6 +13,13 @@ struct Job;
 struct ToolList;
 class Logger;
 class ProgramOutput;
+
+// What a header line is called, 0 to 8: "Date", "Designer" ... "Billet Depth Z".
+std::string headerFieldName(std::int16_t index);
+
+// The places of the tools in the order of their use; one that is used twice in a row stands once.
+// Raises SubscriptOutOfRange for a pen above 8 in the order.
+std::vector<std::int16_t> toolsInUse(const Job& job);
 
 // Writes the header values and the tool lines as comments between the opener and the closer (both
 // empty for the text file beside a program). False after a trapped error: more than sixteen tools,

@@ -37,15 +37,42 @@ std::string absolutePlotFile(const Job& job) {
     return error ? job.drawing.gstrPlotFile : utf8FromPath(path);
 }
 
+// Passes bytes on and tells the progress of it.
+class WatchedSink final : public ByteSink {
+public:
+    WatchedSink(ByteSink& sink, const WriteProgress& progress)
+        : m_sink(sink), m_progress(progress) {}
+
+    void write(std::string_view bytes) override {
+        m_sink.write(bytes);
+        m_lines += lineEndsIn(bytes);
+        m_cancelled = m_progress && !m_progress(m_lines);
+        if (m_cancelled)
+            throw Cancelled();
+    }
+    bool isCancelled() const { return m_cancelled; }
+
+private:
+    ByteSink& m_sink;
+    const WriteProgress& m_progress;
+    std::int64_t m_lines = 0;
+    bool m_cancelled = false;
+};
+
 } // namespace
 
-bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
-                  std::int16_t number, ByteSink& sink, Logger& logger) {
-    ProgramOutput output(sink);
+void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+              ProgramOutput& output, Logger& logger) {
     writeOpening(dialect.opening, number, output);
     if (!dialect.commentOpener.empty())
         WriteHeader(job, tools, dialect.commentOpener, dialect.commentCloser, output, logger);
     writeOpening(dialect.openingAfterHeader, number, output);
+}
+
+bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                  std::int16_t number, ByteSink& sink, Logger& logger) {
+    ProgramOutput output(sink);
+    writeTop(job, tools, dialect, number, output, logger);
     const bool whole = WriteGcodes(job, tools, dialect.code, output, logger);
     output.flush();
     return whole && !output.failed();
@@ -81,17 +108,21 @@ bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
 }
 
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
-                       std::int16_t number, const std::filesystem::path& file, Logger& logger) {
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger,
+                       const WriteProgress& progress) {
     constexpr Location here{"WriteFile", "modHpgl"};
     const Dialect& dialect = dialectFor(target);
     std::optional<WholeFile> program;
     if (!withQuietErrorTrap(logger, here, [&] { program.emplace(file); }))
         return WriteOutcome::notOpened;
+    WatchedSink watched(*program, progress);
     bool stored = false;
     withErrorTrap(logger, here, [&] {
-        stored = writeProgram(job, tools, dialect, number, *program, logger) &&
+        stored = writeProgram(job, tools, dialect, number, watched, logger) &&
                  storeProgram(job, tools, dialect, file, *program, logger);
     });
+    if (watched.isCancelled())
+        return WriteOutcome::cancelled;
     return stored ? WriteOutcome::written : WriteOutcome::failed;
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,10 +16,15 @@ struct Job;
 struct ToolList;
 class ByteSink;
 class Logger;
+class ProgramOutput;
 class WholeFile;
+
+// Hears how many lines are written, now and then; false ends the writing.
+using WriteProgress = std::function<bool(std::int64_t lines)>;
 
 enum class WriteOutcome {
     written,
+    cancelled, // by the progress; nothing of it is left
     notOpened, // the program's file cannot be opened for writing; logged only
     failed,    // logged and reported; no file has changed
 };
@@ -27,12 +33,17 @@ enum class WriteOutcome {
 // file beside it where the target has one: both or none. `number` is the program number of the
 // targets that have one, 1 to 32767.
 WriteOutcome WriteFile(const Job& job, const ToolList& tools, std::int16_t target,
-                       std::int16_t number, const std::filesystem::path& file, Logger& logger);
+                       std::int16_t number, const std::filesystem::path& file, Logger& logger,
+                       const WriteProgress& progress = {});
 
 // The program alone, into any sink. False after a trapped error that ended the body; an error in
 // the header (more than sixteen tools) is reported and passed over, a failed write excepted.
 bool writeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                   std::int16_t number, ByteSink& sink, Logger& logger);
+
+// What stands before the body: the opening lines and the header.
+void writeTop(const Job& job, const ToolList& tools, const Dialect& dialect, std::int16_t number,
+              ProgramOutput& output, Logger& logger);
 
 // The text beside a program: where the drawing is, the program's name without its folder, and the
 // header. Raises FileError where the sink does; False where that was reported already, in the

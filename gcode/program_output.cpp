@@ -3,6 +3,7 @@
 
 #include "base/picture.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstring>
@@ -20,6 +21,10 @@ char* put(char* out, std::string_view text) {
 }
 
 } // namespace
+
+std::int64_t lineEndsIn(std::string_view bytes) {
+    return std::count(bytes.begin(), bytes.end(), lineEnd.back());
+}
 
 char* BlockNumber::put(char* out, std::int16_t number) {
     if (number == m_number + 1 && m_number != m_lastOfTen) {

@@ -14,6 +14,9 @@ namespace torvik {
 
 inline constexpr std::string_view lineEnd = "\r\n";
 
+// How many lines end in the bytes.
+std::int64_t lineEndsIn(std::string_view bytes);
+
 // "N", a block number and a blank as text; the number after the last one is counted up in place.
 class BlockNumber {
 public:

@@ -2,234 +2,64 @@
 #include "gcode/program_writer.h"
 
 #include "base/error_trap.h"
-#include "base/errors.h"
-#include "base/numbers.h"
+#include "gcode/body_walk.h"
 #include "gcode/cut_words.h"
-#include "gcode/dialects.h"
-#include "gcode/path_index.h"
 #include "gcode/program_output.h"
 #include "gcode/statement_text.h"
-#include "job/machined_groups.h"
-
-#include <optional>
 
 namespace torvik {
 namespace {
 
-// Far outside any drawing, so that the first cut or hole gets a rapid move in X and Y.
-constexpr float nowhere = 1000;
-
-// The level one step below z. The step must lead downward, or the passes would never end.
-float oneStepDown(float z, float step) {
-    const float deeper = toSingle(double{z} - step);
-    if (!(deeper < z))
-        throw InvalidCall("a step of " + formatGeneral(step) + " mm below Z " + formatGeneral(z) +
-                          " never reaches the depth");
-    return deeper;
-}
-
-float stepOrDepth(const Settings& settings) {
-    return settings.sngDepthPerPass == 0 ? settings.sngDepth : settings.sngDepthPerPass;
-}
-
-class BodyWriter {
+// The statements as blocks of the output.
+class WrittenStatements {
 public:
-    BodyWriter(const Job& job, const ToolList& tools, const Dialect& dialect, ProgramOutput& output)
-        : m_job(job), m_dialect(dialect), m_output(output), m_paths(job),
-          m_z(job.answers.gsngToolChangeHeight) {
-        m_values.tools = &tools;
-        m_values.toolChangeHeight = job.answers.gsngToolChangeHeight;
-        m_values.dwellDecimals = dialect.dwellDecimals;
-    }
+    using Words = CutWords;
 
-    void write() {
-        visitMachinedGroups(m_job, [this](const MachinedGroup& group) {
-            const Settings& settings = m_job.answers.gudtSettings[group.settings];
-            prepareTool(settings);
-            if (group.radius == 0)
-                cut(group.pen, settings);
-            else
-                drill(group.pen, m_job.answers.gudtPens[group.pen].sngRadii[group.radius],
-                      settings);
-        });
-        rapidToHeight(m_job.answers.gsngSafeHeight);
-        put(m_dialect.end);
-    }
+    WrittenStatements(const Dialect& dialect, ProgramOutput& output)
+        : m_dialect(dialect), m_output(output) {}
 
-private:
-    void command(std::string_view text) { m_output.CommandLine(text); }
+    void begin(const MachinedGroup& /*group*/) {}
+    void step() {}
 
-    void put(std::string_view statement) {
+    void put(std::string_view statement, const StatementValues& values) {
         if (statement.empty())
             return;
         m_expanded.clear();
-        expand(m_expanded, statement, m_values);
-        command(m_expanded);
+        expand(m_expanded, statement, values);
+        m_output.CommandLine(m_expanded);
     }
 
-    void put(std::span<const Statement> statements) {
-        for (const Statement& statement : statements) {
-            if (statement.numbered)
-                put(statement.text);
-            else
-                m_output.WriteLine(statement.text);
-        }
-    }
+    void putLine(std::string_view text) { m_output.WriteLine(text); }
 
-    void rapidToHeight(float z) {
-        command(StatementText("G0").height(" Z", z));
-        m_z = z;
-    }
+    void rapidToHeight(float z) { m_output.CommandLine(StatementText("G0").height(" Z", z)); }
 
     void feedToHeight(float z, float feed) {
-        command(StatementText("G1").height(" Z", z).feed(m_dialect, feed));
-        m_z = z;
+        m_output.CommandLine(StatementText("G1").height(" Z", z).feed(m_dialect, feed));
     }
 
     void rapidTo(float x, float y) {
-        command(StatementText("G0").position(" X", x).position(" Y", y));
-        m_x = x;
-        m_y = y;
+        m_output.CommandLine(StatementText("G0").position(" X", x).position(" Y", y));
     }
 
-    // The same at the safe height.
-    void rapidAbove(float x, float y) {
-        if (m_z != m_job.answers.gsngSafeHeight)
-            rapidToHeight(m_job.answers.gsngSafeHeight);
-        rapidTo(x, y);
+    void cut(const CutWords& words, const CutWords::Cut& cut) {
+        m_output.writeBlock(words.text(cut));
     }
 
-    bool isAt(float x, float y) const { return isSamePosition(x, y, m_x, m_y); }
-
-    void setSpindle(const Settings& settings) {
-        m_speed = settings.sngSpindleSpeed;
-        m_values.spindleSpeed = m_speed;
-        put(m_dialect.spindle);
-    }
-
-    void prepareTool(const Settings& settings) {
-        const float safe = m_job.answers.gsngSafeHeight;
-        if (settings.intTool == m_tool) {
-            if (settings.sngSpindleSpeed == m_speed)
-                return;
-            rapidToHeight(safe);
-            rapidToHeight(m_job.answers.gsngToolChangeHeight);
-            setSpindle(settings);
-            rapidToHeight(safe);
-            return;
-        }
-        m_tool = settings.intTool;
-        if (m_z <= m_job.answers.gsngRapidDownTo)
-            rapidToHeight(safe);
-        if (m_z == safe && !m_dialect.retract.empty()) {
-            put(m_dialect.retract);
-            m_z = m_job.answers.gsngToolChangeHeight;
-        }
-        m_values.toolPlace = settings.intTool;
-        if (m_toolLoaded)
-            put(m_dialect.toolUnload);
-        put(m_dialect.tool);
-        m_toolLoaded = true;
-        setSpindle(settings);
-        rapidToHeight(safe);
-    }
-
-    StatementText feedWord(float feed) const { return StatementText("").feed(m_dialect, feed); }
-
-    void cut(std::int16_t pen, const Settings& settings) {
-        std::optional<CutWords> words;
-        float feed = settings.sngFeedHorizontal;
-        const float bottom = -settings.sngDepth;
-        const float step = stepOrDepth(settings);
-        float floor = toSingle(double{settings.sngFinalPassDepth} - settings.sngDepth);
-        for (float z = 0; z > bottom;) {
-            z = oneStepDown(z, step);
-            if (z <= floor) {
-                z = floor;
-                if (bottom < floor)
-                    floor = bottom; // the last roughing pass; the next one is the final pass
-                else if (settings.sngFeedFinalPass > 0)
-                    feed = settings.sngFeedFinalPass;
-            }
-            if (words)
-                words->changeFeed(feedWord(feed));
-            else
-                words.emplace(m_job.drawing, m_paths.ofPen(pen), feedWord(feed));
-            cutPass(*words, z, settings.sngFeedVertical);
-        }
-    }
-
-    void cutPass(const CutWords& words, float z, float feedDown) {
-        const auto& cuts = words.cuts();
-        for (const CutWords::Cut& cut : cuts) {
-            if (!cut.connected) {
-                const Path& path = m_job.drawing.gudtPaths[cut.path];
-                if (&cut != &cuts.front() || !isAt(path.sngStartX, path.sngStartY))
-                    rapidAbove(path.sngStartX, path.sngStartY);
-            }
-            if (m_z > m_job.answers.gsngRapidDownTo)
-                rapidToHeight(m_job.answers.gsngRapidDownTo);
-            if (m_z > z)
-                feedToHeight(z, feedDown);
-            m_output.writeBlock(words.text(cut));
-        }
-        if (!cuts.empty()) {
-            const Path& last = m_job.drawing.gudtPaths[cuts.back().path];
-            m_x = last.sngEndX;
-            m_y = last.sngEndY;
-        }
-    }
-
-    void drill(std::int16_t pen, float radius, const Settings& settings) {
-        for (const std::int16_t subscript : m_paths.ofRadius(pen, radius)) {
-            const Path& path = m_job.drawing.gudtPaths[subscript];
-            if (m_z != m_job.answers.gsngSafeHeight)
-                rapidToHeight(m_job.answers.gsngSafeHeight);
-            if (!isAt(path.sngCentreX, path.sngCentreY))
-                rapidTo(path.sngCentreX, path.sngCentreY);
-            if (m_z > m_job.answers.gsngRapidDownTo)
-                rapidToHeight(m_job.answers.gsngRapidDownTo);
-            peck(settings);
-        }
-    }
-
-    void peck(const Settings& settings) {
-        const float bottom = -settings.sngDepth;
-        const float step = stepOrDepth(settings);
-        for (float z = 0; z > bottom;) {
-            z = std::max(oneStepDown(z, step), bottom);
-            if (m_z > z)
-                feedToHeight(z, settings.sngFeedVertical);
-            if (z > bottom && !settings.blnPeck)
-                continue;
-            if (settings.sngDwell > 0) {
-                m_values.dwell = settings.sngDwell * m_dialect.dwellFactor;
-                put(m_dialect.dwell);
-            }
-            rapidToHeight(m_job.answers.gsngRapidDownTo);
-        }
-    }
-
-    const Job& m_job;
+private:
     const Dialect& m_dialect;
     ProgramOutput& m_output;
-    PathIndex m_paths;
-    StatementValues m_values;
     std::string m_expanded;
-    float m_x = nowhere;
-    float m_y = nowhere;
-    float m_z;
-    std::int16_t m_tool = 0;
-    float m_speed = 0;
-    bool m_toolLoaded = false;
 };
 
 } // namespace
 
 bool WriteGcodes(const Job& job, const ToolList& tools, std::int16_t target, ProgramOutput& output,
                  Logger& logger) {
-    return withErrorTrap(logger, {"WriteGcodes", "modHpgl"},
-                         [&] { BodyWriter(job, tools, dialectFor(target), output).write(); });
+    return withErrorTrap(logger, {"WriteGcodes", "modHpgl"}, [&] {
+        const Dialect& dialect = dialectFor(target);
+        WrittenStatements statements(dialect, output);
+        BodyWalk(job, tools, dialect, statements).walk();
+    });
 }
 
 } // namespace torvik

@@ -48,17 +48,18 @@ struct Pen {
 
 // One group of machining settings: of a pen that is cut, or of one hole size that is drilled.
 struct Settings {
-    std::int16_t intTool = 0;    // place in the tool list, 0 = none chosen
-    float sngSpindleSpeed = 0;   // rpm
-    float sngFeedHorizontal = 0; // cutting only
-    float sngFeedFinalPass = 0;  // cutting only
-    float sngFeedVertical = 0;   // drilling: the drilling feed
-    float sngDepth = 0;          // final depth, or depth of hole
-    float sngDepthPerPass = 0;   // drilling: the peck distance
-    float sngFinalPassDepth = 0; // cutting only
-    float sngDwell = 0;          // drilling only, seconds
-    bool blnPeck = false;        // drilling only
-    bool blnComplete = false;    // entered and accepted
+    std::int16_t intTool = 0;     // place in the tool list, 0 = none chosen
+    float sngSpindleSpeed = 0;    // rpm
+    float sngFeedHorizontal = 0;  // cutting only
+    float sngFeedFinalPass = 0;   // cutting only
+    float sngFeedVertical = 0;    // drilling: the drilling feed
+    float sngDepth = 0;           // final depth, or depth of hole
+    float sngDepthPerPass = 0;    // drilling: the peck distance
+    float sngFinalPassDepth = 0;  // cutting only
+    float sngDwell = 0;           // drilling only, seconds
+    bool blnPeck = false;         // drilling only
+    bool blnComplete = false;     // entered and accepted
+    std::int16_t intToolGone = 0; // number of the tool it had, where that is in the list no more
 };
 
 } // namespace torvik

@@ -70,17 +70,18 @@ bool DrawingOpener::agreesToOpen() {
 void DrawingOpener::importFrom(const std::filesystem::path& drawing) {
     const auto fullPath = std::filesystem::absolute(drawing).make_preferred();
     m_driver.stopFlashing();
+    m_driver.beforeImport();
     m_window.setWindowTitle(tr("Torvik - importing from HPGL file %1")
                                 .arg(QString::fromStdString(utf8FromPath(fullPath))));
     const ImportResult result = importDrawing(m_workshop.job, fullPath, m_workshop.tools,
                                               savedSettingsFolder(), m_workshop.logger);
     if (!result.imported) {
-        m_driver.returnToStart();
+        m_driver.refuseImport();
         return;
     }
     addRecentDrawing(fullPath);
     m_skipped.show(m_workshop.job.drawing.reading.lost);
-    m_driver.layOutImported();
+    m_driver.layOutImported(result.saved.damage);
 }
 
 } // namespace torvik

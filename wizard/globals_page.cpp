@@ -102,6 +102,8 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->addWidget(makePageTitle(tr("Heights and units for the whole job")));
+    m_damage = makeWarning(QStringLiteral("lblDamage"));
+    layout->addWidget(m_damage);
     layout->addWidget(explanation);
     layout->addLayout(form);
     layout->addWidget(units);
@@ -149,6 +151,13 @@ bool GlobalsPage::blnGlobalsValid() {
         box.setFocus();
     });
     return valid;
+}
+
+void GlobalsPage::sayDamage(const std::string& damage) {
+    showWarning(*m_damage, damage.empty()
+                               ? QString()
+                               : tr("The saved answers are damaged and were not used: %1")
+                                     .arg(breakablePath(QString::fromStdString(damage))));
 }
 
 bool GlobalsPage::isFilled() const {

@@ -7,7 +7,9 @@
 #include <QWidget>
 
 #include <array>
+#include <string>
 
+class QLabel;
 class QRadioButton;
 
 namespace torvik {
@@ -30,6 +32,9 @@ public:
     // selects it and gives it the focus.
     bool blnGlobalsValid();
 
+    // Says why the saved answers were not used; an empty text says nothing.
+    void sayDamage(const std::string& damage);
+
     // Whether every height holds at least one character and a unit is chosen.
     bool isFilled() const;
     // On entry to the step: cmdNext by isFilled(), the focus in the first empty height.
@@ -42,6 +47,7 @@ private:
     WizardHost& m_host;
     std::array<NumberBox*, 3> m_heights{};
     std::array<QRadioButton*, 2> m_units{};
+    QLabel* m_damage = nullptr;
 };
 
 } // namespace torvik

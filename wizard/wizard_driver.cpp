@@ -230,13 +230,45 @@ void WizardDriver::showStep(std::int16_t step) {
     }
 }
 
-void WizardDriver::layOutImported() {
+void WizardDriver::savePage() {
+    switch (m_workshop.job.gintWizardStep) {
+    case 2:
+        m_controls.globals->SaveGlobals();
+        break;
+    case 3:
+        m_controls.pens->SaveDetails();
+        break;
+    case 4:
+        m_controls.order->readOrder();
+        break;
+    case 5:
+        m_controls.header->readBoxes();
+        break;
+    default:
+        break;
+    }
+}
+
+void WizardDriver::beforeImport() {
+    savePage();
+    m_before = m_kept;
+    if (m_workshop.job.gintWizardStep > 1)
+        m_before.keep(m_workshop.job);
+}
+
+void WizardDriver::refuseImport() {
+    m_kept = std::move(m_before);
+    returnToStart();
+}
+
+void WizardDriver::layOutImported(const std::string& damage) {
     m_kept.giveBack(m_workshop.job);
     CreateTree(m_workshop.job.answers, m_workshop.job.position, m_workshop.logger);
     showStep(2);
     updateTree();
     m_controls.preview->GetScale();
     PlotLines();
+    m_controls.globals->sayDamage(damage);
     m_controls.globals->RestoreGlobals();
     m_controls.globals->enter();
     if (m_workshop.job.drawing.gintPathCount == 0)

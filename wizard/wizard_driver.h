@@ -26,8 +26,14 @@ public:
     void Wizard(std::int16_t intDirection);
     // Shows the page of a step (1 to 6) and its buttons.
     void showStep(std::int16_t step);
-    // Lays out step 2 for the drawing that was just imported, with the answers kept for it.
-    void layOutImported();
+    // What the page on show holds goes into the job, and the job's answers are kept in case the
+    // import that follows is refused.
+    void beforeImport();
+    // Lays out step 2 for the drawing that was just imported, with the answers kept for it. damage:
+    // why saved answers were not used, or empty.
+    void layOutImported(const std::string& damage);
+    // Shows the start page. The answers of the drawing before come back when it is opened next.
+    void refuseImport();
     // Lays out step 2 for the drawing in memory, as it was left for the start page.
     void continueDrawing();
     // Forgets the job and shows the start page.
@@ -59,6 +65,7 @@ signals:
     void endWanted();
 
 private:
+    void savePage();
     void fromStep2(std::int16_t direction);
     void fromStep3(std::int16_t direction);
     void fromStep4(std::int16_t direction);
@@ -74,6 +81,7 @@ private:
     const MainControls& m_controls;
     QWidget& m_window;
     KeptAnswers m_kept;
+    KeptAnswers m_before; // those of the drawing that an import takes the place of
     QTimer m_flash;
     QTimer m_toolSelect;
 };

@@ -92,6 +92,12 @@ TEST_F(SavedSettings, LogsADamagedFileAndLeavesTheJobAlone) {
         EXPECT_FALSE(job.answers.gblnSavedFound);
         EXPECT_NE(bytesOf(log).find(result.saved.damage), std::string::npos);
     }
+    // The next output puts the damaged file aside, and only that.
+    for (int output = 1; output <= 2; ++output) {
+        ASSERT_TRUE(PutSavedData(job, tools, saved, logger));
+        EXPECT_EQ(bytesOf(saved / "a.plx.damaged"), "\xEF\xBB\xBF" + good + "x");
+        EXPECT_EQ(bytesOf(saved / "a.plx"), good);
+    }
     EXPECT_EQ(reports, 0);
     const auto named = folder.file("named.plx", "\xEF\xBB\xBF" + good);
     EXPECT_EQ(importDrawingWithAnswers(job, drawing, tools, named, logger).saved.outcome,

@@ -141,6 +141,25 @@ TEST_F(Converter, LeavesBothFilesOrNone) {
     EXPECT_EQ(bytes("oprg1"), "an earlier program");
 }
 
+TEST_F(Converter, SaysThatAProgramIsLongAndRefusesOneThatIsTooLong) {
+    const auto runWith = [this](std::string_view depthAndStep) {
+        std::string answers = readWholeFile(golden / "cut_job/drawing.plx", 1 << 20);
+        answers.replace(answers.find("3,2,#"), 3, depthAndStep);
+        write("long.plx", answers);
+        return run({"a.plt", "--target", "maskor", "--answers", "long.plx"});
+    };
+    EXPECT_EQ(runWith("99999,0.001"),
+              "4||torvik-convert: a.plt: the program would have more than 20000000 lines, most of "
+              "them for the Black lines; larger steps or a smaller depth make it shorter\n");
+    EXPECT_EQ(names(), "long.plx ");
+    // 400 mm in steps of 1/128 mm, five lines each, and 34 lines.
+    EXPECT_EQ(runWith("400,0.0078125"),
+              "0|a.plt -> a.mxc\n|torvik-convert: warning: a.plt: the program has 256034 lines "
+              "(about 9 MB) in 51201 depth passes and pecks\n");
+    const std::string program = readWholeFile(path("a.mxc"), 1 << 24);
+    EXPECT_EQ(std::count(program.begin(), program.end(), '\n'), 256034);
+}
+
 TEST_F(Converter, FillsInAMissingDateOnly) {
     fs::copy(golden / "drilled_job/drawing.plt", path("holes.plt"));
     const std::string job = golden.string() + "/drilled_job/";

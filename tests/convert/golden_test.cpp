@@ -2,9 +2,17 @@
 // The cases of tests/golden, one folder each. A folder holds a drawing, its answers and the tools;
 // beside them either the expected programs of any targets ("expected.wincam", ".wincam.txt",
 // ".winnc", ".winnc.txt", ".mxc", ".iso"), or "arguments" of a call, one a line, and its "exit"
-// code. "expected.stderr" is what the call says on standard error, by default nothing. In expected
-// files {folder} stands for the case's folder and {home} for the program's own.
+// code. "expected.stderr" is what the call says on standard error, by default nothing; for a target
+// of its own, "expected.iso.stderr". In expected files {folder} stands for the case's folder and
+// {home} for the program's own.
+#include "answers/import_drawing.h"
+#include "base/logger.h"
+#include "gcode/dialects.h"
+#include "gcode/program_output.h"
+#include "gcode/program_size.h"
 #include "tests/convert/conversion.h"
+#include "tools/settings_file_reader.h"
+#include "tools/tool_store.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +38,7 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 // Runs the call in a copy of the folder: the copy must then hold what it held, and the programs.
 void expectRun(const fs::path& folder, const std::vector<std::string>& arguments, int exit,
-               const Files& programs) {
+               const Files& programs, const std::string& stderrName) {
     std::string call = "cd " + folder.string() + " && torvik-convert";
     for (const std::string& argument : arguments)
         call += " " + argument;
@@ -45,8 +53,7 @@ void expectRun(const fs::path& folder, const std::vector<std::string>& arguments
     Files files = filesOf(conversion.work());
     for (const auto& [name, bytes] : programs)
         files[name] = expected(bytes);
-    const std::string said =
-        files.contains("expected.stderr") ? expected(files["expected.stderr"]) : "";
+    const std::string said = files.contains(stderrName) ? expected(files[stderrName]) : "";
     EXPECT_EQ(conversion.run(arguments), exit);
     EXPECT_EQ(conversion.err, said);
 
@@ -56,6 +63,18 @@ void expectRun(const fs::path& folder, const std::vector<std::string>& arguments
     EXPECT_EQ(found.size(), files.size()) << "another file was left";
     EXPECT_EQ(filesOf(conversion.home()), Files{});
     EXPECT_EQ(filesOf(conversion.config()), Files{});
+}
+
+// The lines of the case's program are counted before it is written.
+void expectCounted(const fs::path& folder, const char* target, const std::string& program) {
+    Logger muted;
+    ToolList tools;
+    ToolDataLoad(
+        tools, SettingsFileReader(folder / "Maskor.ini", SettingsFileReader::IfUnreadable::raises),
+        muted);
+    Job job;
+    importDrawingWithAnswers(job, folder / "drawing.plt", tools, folder / "drawing.plx", muted);
+    EXPECT_EQ(programSize(job, tools, *dialectNamed(target)).lines, lineEndsIn(program)) << folder;
 }
 
 TEST(Golden, EachFolderGivesWhatItExpects) {
@@ -71,7 +90,8 @@ TEST(Golden, EachFolderGivesWhatItExpects) {
     for (const auto& entry : fs::directory_iterator(TORVIK_GOLDEN)) {
         Files files = filesOf(entry.path());
         if (files.contains("arguments")) {
-            expectRun(entry.path(), linesOf(files["arguments"]), std::stoi(files.at("exit")), {});
+            expectRun(entry.path(), linesOf(files["arguments"]), std::stoi(files.at("exit")), {},
+                      "expected.stderr");
             ++runs;
             continue;
         }
@@ -79,13 +99,15 @@ TEST(Golden, EachFolderGivesWhatItExpects) {
             const std::string expected = std::string("expected.") + target.ending;
             if (!files.contains(expected))
                 continue;
+            const std::string own = expected + ".stderr";
             Files programs{{std::string("out/") + target.program, files[expected]}};
             if (files.contains(expected + ".txt"))
                 programs["out/" + std::string(target.program) + ".txt"] = files[expected + ".txt"];
             expectRun(entry.path(),
                       {"drawing.plt", "--answers", "drawing.plx", "--tools", "Maskor.ini",
                        "--target", target.target, "--number", "12", "--output-dir", "out"},
-                      0, programs);
+                      0, programs, files.contains(own) ? own : "expected.stderr");
+            expectCounted(entry.path(), target.target, files[expected]);
             ++runs;
         }
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "gcode/comment_check.h"
 #include "gcode/header.h"
 #include "tests/gcode/job_to_write.h"
 
@@ -49,6 +50,29 @@ TEST(WriteHeader, StopsWhereItCannotGoOn) {
     JobToWrite missing(threePens);
     missing.of(2).intTool = 4;
     EXPECT_EQ(header(missing, "("), "(First tool - T1 6.0mm Slot drill);");
+}
+
+TEST(CommentFaults, NameFieldTextAndLetters) {
+    JobToWrite work(threePens);
+    work.of(2).intTool = 2;
+    work.job.answers.gstrHeader[1] = " Anna (7b) ";
+    work.job.answers.gstrHeader[5] = "\xC5\x81\xC3\xB3"
+                                     "d\xC5\x81 \xFF";
+    work.tools.gudtTools[1].strType = "Drill)";
+    const std::string letters = "Material|\xC5\x81\xC3\xB3"
+                                "d\xC5\x81 \xFF||\xC5\x81 \xEF\xBF\xBD;";
+    const std::pair<std::int16_t, std::string> rows[] = {
+        {targetKestra, "Designer|Anna (7b)|ends|;" + letters + "T1|Drill)|ends|;"},
+        {targetMaskor, letters}, // a comment there ends with its line
+        {targetWinCam, letters}, // in the text beside the program
+    };
+    for (const auto& [target, expected] : rows) {
+        std::string found;
+        for (const CommentFault& fault : commentFaults(work.job, work.tools, dialectFor(target)))
+            found += fault.field + "|" + fault.text + (fault.endsComment ? "|ends|" : "||") +
+                     fault.lost + ";";
+        EXPECT_EQ(found, expected) << target;
+    }
 }
 
 } // namespace

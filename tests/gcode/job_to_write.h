@@ -4,11 +4,15 @@
 #pragma once
 
 #include "base/numbers.h"
+#include "gcode/dialects.h"
+#include "gcode/output_file.h"
 #include "gcode/program_output.h"
+#include "gcode/program_size.h"
 #include "gcode/program_writer.h"
 #include "tests/job/drawing.h"
 #include "tools/tool_list.h"
 
+#include <gtest/gtest.h>
 #include <map>
 #include <sstream>
 #include <string>
@@ -71,7 +75,17 @@ struct JobToWrite {
         ProgramOutput output(sink);
         whole = WriteGcodes(job, tools, target, output, logger);
         output.flush();
+        if (whole)
+            expectCounted(target);
         return statements(sink.bytes());
+    }
+    // The lines of a program are counted as they are written.
+    void expectCounted(std::int16_t target) const {
+        const Dialect& dialect = dialectFor(target);
+        Logger muted;
+        StringSink program;
+        writeProgram(job, tools, dialect, 1, program, muted);
+        EXPECT_EQ(programSize(job, tools, dialect).lines, lineEndsIn(program.bytes()));
     }
     static std::string statements(const std::string& lines) {
         std::string found;

@@ -44,6 +44,33 @@ TEST(WriteFile, TellsWhichFileFailsAndLeavesBothOrNone) {
     EXPECT_EQ(readWholeFile(program, 1000), "an earlier program");
 }
 
+TEST(WriteFile, LeavesNothingOfACancelledProgram) {
+    const TemporaryFolder folder;
+    const auto program = folder.file("part.mxc", "an earlier program");
+    JobToWrite work("SP1;PD40,40;PU0,0");
+    work.change("1.depth=1000 1.step=0.01"); // more than one piece of the output holds
+    std::int64_t told = 0;
+    EXPECT_EQ(WriteFile(work.job, work.tools, targetMaskor, 0, program, work.logger,
+                        [&](std::int64_t lines) {
+                            told = lines;
+                            return false;
+                        }),
+              WriteOutcome::cancelled);
+    EXPECT_GT(told, 1000);
+    EXPECT_LT(told, programSize(work.job, work.tools, dialectFor(targetMaskor)).lines);
+    EXPECT_EQ(contents(program), "an earlier program");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+    EXPECT_EQ(work.reports, "");
+}
+
+TEST(ProgramSize, EndsBehindTheMostLines) {
+    JobToWrite work("SP1;PD40,40;SP2;PD80,0");
+    work.change("2.depth=99999 2.step=0.001");
+    const ProgramSize size = programSize(work.job, work.tools, dialectFor(targetMaskor));
+    EXPECT_EQ(size.lines, mostLines + 1);
+    EXPECT_EQ(size.longest.value().pen, 2);
+}
+
 TEST(ProposedFileName, ReplacesThreeCharacters) {
     EXPECT_EQ(proposedFileName(dialectFor(targetMaskor), "/jobs/gear.hpgl", 7), "gear.hmxc");
     EXPECT_EQ(proposedFileName(dialectFor(targetKestra), "ab", 7), "iso");

@@ -169,9 +169,10 @@ TEST_F(FrmMainTest, BackFromStepTwoKeepsAllAnswersForTheSameDrawingAlone) {
     }
 }
 
-TEST_F(FrmMainTest, ARefusedDrawingLeavesNothingBehind) {
+TEST_F(FrmMainTest, ARefusedDrawingLeavesNothingButTheAnswersOfTheOneBefore) {
     startSample("bracket");
-    go(4);
+    go(3);
+    type("txtDet0", "4321");
     openFromMenu(buttonYes, DialogAnswers::file(folder.file("broken.plt", "SP9;PD10,10;")));
     EXPECT_EQ(std::exchange(errors, {}).size(), 1U);
     EXPECT_EQ(shown() + caption(), "picOpening StartTorvik");
@@ -183,6 +184,30 @@ TEST_F(FrmMainTest, ARefusedDrawingLeavesNothingBehind) {
     EXPECT_FALSE(showsPicture() || find<QPushButton>("cmdContinue").isVisible());
     ASSERT_EQ(recent().size(), 1);
     EXPECT_EQ(recent()[0]->text(), "&1  bracket.plt");
+    recent()[0]->trigger();
+    settle();
+    go(3);
+    EXPECT_EQ(text("txtDet0"), "4321");
+}
+
+TEST_F(FrmMainTest, WhatOfTheSavedAnswersIsNotUsedIsSaid) {
+    startSample("bracket");
+    EXPECT_FALSE(find<QLabel>("lblDamage").isVisible());
+    go(3);
+    workshop.tools.gudtTools[job.answers.gudtSettings[1].intTool].intNumber = 99;
+    job.output.gblnUnsaved = false;
+    window->ReadFile(drawing);
+    go(3);
+    EXPECT_EQ(label("lblToolNote"), "Tool T1 of the saved answers is no longer in the tool list");
+
+    const auto saved = folder.path() / "PlotSave" / "bracket.plx";
+    std::ofstream(saved, std::ios::app) << "x";
+    job.output.gblnUnsaved = false;
+    window->ReadFile(drawing);
+    EXPECT_TRUE(label("lblDamage")
+                    .starts_with("The saved answers are damaged and were not used: " +
+                                 saved.string() + ", line "));
+    job.output.gblnUnsaved = false;
 }
 
 TEST_F(FrmMainTest, TheStartPageLeadsBackToTheDrawingThatWasLeft) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/output/output_page.h"
 
+#include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
+#include "gcode/comment_check.h"
 #include "gcode/dialects.h"
 #include "tools/settings_file_reader.h"
 #include "wizard/host/workshop.h"
@@ -50,6 +52,20 @@ QString targetsOfDiskette() {
     return names.join(OutputPage::tr(" and "));
 }
 
+QString faultText(const CommentFault& fault) {
+    const QString field = fault.isTool ? OutputPage::tr("Type of tool %1").arg(fault.field.c_str())
+                                       : OutputPage::tr(fault.field.c_str());
+    QStringList lines;
+    if (fault.endsComment)
+        lines.append(OutputPage::tr("a round bracket ends the comment, and the control may read "
+                                    "the rest as statements"));
+    if (!fault.lost.empty())
+        lines.append(OutputPage::tr("a program cannot hold %1, ? stands there instead")
+                         .arg(QString::fromStdString(fault.lost)));
+    return QStringLiteral("%1, \"%2\": %3")
+        .arg(field, QString::fromStdString(fault.text), lines.join(QStringLiteral("; ")));
+}
+
 } // namespace
 
 OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
@@ -82,8 +98,11 @@ OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
     layout->setSpacing(12);
     layout->addWidget(makePageTitle(tr("Output")));
     layout->addWidget(box);
+    m_comments = makeWarning(QStringLiteral("lblComments"));
+    layout->addWidget(m_comments);
     layout->addWidget(buildDrive());
     layout->addStretch(1);
+    connect(m_targets, &QButtonGroup::idClicked, this, [this] { warnOfComments(); });
     showDrive();
 }
 
@@ -148,6 +167,16 @@ void OutputPage::showDrive() {
         m_drive->setText(tr("a:\\ is %1").arg(breakablePath(folder)));
 }
 
+void OutputPage::warnOfComments() {
+    QStringList lines;
+    withErrorTrap(m_workshop.logger, {"warnOfComments", "frmMain"}, [&] {
+        for (const CommentFault& fault :
+             commentFaults(m_workshop.job, m_workshop.tools, dialectFor(target())))
+            lines.append(faultText(fault));
+    });
+    showWarning(*m_comments, lines.join(u'\n'));
+}
+
 std::int16_t OutputPage::target() const {
     return static_cast<std::int16_t>(m_targets->checkedId());
 }
@@ -158,6 +187,7 @@ void OutputPage::rememberTarget() {
 
 void OutputPage::enter() {
     showDrive();
+    warnOfComments();
     m_targets->checkedButton()->setFocus();
 }
 

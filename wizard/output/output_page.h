@@ -23,17 +23,20 @@ public:
     std::int16_t target() const;
     // Remembers the target for the next time.
     void rememberTarget();
-    // On entry to the step: what the page says of drive A:, and the focus on the chosen target.
+    // On entry to the step: what the page says of drive A: and of texts that the program cannot
+    // hold, and the focus on the chosen target.
     void enter();
 
 private:
     QWidget* buildDrive();
     void changeDrive();
     void showDrive();
+    void warnOfComments();
 
     Workshop& m_workshop;
     QButtonGroup* m_targets = nullptr;
     QLabel* m_drive = nullptr;
+    QLabel* m_comments = nullptr;
 };
 
 } // namespace torvik

@@ -10,6 +10,7 @@
 #include "base/numbers.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
+#include "gcode/program_size.h"
 #include "gcode/tool_check.h"
 #include "wizard/host/group_name.h"
 #include "wizard/host/workshop.h"
@@ -17,6 +18,7 @@
 #include "wizard/output/file_dialogs.h"
 #include "wizard/output/frm_menu.h"
 #include "wizard/output/frm_output.h"
+#include "wizard/output/writing_dialog.h"
 
 #include <QGuiApplication>
 
@@ -51,6 +53,10 @@ AfterOutput OutputStep::run(std::int16_t target) {
         if (asksForTool(m_workshop))
             return;
         const Dialect& dialect = dialectFor(target);
+        const ProgramSize size = programSize(m_workshop.job, m_workshop.tools, dialect);
+        if (!agreesToSize(size))
+            return;
+        m_lines = size.lines;
         if (!dialect.needsNumber()) {
             after = WriteFile(target, 0);
             return;
@@ -66,6 +72,32 @@ AfterOutput OutputStep::run(std::int16_t target) {
         }
     });
     return after;
+}
+
+bool OutputStep::agreesToSize(const ProgramSize& size) {
+    if (!size.isLong())
+        return true;
+    const auto& [pen, radius, settings] = size.longest.value();
+    const QString mostOfIt = groupName(m_workshop.job.answers.gudtPens[pen], radius);
+    if (size.isTooLong()) {
+        m_workshop.messages.intStdMsgBox(
+            tr("This program would have more than %1 lines, most of them for %2, so it is not "
+               "written.\nLarger steps or a smaller depth make it shorter.")
+                .arg(mostLines)
+                .arg(mostOfIt)
+                .toStdString(),
+            styleExclamation, usualTitle);
+        return false;
+    }
+    return m_workshop.messages.intStdMsgBox(
+               tr("This program will have %1 lines (about %2 MB) in %3 depth passes and pecks, "
+                  "most of them for %4.\nDo you want to write it?")
+                   .arg(size.lines)
+                   .arg(size.megabytes())
+                   .arg(size.steps)
+                   .arg(mostOfIt)
+                   .toStdString(),
+               styleQuestionDefaultNo, usualTitle) == buttonYes;
 }
 
 std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
@@ -144,8 +176,10 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
         WriteOutcome outcome{};
         {
             const BusyPointer busy;
+            WritingDialog progress(m_lines, &m_window);
             outcome = torvik::WriteFile(m_workshop.job, m_workshop.tools, target, number, file,
-                                        m_workshop.logger);
+                                        m_workshop.logger,
+                                        [&](std::int64_t lines) { return progress.goOn(lines); });
         }
         if (outcome != WriteOutcome::notOpened)
             return outcome == WriteOutcome::written;

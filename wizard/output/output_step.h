@@ -14,6 +14,7 @@ class QWidget;
 namespace torvik {
 
 struct Dialect;
+struct ProgramSize;
 struct Workshop;
 
 // What the user wants after the output.
@@ -46,6 +47,8 @@ public:
     bool blnDisketteReady() const;
 
 private:
+    // Whether the program's size is no hindrance: what is very long is asked about.
+    bool agreesToSize(const ProgramSize& size);
     // The program number, 0 where the user cancelled.
     std::int16_t askForNumber(const Dialect& dialect);
     bool waitForDiskette();
@@ -56,6 +59,7 @@ private:
 
     Workshop& m_workshop;
     QWidget& m_window;
+    std::int64_t m_lines = 0; // of the program that is written
 };
 
 } // namespace torvik

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/pens/pen_controls.h"
 
+#include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
 #include "wizard/pens/pen_diagram.h"
@@ -21,8 +22,6 @@ namespace {
 
 const QColor grey(192, 192, 192);
 const QColor paleCyan(192, 255, 255);
-const QColor darkRed(176, 0, 32);
-const QColor brightRed(255, 138, 128);
 
 constexpr int widestContent = 80; // letters
 constexpr int columnCaption = 0;
@@ -249,12 +248,7 @@ void setToolLabel(const PenControls& controls, std::size_t label, const QString&
 }
 
 void setToolNote(const PenControls& controls, const QString& text) {
-    QPalette palette; // an empty one follows the system's
-    const bool isDark = palette.color(QPalette::Window).lightness() < 128;
-    palette.setColor(QPalette::WindowText, isDark ? brightRed : darkRed);
-    controls.toolNote->setPalette(palette);
-    controls.toolNote->setText(text);
-    controls.toolNote->setVisible(!text.isEmpty());
+    showWarning(*controls.toolNote, text);
 }
 
 void colourToolLabels(const PenControls& controls, bool leftOut) {

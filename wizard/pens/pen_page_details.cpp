@@ -73,12 +73,18 @@ void PenPage::showTool() {
     setToolNote(m_controls, toolNote());
 }
 
-// A tool that does not fit its hole stays chosen where the user said so, but not without a word.
+// A tool that does not fit its hole stays chosen where the user said so, but not without a word;
+// nor is one that went missing passed over.
 QString PenPage::toolNote() const {
     const Job& job = m_workshop.job;
     const Settings& settings = currentSettings(job);
-    if (!asksForDetails() || !isInList(m_workshop.tools, settings.intTool))
+    if (!asksForDetails())
         return {};
+    if (!isInList(m_workshop.tools, settings.intTool))
+        return settings.intToolGone == 0
+                   ? QString()
+                   : tr("Tool T%1 of the saved answers is no longer in the tool list")
+                         .arg(settings.intToolGone);
     const float diameter = toolAt(m_workshop.tools, settings.intTool).sngDiameter;
     if (!toolMissesHole(job, diameter))
         return {};

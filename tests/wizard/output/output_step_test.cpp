@@ -177,6 +177,44 @@ TEST_F(OutputTest, AFileThatCannotBeOpenedCanBeTriedAgainAndAFailedWriteShowsNoM
     expectNothingWritten();
 }
 
+TEST_F(OutputTest, ALongProgramIsAskedAboutAndCanBeCancelled) {
+    choose(1);
+    Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
+    settings.sngDepth = 99999;
+    settings.sngDepthPerPass = 0.01F;
+    click("cmdNext");
+    EXPECT_TRUE(messages.take().starts_with("Torvik|48|This program would have more than 20000000 "
+                                            "lines, most of them for the Black lines, so it is "));
+    settings.sngDepth = 512;
+    messages.answers = {buttonNo, buttonYes};
+    click("cmdNext");
+    EXPECT_TRUE(messages.take().starts_with("Torvik|260|This program will have "));
+    answers.expect("frmOutput", DialogAnswers::number("1"));
+    answers.expect("dlgWriting", DialogAnswers::press("cmdCancel"));
+    click("cmdNext");
+    messages.take();
+    EXPECT_TRUE(std::filesystem::is_empty(drive));
+    expectNothingWritten();
+}
+
+TEST_F(OutputTest, TextsThatACommentCannotHoldAreNamedForTheTargetsConcerned) {
+    std::string& type =
+        workshop.tools
+            .gudtTools[job.answers.gudtSettings[job.answers.gudtPens[1].intSettings].intTool]
+            .strType;
+    type = "Drill (long)";
+    choose(4);
+    EXPECT_EQ(
+        label("lblComments"),
+        "Type of tool T1, \"Drill (long)\": a round bracket ends the comment, and the control "
+        "may read the rest as statements");
+    choose(3);
+    EXPECT_FALSE(find<QLabel>("lblComments").isVisible());
+    type = "\xC5\x81";
+    choose(3);
+    EXPECT_TRUE(find<QLabel>("lblComments").isVisible());
+}
+
 TEST_F(OutputTest, TheMenuLeadsToAnotherFileOrEndsTheProgram) {
     choose(1);
     answers.expect("frmOutput", DialogAnswers::number("1"));
