@@ -50,7 +50,7 @@ int runDesktop(const QString& drawing) {
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
-    const KeyGuard keyGuard;
+    KeyGuard keyGuard;
     MessageWindow messages;
     SingleInstance instance(instanceName());
     const QString path = drawing.isEmpty() ? QString() : QFileInfo(drawing).absoluteFilePath();
@@ -82,6 +82,7 @@ int runDesktop(const QString& drawing) {
         {.showHelp = showHelp, .showAbout = [&] { showAboutBox(window); }, .Shutdown = shutdown});
     window = &frmMain;
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
+    keyGuard.goFirst(); // else the window would take a held Enter for a step
     const auto open = [&frmMain](const QString& named) {
         if (!named.isEmpty())
             frmMain.ReadFileLater(pathFromUtf8(named.toStdString()));

@@ -224,8 +224,6 @@ bool FrmMain::previewKey(QKeyEvent& event, QWidget& focused) {
         return m_workshop.job.gintWizardStep == 4;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (event.isAutoRepeat()) // a key held down is no second step
-            return true;
         if (auto* const button = qobject_cast<QPushButton*>(&focused))
             button->click();
         else

@@ -52,6 +52,12 @@ TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
 
 TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
     EXPECT_EQ(run([] {
+                  auto& start = *mainWindow()->findChild<QPushButton*>("cmdStart");
+                  const QSignalSpy pressed(&start, &QPushButton::clicked);
+                  QApplication::setActiveWindow(mainWindow());
+                  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+                  QApplication::sendEvent(&start, &held); // not a step, whoever sees it
+                  EXPECT_TRUE(start.hasFocus() && pressed.isEmpty());
                   QTest::keyClick(mainWindow(), Qt::Key_F1);
                   mainWindow()->findChild<QAction*>("mnuFileExit")->trigger();
               }),
