@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/tool_check.h"
@@ -19,6 +20,8 @@
 #include "wizard/output/frm_output.h"
 
 #include <QGuiApplication>
+
+#include <cmath>
 
 namespace torvik {
 namespace {
@@ -73,9 +76,11 @@ std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
         FrmOutput dialog(dialect, &m_window);
         dialog.exec();
         try {
-            const std::int16_t number = toInt16(leadingNumber(dialog.tag()));
-            if (number >= 0)
-                return number;
+            const std::string typed = dialog.tag(); // none: cancelled
+            const double number = leadingNumber(typed);
+            if (typed.empty() ||
+                (isNumber(trimBlanks(typed)) && number >= 0 && number == std::trunc(number)))
+                return toInt16(number);
         } catch (const Overflow&) {
             // Told below, as a number that is less than nothing.
         }
