@@ -13,7 +13,7 @@ namespace torvik {
 namespace {
 
 constexpr int gap = 4;         // pixels to the box
-constexpr int widestLine = 36; // letters
+constexpr int widestLine = 48; // letters
 
 QRect onScreen(const QWidget& widget) {
     return {widget.mapToGlobal(QPoint(0, 0)), widget.size()};
@@ -26,6 +26,8 @@ void SideHint::showBeside(QWidget& box, const QString& text) {
     if (hint == nullptr)
         hint = new SideHint(box);
     hint->setText(text);
+    const QFontMetrics letters = hint->fontMetrics();
+    hint->setWordWrap(letters.horizontalAdvance(text) > widestLine * letters.averageCharWidth());
     hint->adjustSize();
     hint->move(hint->place());
     hint->show();
@@ -34,8 +36,10 @@ void SideHint::showBeside(QWidget& box, const QString& text) {
     QAccessible::updateAccessibility(&said);
 }
 
+// One that does not stay on top is made twice on X11, and the second takes the mouse again.
 SideHint::SideHint(QWidget& box)
-    : QLabel(&box, Qt::ToolTip | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus),
+    : QLabel(&box, Qt::ToolTip | Qt::WindowStaysOnTopHint | Qt::WindowTransparentForInput |
+                       Qt::WindowDoesNotAcceptFocus),
       m_box(box), m_time(new QTimer(this)) {
     setObjectName(QStringLiteral("lblHint"));
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -47,8 +51,7 @@ SideHint::SideHint(QWidget& box)
     setForegroundRole(QPalette::ToolTipText);
     setFrameStyle(static_cast<int>(QFrame::Box) | QFrame::Plain);
     setMargin(3);
-    setWordWrap(true);
-    setMaximumWidth(widestLine * fontMetrics().averageCharWidth());
+    setAutoFillBackground(true);
     m_time->setSingleShot(true);
     connect(m_time, &QTimer::timeout, this, &QWidget::hide);
     box.installEventFilter(this);
