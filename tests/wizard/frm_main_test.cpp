@@ -411,6 +411,8 @@ TEST_F(FrmMainTest, EveryPageIsWalkedThroughWithoutTheMouse) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.order);
         go(row.step, row.title);
+        window->resize(1, 1); // as small as it becomes; a screen of 800 by 600 shows it whole
+        EXPECT_TRUE(window->width() <= 784 && window->height() <= 552);
         expectReachable(*window);
         find<QWidget>(row.order.substr(0, row.order.find(' '))).setFocus();
         EXPECT_EQ(tabOrder(), row.order + "cmdBack cmdNext ");
