@@ -18,7 +18,11 @@ void closeRow(PenBoxes& boxes, std::size_t row) {
     boxes.enabled[row] = false;
 }
 
-void openRow(PenBoxes& boxes, std::size_t row, const std::string& usual) {
+// A row that closed during the edit gets back what it held before; an empty one the usual text.
+void openRow(PenBoxes& boxes, std::size_t row, const std::optional<PenEdit>& edit,
+             const std::string& usual) {
+    if (edit && !boxes.enabled[row])
+        boxes.text[row] = edit->before[row];
     boxes.enabled[row] = true;
     if (boxes.text[row].empty())
         boxes.text[row] = usual;
@@ -42,12 +46,15 @@ std::optional<InputFault> relationFault(const PenBoxes& boxes, PenForm form) {
 
 } // namespace
 
-void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor) {
+void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor,
+                      const std::optional<PenEdit>& edit) {
     const auto number = [&](std::size_t row) { return boxNumber(boxes.text[row]); };
     const auto feed = [&](double value) { return formatFixed(value, feedDecimals(feedFactor)); };
     const bool cutting = form == PenForm::cutting;
     const double cuttingFeed = number(rowFeed);
-    if (cutting && index == rowFeed && cuttingFeed > 0 && std::isfinite(cuttingFeed))
+    const bool feedFollowed =
+        cutting && index == rowFeed && cuttingFeed > 0 && std::isfinite(cuttingFeed);
+    if (feedFollowed)
         boxes.text[rowFeedVertical] = feed(cuttingFeed / 4);
 
     const double depth = number(rowDepth);
@@ -59,11 +66,15 @@ void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float fe
     }
     if (!cutting)
         return;
-    openRow(boxes, rowFinalPass, usualFinalPass);
-    if (number(rowFinalPass) == 0)
+    openRow(boxes, rowFinalPass, edit, usualFinalPass);
+    if (number(rowFinalPass) == 0) {
         closeRow(boxes, rowFinalPassFeed);
-    else
-        openRow(boxes, rowFinalPassFeed, std::isfinite(cuttingFeed) ? feed(cuttingFeed / 2) : "");
+        return;
+    }
+    const std::string half = std::isfinite(cuttingFeed) ? feed(cuttingFeed / 2) : "";
+    openRow(boxes, rowFinalPassFeed, edit, half);
+    if (feedFollowed && edit && boxNumber(edit->before[rowFinalPassFeed]) == 0)
+        boxes.text[rowFinalPassFeed] = half;
 }
 
 bool allEditableFilled(const PenBoxes& boxes) {

@@ -15,12 +15,22 @@ struct PenBoxes {
     std::array<bool, penRowCount> enabled{};
 };
 
+// An edit of one box, from its first key until the box is left: one change, whatever the box held
+// on the way.
+struct PenEdit {
+    std::size_t row;
+    PenTexts before; // the texts when it began; its own row's is not looked at
+};
+
 // FinalDepth's work on the boxes after row `index` was edited or left, which asks for:
 // - an edited cutting feed sets the vertical feed to a quarter of it (cutting form);
 // - rows 5 and 6 are empty and closed where no final pass is possible; where one is (cutting form),
 //   an empty row 5 becomes 0.15 mm and an empty row 6 half the cutting feed, and a final pass of 0
 //   closes row 6.
-void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor);
+// During an edit, rows that closed come back with the texts they had before it, and a row 6 that
+// was empty or 0 before an edit of the cutting feed follows it.
+void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor,
+                      const std::optional<PenEdit>& edit);
 
 // Whether each box that can be edited holds something.
 bool allEditableFilled(const PenBoxes& boxes);

@@ -86,10 +86,8 @@ bool isOwnPageOfDrilledPen(const Job& job) {
     return pen.blnDrill && !pen.blnOmit && job.position.gintCurrentRadius == 0;
 }
 
-PageSubject pageSubject(const Job& job) {
-    if (!currentPen(job).blnDrill)
-        return PageSubject::lines;
-    return job.position.gintCurrentRadius == 0 ? PageSubject::holes : PageSubject::holesOfSize;
+bool isHolePage(const Job& job) {
+    return currentPen(job).blnDrill && job.position.gintCurrentRadius > 0;
 }
 
 float holeDiameter(const Job& job) {
@@ -97,7 +95,7 @@ float holeDiameter(const Job& job) {
 }
 
 bool toolMissesHole(const Job& job, float toolDiameter) {
-    if (!currentPen(job).blnDrill || job.position.gintCurrentRadius == 0)
+    if (!isHolePage(job))
         return false;
     // 6.01 and 6.00 are 0.01 apart, though their singles are a little more.
     const double hole = holeDiameter(job);
@@ -115,7 +113,7 @@ int machinedPens(const Job& job) {
 
 std::vector<std::int16_t> blinkPaths(const Job& job) {
     const Pen& pen = currentPen(job);
-    const bool oneSize = pen.blnDrill && job.position.gintCurrentRadius > 0;
+    const bool oneSize = isHolePage(job);
     const float radius = oneSize ? pen.sngRadii[job.position.gintCurrentRadius] : 0;
     std::vector<std::int16_t> paths;
     for (int i = 1; i <= job.drawing.gintPathCount; ++i) {
@@ -142,7 +140,7 @@ void markCurrentNode(Job& job) {
     if (node == nullptr)
         return;
     node->bold = true;
-    if (pen.blnDrill && job.position.gintCurrentRadius > 0)
+    if (isHolePage(job))
         node->children.at(static_cast<std::size_t>(job.position.gintCurrentRadius - 1)).bold = true;
 }
 

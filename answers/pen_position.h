@@ -29,9 +29,8 @@ PenForm currentForm(const Job& job);
 // The page about a drilled pen as a whole: nothing is asked for there.
 bool isOwnPageOfDrilledPen(const Job& job);
 
-// What the page is about: a pen that is cut, all holes of a drilled pen, or those of one size.
-enum class PageSubject { lines, holes, holesOfSize };
-PageSubject pageSubject(const Job& job);
+// The page about one hole size of a drilled pen.
+bool isHolePage(const Job& job);
 
 // Whether a tool's diameter differs from the current hole's by more than 0.01 mm; False where the
 // page is about no hole.

@@ -1,16 +1,26 @@
 // SPDX-License-Identifier: MIT
 // The desktop's own style, but on a dark desktop with check boxes and radio buttons whose edge can
-// be seen: styles draw it darker than the window.
+// be seen: styles draw it darker than the window. Tips let every click through to the control
+// below.
 #pragma once
 
 #include <QProxyStyle>
 #include <QStyleOptionButton>
+#include <QWidget>
 
 namespace torvik {
 
 class IndicatorStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        if (widget->inherits("QTipLabel")) // on top: else X11 makes it twice and forgets the rest
+            widget->setWindowFlags(widget->windowFlags() | Qt::WindowStaysOnTopHint |
+                                   Qt::WindowTransparentForInput);
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {

@@ -52,7 +52,7 @@ int runDesktop(const QString& drawing) {
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
-    const KeyGuard keyGuard;
+    KeyGuard keyGuard;
     const PlainTexts plainTexts;
     MessageWindow messages;
     SingleInstance instance(userRuntimeFolder());
@@ -85,6 +85,7 @@ int runDesktop(const QString& drawing) {
         {.showHelp = showHelp, .showAbout = [&] { showAboutBox(window); }, .Shutdown = shutdown});
     window = &frmMain;
     const HelpKey helpKey([&](const QWidget* control) { frmMain.showHelpFor(control); });
+    keyGuard.goFirst(); // else the window would take a held Enter for a step
     const auto open = [&frmMain](const QString& named) {
         if (!named.isEmpty())
             frmMain.ReadFileWhenFree(pathFromUtf8(named.toStdString()));

@@ -47,7 +47,7 @@ void mendComment(QLineEdit& box) {
     box.setText(text);
     box.setCursorPosition(cursor);
     if (hasBrackets)
-        showHintBeside(box, QCoreApplication::translate(
+        SideHint::showBeside(box, QCoreApplication::translate(
                                 "CommentBox",
                                 "Round brackets would end a comment in the program, so they are "
                                 "written as [ and ]"));

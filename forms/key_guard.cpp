@@ -33,7 +33,11 @@ bool canPressButton(int key) {
 } // namespace
 
 KeyGuard::KeyGuard(Clock clock) : m_clock(clock ? std::move(clock) : systemClock()) {
-    qApp->installEventFilter(this);
+    goFirst();
+}
+
+void KeyGuard::goFirst() {
+    qApp->installEventFilter(this); // the last one is asked first
 }
 
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {

@@ -31,6 +31,9 @@ public:
     // and when a key arrives; none: the system's.
     explicit KeyGuard(Clock clock = {});
 
+    // Sees events before the filters that were installed until now.
+    void goFirst();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -127,7 +127,7 @@ KeyHint NumberBox::hintFor(const QString& characters) const {
 }
 
 void NumberBox::showHint(KeyHint hint) {
-    showHintBeside(*this, hintText(hint));
+    SideHint::showBeside(*this, hintText(hint));
 }
 
 } // namespace torvik

@@ -270,7 +270,7 @@ void PreviewWidget::placePicture() {
 }
 
 QSize PreviewWidget::minimumSizeHint() const {
-    return {300, 250};
+    return {200, 200};
 }
 
 QSize PreviewWidget::sizeHint() const {

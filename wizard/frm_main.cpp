@@ -35,10 +35,13 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace torvik {
 namespace {
 
 constexpr QSize roomForFrame(16, 48); // what the window manager puts round the window
+constexpr int widestMinimum = 380;    // of a page, so that the window fits a screen of 800 by 600
 
 QPushButton* button(const QString& name, const QString& text, const QString& help) {
     auto* const result = new QPushButton(text);
@@ -47,17 +50,17 @@ QPushButton* button(const QString& name, const QString& text, const QString& hel
     return result;
 }
 
-// A page that scrolls where the window is lower than its form. The control with the focus is never
-// out of sight.
+// A page that scrolls where the window is smaller than its form. The control with the focus is
+// never out of sight.
 QScrollArea* scrolling(QWidget* page) {
     auto* const area = new QScrollArea;
     area->setWidget(page);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setMinimumWidth(page->minimumSizeHint().width() +
-                          area->verticalScrollBar()->sizeHint().width());
+    area->setMinimumWidth(
+        std::min(widestMinimum,
+                 page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width()));
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
         if (now != nullptr && area->widget()->isAncestorOf(now))
             area->ensureWidgetVisible(now);
@@ -128,7 +131,6 @@ void FrmMain::buildWindow() {
     layout->addWidget(split, 1);
     layout->addWidget(buildButtons());
     setCentralWidget(content);
-    setMinimumSize(minimumSizeHint().expandedTo({960, 620}));
 }
 
 QWidget* FrmMain::buildSide() {
@@ -138,7 +140,7 @@ QWidget* FrmMain::buildSide() {
     treeLabel->setObjectName(QStringLiteral("lblColours"));
     m_controls.importedLabel = treeLabel;
     auto* const side = new QWidget;
-    side->setMinimumWidth(180);
+    side->setMinimumWidth(150);
     auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_controls.steps);
@@ -235,8 +237,6 @@ bool FrmMain::previewKey(QKeyEvent& event, QWidget& focused) {
         return m_workshop.job.gintWizardStep == 4;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (event.isAutoRepeat()) // a key held down is no second step
-            return true;
         if (auto* const button = qobject_cast<QPushButton*>(&focused))
             button->click();
         else

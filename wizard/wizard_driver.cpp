@@ -39,6 +39,7 @@ WizardDriver::WizardDriver(Workshop& workshop, const MainControls& controls, QWi
 
 void WizardDriver::Wizard(std::int16_t intDirection) {
     withErrorTrap(m_workshop.logger, {"Wizard", "frmMain"}, [&] {
+        const bool fromBack = m_controls.back->hasFocus();
         if (m_flash.isActive()) {
             m_flash.stop();
             PlotLines();
@@ -68,6 +69,8 @@ void WizardDriver::Wizard(std::int16_t intDirection) {
         // Where the control with the focus has gone with its page, Enter must not lead back.
         if (intDirection > 0 && m_controls.back->hasFocus())
             m_controls.next->setFocus();
+        else if (intDirection < 0 && fromBack && m_controls.next->hasFocus())
+            m_controls.back->setFocus(); // on from page to page with the same key
     });
 }
 
@@ -305,6 +308,10 @@ void WizardDriver::stop() {
 
 void WizardDriver::setNextEnabled(bool enabled) {
     m_controls.next->setEnabled(enabled);
+}
+
+void WizardDriver::focusNext() {
+    m_controls.next->setFocus();
 }
 
 void WizardDriver::updateTree() {

@@ -42,6 +42,7 @@ public:
     void stop();
 
     void setNextEnabled(bool enabled) override;
+    void focusNext() override;
     void updateTree() override;
     void PlotLines() override;
     void clearPreview() override;

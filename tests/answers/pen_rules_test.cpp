@@ -133,25 +133,12 @@ TEST(InputFault, IsTheFirstOne) {
     }
 }
 
-TEST(JobChecks, HeightsStandAndTheHeaderIsFilled) {
-    const auto fault = [](const HeightTexts& texts) {
-        const auto found = heightFault(texts);
-        constexpr const char* kinds[] = {" zero", " large", " no number"};
-        return found ? std::to_string(found->height) + kinds[static_cast<int>(found->kind)] : "";
-    };
-    EXPECT_EQ(fault({"50", "-5", " 2.5"}), "");
-    EXPECT_EQ(fault({"50", "5", "2mm"}), "2 no number");
-    EXPECT_EQ(fault({"0", "5", "2"}), "0 zero");
-    EXPECT_EQ(fault({"50", "1e39", ""}), "1 large");
+TEST(JobChecks, StoreHeightsThatStandAndTrimmedTexts) {
     Answers answers;
     storeHeights({"60.5", "1e39", ""}, answers);
     EXPECT_EQ(answers.gsngToolChangeHeight, 60.5F);
     EXPECT_EQ(answers.gsngSafeHeight, Answers().gsngSafeHeight);
     EXPECT_EQ(answers.gsngRapidDownTo, 0);
-
-    EXPECT_EQ(missingHeaderLine({"1 May", "Ada", "", "", "Gear", " ", "", "", ""}), 5U);
-    EXPECT_EQ(missingHeaderLine({"1 May", "Ada", "", "", "Gear", "Wood", "", "", ""}),
-              std::nullopt);
     answers.gstrHeader[8] = " 12 ";
     trimHeader(answers);
     EXPECT_EQ(answers.gstrHeader[8], "12");

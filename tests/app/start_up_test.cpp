@@ -11,7 +11,9 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
+#include <algorithm>
 #include <functional>
 
 namespace torvik {
@@ -50,8 +52,19 @@ TEST_F(StartUpTest, OpensTheDrawingThatItIsStartedWith) {
         QStringLiteral(TORVIK_SAMPLES "/gear.plt"));
 }
 
-TEST_F(StartUpTest, ExitInTheMenuEndsTheProgramWithOpenHelpToo) {
+TEST_F(StartUpTest, HeldKeysAndTipsAreTamedAndExitEndsTheProgramWithOpenHelpToo) {
     EXPECT_EQ(run([] {
+                  auto& start = *mainWindow()->findChild<QPushButton*>("cmdStart");
+                  const QSignalSpy pressed(&start, &QPushButton::clicked);
+                  QApplication::setActiveWindow(mainWindow());
+                  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+                  QApplication::sendEvent(&start, &held); // not a step, whoever sees it
+                  EXPECT_TRUE(start.hasFocus() && pressed.isEmpty());
+                  QToolTip::showText({}, "tip");
+                  EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](auto* tip) {
+                      return tip->inherits("QTipLabel") &&
+                             tip->windowFlags().testFlag(Qt::WindowTransparentForInput);
+                  }));
                   QTest::keyClick(mainWindow(), Qt::Key_F1);
                   mainWindow()->findChild<QAction*>("mnuFileExit")->trigger();
               }),

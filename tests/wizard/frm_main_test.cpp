@@ -125,9 +125,6 @@ TEST_F(FrmMainTest, NoRoadGoesForwardWhileNextIsClosed) {
     key(Qt::Key_Return); // open by now, but a height of 0 is refused
     EXPECT_EQ(messages.take(), "Torvik|48|The Safe Height for Rapids may not be zero");
     QTest::keyClicks(QApplication::focusWidget(), "5");
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QApplication::sendEvent(QApplication::focusWidget(), &held); // no second step
-    EXPECT_EQ(shown(), "picGlobals Back Next");
     key(Qt::Key_Return);
     tryAllRoads("picDetails");
 }
@@ -476,7 +473,11 @@ TEST_F(FrmMainTest, EveryPageIsWalkedThroughWithoutTheMouse) {
         {3, "Black",
          "optCut0 optCut1 cmdTool txtDet0 txtDet1 txtDet2 txtDet3 txtDet4 txtDet5 txtDet6 ",
          Qt::Key_C, "optCut0"},
-        {3, "5.0 mm", "optCut0 cmdTool txtDet0 txtDet1 txtDet2 txtDet3 chkPeck txtDet4 ", {}, ""},
+        {3,
+         "5.0 mm",
+         "optCut0 optCut1 cmdTool txtDet0 txtDet1 txtDet2 txtDet3 chkPeck txtDet4 ",
+         {},
+         ""},
         {4, "", "picOrd1 picOrd2 picOrd3 cmdUp ", {}, ""},
         {5, "", "txtHead0 txtHead1 txtHead2 txtHead3 txtHead4 txtHead5 txtHead6 txtHead7 txtHead8 ",
          Qt::Key_M, "txtHead5"},
@@ -485,6 +486,8 @@ TEST_F(FrmMainTest, EveryPageIsWalkedThroughWithoutTheMouse) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.order);
         go(row.step, row.title);
+        window->resize(1, 1); // as small as it becomes; a screen of 800 by 600 shows it whole
+        EXPECT_TRUE(window->width() <= 784 && window->height() <= 552);
         expectReachable(*window);
         find<QWidget>(row.order.substr(0, row.order.find(' '))).setFocus();
         EXPECT_EQ(tabOrder(), row.order + "cmdBack cmdNext ");

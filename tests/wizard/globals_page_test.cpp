@@ -52,7 +52,7 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
         EXPECT_EQ(std::make_pair(job.answers.gsngFeedFactor, job.answers.gstrFeedUnits), units[i]);
         choose(1 - i);
         page.RestoreGlobals();
-        EXPECT_TRUE(unit(i).isChecked());
+        EXPECT_TRUE(unit(i).isChecked() && (unit(i).focusPolicy() & Qt::TabFocus) != 0);
     }
     job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);
@@ -62,7 +62,7 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
 
 TEST_F(GlobalsPageTest, TheFirstHeightThatIsZeroIsNamedAndSelected) {
     const std::tuple<std::array<const char*, 3>, int, std::string> rows[] = {
-        {{"50", "-5", "2"}, 0, ""}, // the page may be left
+        {{"50", "-5", " 2.5"}, 0, ""}, // the page may be left
         {{"0", "0", "2"}, 0, "The Tool Change Height may not be zero"},
         {{"50", "0.0", "2"}, 1, "The Safe Height for Rapids may not be zero"},
         {{"50", "5", "6.5.20"}, 2, "The Rapid Down To is not a number"},

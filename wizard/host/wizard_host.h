@@ -16,6 +16,7 @@ public:
 
     // cmdNext.
     virtual void setNextEnabled(bool enabled) = 0;
+    virtual void focusNext() = 0;
     // Brings tvwColours in line with the job's gudtColourTree (pictures, bold, expanded).
     virtual void updateTree() = 0;
 

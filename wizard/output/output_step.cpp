@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
@@ -21,6 +22,8 @@
 #include "wizard/output/writing_dialog.h"
 
 #include <QGuiApplication>
+
+#include <cmath>
 
 namespace torvik {
 namespace {
@@ -107,9 +110,10 @@ std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
         if (dialog.tag().empty())
             return 0;
         try {
-            const std::int16_t number = toInt16(leadingNumber(dialog.tag()));
-            if (number > 0)
-                return number;
+            const std::string typed = dialog.tag();
+            const double number = leadingNumber(typed);
+            if (isNumber(trimBlanks(typed)) && number >= 1 && number == std::trunc(number))
+                return toInt16(number);
         } catch (const Overflow&) {
             // Told below, as a number that is less than one.
         }

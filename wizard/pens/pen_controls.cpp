@@ -7,9 +7,9 @@
 #include "wizard/pens/pen_diagram.h"
 #include "wizard/pens/pen_words.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QFont>
 #include <QGridLayout>
 #include <QLabel>
@@ -82,6 +82,12 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         controls.optCut[i] = option;
         column->addWidget(option);
     }
+    // The Tab key reaches both, though a group keeps it to the one that had the focus last.
+    QObject::connect(qApp, &QApplication::focusChanged, controls.choice,
+                     [options = controls.optCut] {
+                         for (QRadioButton* option : options)
+                             option->setFocusPolicy(Qt::StrongFocus);
+                     });
 
     controls.diagram = new PenDiagram(&page);
     controls.diagram->setObjectName("picCut");

@@ -31,12 +31,8 @@ void PenPage::connectControls() {
                         SetCut(i);
                 });
     for (std::size_t i = 0; i < penRowCount; ++i) {
-        const auto follow = [this, row = static_cast<std::int16_t>(i)] {
-            if (isCurrentStep())
-                FinalDepth(row);
-        };
-        connect(m_controls.txtDet[i], &QLineEdit::textChanged, this, follow);
-        connect(m_controls.txtDet[i], &NumberBox::left, this, follow);
+        connect(m_controls.txtDet[i], &QLineEdit::textChanged, this, [this, i] { edited(i); });
+        connect(m_controls.txtDet[i], &NumberBox::left, this, [this, i] { left(i); });
     }
     connect(m_controls.chkPeck, &QCheckBox::clicked, this, &PenPage::chkPeck_Click);
     connect(m_controls.cmdTool, &QPushButton::clicked, this, &PenPage::cmdTool_Click);
@@ -61,6 +57,7 @@ void PenPage::ShowPen(std::int16_t direction) {
         ShowDetails();
         raise();
         CheckCutState();
+        focusNextIfDone();
     });
 }
 

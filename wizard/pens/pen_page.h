@@ -71,6 +71,8 @@ private:
     static constexpr int leaveOut = 1;
 
     void connectControls();
+    void edited(std::size_t row);
+    void left(std::size_t row);
     void chkPeck_Click();
     void cmdTool_Click();
     bool isCurrentStep() const { return m_workshop.job.gintWizardStep == 3; }
@@ -93,6 +95,7 @@ private:
     void writeBoxes(const PenBoxes& state);
     void keepTypedZeros(PenTexts& texts) const;
     void focusFirstEmptyBox();
+    void focusNextIfDone();
     QString toolNote() const;
     void refuse(const InputFault& fault);
     void select(int choice);
@@ -112,6 +115,7 @@ private:
     int m_choice = noChoice;
     // The group and form in the boxes, none before a page is entered.
     std::optional<std::pair<std::int16_t, PenForm>> m_shown;
+    std::optional<PenEdit> m_edit; // while its box keeps the focus
 
     std::vector<std::int16_t> m_blinkPaths;
     bool m_linesShown = true;

@@ -30,8 +30,6 @@ void PenPage::select(int choice) {
     for (std::size_t i = 0; i < m_controls.optCut.size(); ++i)
         m_controls.optCut[i]->setChecked(static_cast<int>(i) == choice);
     m_controls.choice->setExclusive(true);
-    for (QRadioButton* option : m_controls.optCut) // the tab key reaches both, whatever is set
-        option->setFocusPolicy(Qt::StrongFocus);
 }
 
 void PenPage::ShowState() {
@@ -150,22 +148,19 @@ void PenPage::ToolSelection(std::int16_t position) {
 void PenPage::cancelledTool() {
     if (!m_controls.toolLabels[toolNumber]->text().isEmpty()) {
         ShowDetails();
+        focusNextIfDone();
         return;
     }
     const Job& job = m_workshop.job;
-    const bool circles = currentPen(job).blnCircles;
     const bool mayLeaveOut = m_controls.optCut[leaveOut]->isEnabledTo(this);
-    if (!mayLeaveOut || (circles && job.position.gintCurrentRadius != 1)) {
+    if (!mayLeaveOut || (currentPen(job).blnCircles && job.position.gintCurrentRadius != 1)) {
         select(machine);
         m_controls.cmdTool->setEnabled(true);
-    } else {
-        select(leaveOut);
-        if (circles)
-            return;
-        SetCut(leaveOut);
-        setToolNote(m_controls,
-                    tr("No tool was chosen, so the %1 are left out").arg(pageSubjectText(job)));
+        return;
     }
+    SetCut(leaveOut);
+    setToolNote(m_controls, tr("No tool was chosen, so the %1 are left out").arg(penText(job)));
+    focusNextIfDone();
 }
 
 void PenPage::SetTool(std::int16_t position) {
@@ -178,6 +173,7 @@ void PenPage::SetTool(std::int16_t position) {
         settings.intTool = position;
         settings.blnComplete = isCompleteGroup(settings, currentForm(job), m_workshop.tools);
         ShowDetails();
+        focusNextIfDone();
         if (!toolMissesHole(job, diameter))
             return;
         const QString question =

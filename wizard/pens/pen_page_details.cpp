@@ -48,6 +48,7 @@ void PenPage::showDetails() {
     if (m_shown == std::pair(job.position.gintCurrentSettings, form))
         keepTypedZeros(shown.text);
     m_shown = {job.position.gintCurrentSettings, form};
+    m_edit.reset();
     for (std::size_t i = 0; i <= rowPass; ++i)
         shown.enabled[i] = isEditableRow(i);
     writeBoxes(shown);
@@ -144,6 +145,11 @@ void PenPage::focusFirstEmptyBox() {
     }
 }
 
+void PenPage::focusNextIfDone() {
+    if (blnInputComplete())
+        m_host.focusNext();
+}
+
 bool PenPage::SaveDetails() {
     bool kept = false;
     withErrorTrap(m_workshop.logger, {"SaveDetails", "modHpgl"}, [&] {
@@ -163,6 +169,20 @@ bool PenPage::SaveDetails() {
     return kept;
 }
 
+void PenPage::edited(std::size_t row) {
+    if (m_busy || !isCurrentStep())
+        return;
+    if (!m_edit || m_edit->row != row)
+        m_edit = PenEdit{row, boxes().text};
+    FinalDepth(static_cast<std::int16_t>(row));
+}
+
+void PenPage::left(std::size_t row) {
+    if (isCurrentStep())
+        FinalDepth(static_cast<std::int16_t>(row));
+    m_edit.reset();
+}
+
 void PenPage::FinalDepth(std::int16_t Index) {
     if (m_busy)
         return;
@@ -172,7 +192,7 @@ void PenPage::FinalDepth(std::int16_t Index) {
         if (asksForDetails()) {
             PenBoxes state = boxes();
             followFinalDepth(state, static_cast<std::size_t>(Index), currentForm(job),
-                             job.answers.gsngFeedFactor);
+                             job.answers.gsngFeedFactor, m_edit);
             writeBoxes(state);
         }
         m_host.setNextEnabled(blnInputComplete());

@@ -111,16 +111,15 @@ QString faultText(PenForm form, const InputFault& fault) {
     return tr("The %1 may not be greater than the %2").arg(name, rowName(form, fault.other));
 }
 
+QString penText(const Job& job) {
+    const Pen& pen = currentPen(job);
+    return (pen.blnDrill ? tr("%1 holes") : tr("%1 lines"))
+        .arg(QString::fromStdString(pen.strColour));
+}
+
 QString pageSubjectText(const Job& job) {
-    const QString colour = QString::fromStdString(currentPen(job).strColour);
-    switch (pageSubject(job)) {
-    case PageSubject::lines:
-        return tr("%1 lines").arg(colour);
-    case PageSubject::holes:
-        return tr("%1 holes").arg(colour);
-    case PageSubject::holesOfSize:
-        break;
-    }
+    if (!isHolePage(job))
+        return penText(job);
     return tr("%1 mm diam. holes").arg(QString::fromStdString(formatFixed(holeDiameter(job), 1)));
 }
 

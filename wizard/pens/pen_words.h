@@ -23,6 +23,8 @@ QString rowCaption(PenForm form, std::size_t row, std::string_view feedUnits);
 
 QString faultText(PenForm form, const InputFault& fault);
 
+// The pen of the page on show: "Red holes" or "Red lines".
+QString penText(const Job& job);
 // What the page on show is about: "6.0 mm diam. holes", "Red holes" or "Red lines".
 QString pageSubjectText(const Job& job);
 

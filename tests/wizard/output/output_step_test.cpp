@@ -74,17 +74,20 @@ TEST_F(OutputTest, ANumberedProgramGoesToTheDisketteWithItsText) {
 
 TEST_F(OutputTest, ANumberThatIsNoneWritesNothing) {
     choose(1);
+    const auto pasted = [](const char* text) -> DialogAnswers::Answer {
+        return [text](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>("txtNumber")->setText(text);
+            DialogAnswers::press("cmdOk")(dialog);
+        };
+    };
     const std::tuple<const char*, DialogAnswers::Answer, bool> rows[] = {
         {"cancelled", DialogAnswers::press("cmdCancel"), false},
         {"zero", DialogAnswers::number("00"), true},
         {"more than a whole number holds", DialogAnswers::number("32768"), true},
         {"more than any number holds", DialogAnswers::number(std::string(400, '9')), true},
-        {"pasted, less than nothing",
-         [](QDialog& dialog) {
-             dialog.findChild<QLineEdit*>("txtNumber")->setText("-3");
-             DialogAnswers::press("cmdOk")(dialog);
-         },
-         true},
+        {"less than nothing", pasted("-3"), true},
+        {"not whole", pasted("1.5"), true},
+        {"no number as it stands", pasted("1,5"), true},
     };
     for (const auto& [name, answer, askedAgain] : rows) {
         answers.expect("frmOutput", answer);

@@ -26,6 +26,7 @@ public:
         next = enabled;
         ++nextChanges;
     }
+    void focusNext() override { focus = true; }
     void updateTree() override { calls += "tree "; }
     void PlotLines() override { calls += "lines "; }
     void clearPreview() override { calls += "clear "; }
@@ -43,6 +44,7 @@ public:
 
     bool next = false;
     int nextChanges = 0;
+    bool focus = false; // was given to cmdNext
     std::string calls;
     std::vector<std::int16_t> blinking;
     bool shown = true;

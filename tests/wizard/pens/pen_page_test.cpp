@@ -2,8 +2,6 @@
 // The settings of a pen page, driven through its controls.
 #include "tests/wizard/pens/pen_page_fixture.h"
 
-#include <QToolTip>
-
 #include <functional>
 
 namespace torvik {
@@ -63,24 +61,69 @@ TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
     EXPECT_EQ(box(2).text(), "2.50");
 }
 
+TEST_F(PenPageTest, AnEditIsOneChange) {
+    open();
+    job.answers.gudtSettings[1] = cut(); // 12000 600 150 3.00 1.00 0.20 300
+    const struct {
+        const char* says;
+        std::vector<std::pair<int, const char*>> typed;
+        const char* rows;
+    } edits[] = {
+        {"a depth that passes through the other", {{3, "15"}}, "12000 600 150 15 1.00 0.20 300"},
+        {"a pass depth that begins with 0", {{4, "0.5"}}, "12000 600 150 3.00 0.5 0.20 300"},
+        {"no final pass stays none", {{5, "0"}, {4, "3\b2"}}, "12000 600 150 3.00 2 0 (~)"},
+        {"a final pass retyped over 0", {{5, "0.3"}}, "12000 600 150 3.00 1.00 0.3 300"},
+        {"leaving the box makes it final",
+         {{4, "3"}, {0, "9"}, {4, "1"}},
+         "9 600 150 3.00 1 0.15 300"},
+        {"a chosen feed does not follow",
+         {{6, "99"}, {1, "800"}},
+         "12000 800 200 3.00 1.00 0.20 99"},
+        {"a feed of 0 follows", {{6, "0"}, {1, "800"}}, "12000 800 200 3.00 1.00 0.20 400"},
+        {"until the edit ends",
+         {{6, "0"}, {1, "800"}, {0, "9"}, {1, "1000"}},
+         "9 1000 250 3.00 1.00 0.20 400"},
+        {"none where there is no final pass",
+         {{5, "0"}, {1, "800"}},
+         "12000 800 200 3.00 1.00 0 (~)"},
+    };
+    for (const auto& [says, typed, expected] : edits) {
+        page.ShowPen(0);
+        for (const auto& [row, keys] : typed)
+            type(row, keys);
+        EXPECT_EQ(rows(), expected) << says;
+    }
+}
+
 TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     open();
     type(0, "1,2e,3\b4");
     EXPECT_EQ(box(0).text(), "1.24");
-    EXPECT_EQ(QToolTip::text(), "There is a point already");
+    auto& hint = *box(0).findChild<QLabel*>("lblHint");
+    EXPECT_EQ(hint.text(), "There is a point already");
     QTest::mouseDClick(&box(0), Qt::LeftButton);
     EXPECT_EQ(box(0).selectedText(), "1.24");
     box(0).deselect();
     paste(1, "1,5");
     EXPECT_EQ(box(1).text(), "1.5") << "never 15";
     QKeyEvent deleteKey(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f");
+    box(0).setFocus();
     box(0).setCursorPosition(0);
     QApplication::sendEvent(&box(0), &deleteKey);
     QInputMethodEvent composed;
     composed.setCommitString("2-5");
     QApplication::sendEvent(&box(0), &composed);
     EXPECT_EQ(box(0).text(), ".24");
-    QTRY_COMPARE(QToolTip::text(), "Only digits and the point");
+    EXPECT_EQ(hint.text(), "Only digits and the point");
+    EXPECT_TRUE(hint.testAttribute(Qt::WA_TransparentForMouseEvents) &&
+                hint.windowFlags().testFlag(Qt::WindowTransparentForInput));
+    for (const auto* control : page.findChildren<QWidget*>())
+        if (control->isVisible() && control->focusPolicy() != Qt::NoFocus) {
+            const QRect area(control->mapToGlobal(QPoint()), control->size());
+            EXPECT_FALSE(hint.geometry().intersects(area)) << control->objectName().toStdString();
+        }
+    box(1).setFocus();
+    EXPECT_FALSE(hint.isVisible());
 }
 
 TEST_F(PenPageTest, LeavingABoxMeansGoingToAnotherControl) {
