@@ -18,7 +18,7 @@ SavedGroup savedGroup(const Settings& settings, const ToolList& tools) {
     return {hasTool ? toolAt(tools, settings.intTool).intNumber : std::int16_t{0}, settings};
 }
 
-// The tool's place in the list, or 0. A list that was not loaded to its end has no more tools.
+// The tool's place in the list, or 0.
 std::int16_t placeOfTool(std::int16_t number, const ToolList& tools, Logger& logger) {
     std::int16_t place = 0;
     withQuietErrorTrap(logger, {"intToolGetId", "modHpgl"},
