@@ -2,7 +2,6 @@
 #include "check/kinds.h"
 
 #include <array>
-#include <cstddef>
 
 namespace torvik::check {
 namespace {
@@ -119,7 +118,7 @@ constexpr bool isInOrder() {
     for (std::size_t i = 0; i < table.size(); ++i)
         if (static_cast<std::size_t>(table[i].kind) != i)
             return false;
-    return true;
+    return table.size() == kindCount;
 }
 static_assert(isInOrder(), "a kind's row is found by its place");
 
