@@ -13,7 +13,7 @@ Report checkProgram(std::string_view program, std::string_view sideText, const T
     Findings& findings = report.findings;
     report.target = target == nullptr ? recogniseTarget(program) : target;
     if (report.target == nullptr) {
-        findings.add(Kind::opening, 1, {"a line that one of the controls knows"});
+        findings.add(Kind::opening, 1, {"none of the controls knows it"});
         return report;
     }
     Program read = readProgram(*report.target, program, findings);

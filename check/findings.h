@@ -5,6 +5,7 @@
 
 #include "check/kinds.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -33,7 +34,7 @@ public:
 
 private:
     std::vector<Finding> m_kept;
-    std::vector<std::size_t> m_counts = std::vector<std::size_t>(kinds().size());
+    std::array<std::size_t, kindCount> m_counts{};
 };
 
 // The sentence of a finding (UTF-8).

@@ -2,7 +2,6 @@
 #include "check/kinds.h"
 
 #include <array>
-#include <cstddef>
 
 namespace torvik::check {
 namespace {
@@ -18,7 +17,8 @@ constexpr std::array table{
             "\"{1}\" is not a line that {2} programs have at this place."},
     KindRow{Kind::number, "number", Level::wrong,
             "\"{1}\" is not written as it should be: here a number looks like {2}."},
-    KindRow{Kind::opening, "opening", Level::wrong, "The program should begin with {1} here."},
+    KindRow{Kind::opening, "opening", Level::wrong,
+            "The beginning of the program is not right: {1}."},
     KindRow{Kind::ending, "ending", Level::wrong, "The end of the program is not right: {1}."},
     KindRow{Kind::comment, "comment", Level::wrong,
             "A bracket stands inside this comment, or it does not close. The machine may take the "
@@ -118,7 +118,7 @@ constexpr bool isInOrder() {
     for (std::size_t i = 0; i < table.size(); ++i)
         if (static_cast<std::size_t>(table[i].kind) != i)
             return false;
-    return true;
+    return table.size() == kindCount;
 }
 static_assert(isInOrder(), "a kind's row is found by its place");
 

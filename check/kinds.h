@@ -3,6 +3,7 @@
 // table is the only place where the sentences stand.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -64,6 +65,8 @@ enum class Kind : std::uint8_t {
     holeDiffers,
     holeTwice,
 };
+
+inline constexpr std::size_t kindCount = static_cast<std::size_t>(Kind::holeTwice) + 1;
 
 struct KindRow {
     Kind kind;

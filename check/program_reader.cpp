@@ -41,8 +41,9 @@ private:
         const std::string_view pattern = target().openingLines[m_openingLine];
         const auto place = pattern.find('#');
         const std::string shown = '"' + shownText(pattern.substr(0, place)) + '"';
-        m_findings.add(Kind::opening, line,
-                       {place == pattern.npos ? shown : shown + " and the program number"});
+        m_findings.add(
+            Kind::opening, line,
+            {(place == pattern.npos ? shown : shown + " and the program number") + " is missing"});
     }
 
     bool isComment(const Line& line) const {

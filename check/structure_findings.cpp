@@ -45,7 +45,7 @@ private:
                 continue;
             }
             m_findings.add(Kind::opening, isThere ? m_statements[at].line : m_lastLine,
-                           {quoted(meaning)});
+                           {quoted(meaning) + " is missing"});
             if (!isThere || !isOneOf(m_target.opening, m_statements[at].meaning))
                 break;
         }
