@@ -15,20 +15,21 @@ namespace {
 // What some editors put before a text in UTF-8.
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-// The answers in the file where they are the drawing's: then the outcome is "taken". Raises
-// FileError for a file that cannot be read or understood.
-SavedOutcome readAnswers(const Job& job, const std::filesystem::path& file, SavedAnswers& answers) {
-    std::error_code unknown;
-    if (std::filesystem::status(file, unknown).type() == std::filesystem::file_type::not_found)
-        return SavedOutcome::none;
-    const std::string bytes = readWholeFile(file, maxSavedBytes);
-    std::string_view text = bytes;
+// The answers in a file's text where they are the drawing's: then the outcome is "taken". Raises
+// FileError for what cannot be understood.
+SavedOutcome understand(std::string_view text, const Job& job, const std::filesystem::path& file,
+                        SavedAnswers& answers) {
     if (text.starts_with(byteOrderMark))
         text.remove_prefix(byteOrderMark.size());
     if (!text.empty() && savedDigest(text) != job.drawing.gstrDigest)
         return SavedOutcome::digestDiffers;
     answers = parseAnswers(text, answersShape(job), utf8FromPath(file));
     return SavedOutcome::taken;
+}
+
+bool isMissing(const std::filesystem::path& file) {
+    std::error_code unknown;
+    return std::filesystem::status(file, unknown).type() == std::filesystem::file_type::not_found;
 }
 
 } // namespace
@@ -45,8 +46,10 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
     withQuietErrorTrap(logger, {"GetSavedData", "modHpgl"}, [&] {
         try {
             job.answers.gstrSavedFile = utf8FromPath(file);
+            if (isMissing(file))
+                return;
             SavedAnswers answers;
-            data.outcome = readAnswers(job, file, answers);
+            data.outcome = understand(readWholeFile(file, maxSavedBytes), job, file, answers);
             if (data.outcome != SavedOutcome::taken)
                 return;
             takeAnswers(job, std::move(answers), tools, logger);
@@ -60,9 +63,12 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
 }
 
 bool isDamaged(const Job& job, const std::filesystem::path& file) {
+    if (isMissing(file))
+        return false;
+    const std::string text = readWholeFile(file, maxSavedBytes);
     try {
         SavedAnswers answers;
-        readAnswers(job, file, answers);
+        understand(text, job, file, answers);
         return false;
     } catch (const RunTimeError&) {
         return true;

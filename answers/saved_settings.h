@@ -35,6 +35,7 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
                            Logger& logger);
 
 // Whether the file, which need not exist, holds answers for the job's drawing that cannot be used.
+// Raises FileError where it cannot be read.
 bool isDamaged(const Job& job, const std::filesystem::path& file);
 
 } // namespace torvik

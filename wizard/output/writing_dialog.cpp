@@ -15,6 +15,7 @@ WritingDialog::WritingDialog(std::int64_t lines, QWidget* parent) : QProgressDia
     auto* const cancel = new QPushButton(tr("Cancel"));
     cancel->setObjectName(QStringLiteral("cmdCancel"));
     cancel->setToolTip(tr("End the writing; nothing of the program is kept"));
+    setCancelButton(nullptr); // with the first button goes its Escape; two would do nothing
     setCancelButton(cancel);
     setAutoReset(false);
     setAutoClose(false);
