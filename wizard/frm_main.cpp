@@ -68,6 +68,18 @@ QScrollArea* scrolling(QWidget* page) {
     return area;
 }
 
+// An access key presses its button at once. Left alone it does so a tenth of a second later, when
+// Enter may have led on and the same button stands on the next page. False where it is no such key.
+bool pressByAccessKey(QObject* watched, const QShortcutEvent& event) {
+    auto* const button = qobject_cast<QAbstractButton*>(watched);
+    if (button == nullptr || event.isAmbiguous() || event.key() != button->shortcut())
+        return false;
+    if (button->isCheckable())
+        button->setFocus(Qt::ShortcutFocusReason);
+    button->click();
+    return true;
+}
+
 bool isPlotFile(const QString& name) {
     return name.endsWith(u".plt", Qt::CaseInsensitive);
 }
@@ -214,6 +226,8 @@ void FrmMain::showHelpFor(const QWidget* control) {
 }
 
 bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Shortcut)
+        return pressByAccessKey(watched, *static_cast<QShortcutEvent*>(event));
     if (event->type() == QEvent::KeyPress && isActiveWindow() &&
         QApplication::activeModalWidget() == nullptr &&
         QApplication::activePopupWidget() == nullptr) {
