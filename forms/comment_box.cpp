@@ -20,10 +20,10 @@ void sayLostLetters(QLineEdit& box, const QString& text) {
         return;
     box.setProperty(saidProperty, lost);
     if (!lost.isEmpty())
-        showHintBeside(box, QCoreApplication::translate("CommentBox",
-                                                        "A program cannot hold %1, so ? will "
-                                                        "stand there instead")
-                                .arg(lost));
+        SideHint::showBeside(box, QCoreApplication::translate("CommentBox",
+                                                              "A program cannot hold %1, so ? will "
+                                                              "stand there instead")
+                                      .arg(lost));
 }
 
 } // namespace
@@ -47,10 +47,10 @@ void mendComment(QLineEdit& box) {
     box.setText(text);
     box.setCursorPosition(cursor);
     if (hasBrackets)
-        SideHint::showBeside(box, QCoreApplication::translate(
-                                "CommentBox",
-                                "Round brackets would end a comment in the program, so they are "
-                                "written as [ and ]"));
+        SideHint::showBeside(
+            box, QCoreApplication::translate(
+                     "CommentBox", "Round brackets would end a comment in the program, so they are "
+                                   "written as [ and ]"));
 }
 
 } // namespace torvik
