@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 class SingleInstanceTest : public AppTest {
 protected:
     fs::path sub(const char* name, mode_t mode) const {
-        const fs::path made = home.path() / name;
+        fs::path made = home.path() / name;
         fs::create_directory(made);
         ::chmod(made.c_str(), mode);
         return made;
