@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "check/check.h"
 
-#include "check/finders.h"
 #include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
 
 namespace torvik::check {
 
-Report checkProgram(std::string_view program, std::string_view sideText, const Target* target) {
+Report checkProgram(std::string_view program, std::string_view sideText, const Target* target,
+                    const FindMore& findMore) {
     Report report;
     Findings& findings = report.findings;
     report.target = target == nullptr ? recogniseTarget(program) : target;
@@ -25,6 +25,8 @@ Report checkProgram(std::string_view program, std::string_view sideText, const T
     for (const auto find : {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs,
                             findBillet, findPasses, findHoles})
         find(walked, findings);
+    if (findMore)
+        findMore(walked, findings);
     report.summary = summaryOf(moves);
     return report;
 }
