@@ -183,6 +183,12 @@ void Comparison::compare() {
     ++m_j;
 }
 
+// The line of a move on the way, of the item behind the last one.
+std::uint32_t Comparison::lineAt(std::size_t place) const {
+    const MoveSpan way = m_done.wayTo(m_j);
+    return place < way.size() ? way[place]->line : m_done.lineOf(m_j);
+}
+
 void Comparison::compareWay(const AskedItem& item) {
     const Move& first = m_done.first(m_j);
     const MoveSpan done = m_done.wayTo(m_j);
@@ -201,8 +207,7 @@ void Comparison::compareWay(const AskedItem& item) {
     if (!isThere)
         compareHeight(item, difference);
     else if (!difference.isNone() && !m_isAfterFault)
-        m_findings.otherWay(item.group, difference,
-                            difference.done.empty() ? first.line : difference.done[0]->line);
+        m_findings.otherWay(item.group, difference, lineAt(difference.place));
     if (isThere)
         m_otherZ = unknown;
 }
@@ -253,9 +258,7 @@ void Comparison::compareEnd() {
     m_way.finish();
     const Difference difference = differenceOf(m_way.moves(), m_done.wayTo(m_j));
     if (!difference.isNone() && !m_isAfterFault)
-        m_findings.otherWay(nullptr, difference,
-                            difference.done.empty() ? m_done.lineOf(m_j)
-                                                    : difference.done[0]->line);
+        m_findings.otherWay(nullptr, difference, lineAt(difference.place));
 }
 
 } // namespace torvik::check

@@ -40,6 +40,7 @@ private:
     void endAdded();
 
     void compare();
+    std::uint32_t lineAt(std::size_t place) const;
     void compareWay(const AskedItem& item);
     void compareHeight(const AskedItem& item, const Difference& way);
     void compareCut(const AskedItem& item);
