@@ -8,7 +8,7 @@
 namespace torvik::check {
 
 Report checkProgram(std::string_view program, std::string_view sideText, const Target* target,
-                    const FindMore& findMore) {
+                    const FindPlan& findPlan) {
     Report report;
     Findings& findings = report.findings;
     report.target = target == nullptr ? recogniseTarget(program) : target;
@@ -22,11 +22,15 @@ Report checkProgram(std::string_view program, std::string_view sideText, const T
     const Moves moves = walk(read);
     findStructure(read, findings);
     const Walked walked{read, moves, learnHeights(moves)};
-    for (const auto find : {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs,
-                            findBillet, findPasses, findHoles})
+    for (const auto find :
+         {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs, findBillet})
         find(walked, findings);
-    if (findMore)
-        findMore(walked, findings);
+    if (findPlan) {
+        findPlan(walked, findings);
+    } else {
+        findPasses(walked, findings);
+        findHoles(walked, findings);
+    }
     report.summary = summaryOf(moves);
     return report;
 }

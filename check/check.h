@@ -18,10 +18,11 @@ struct Report {
 };
 
 // `sideText` is the text beside a diskette program, empty where there is none. Without a target the
-// text's own beginning tells it. `findMore` may look at the program, too, where a target is known.
-// Raises nothing of its own for any bytes.
-using FindMore = std::function<void(const Walked& walked, Findings& findings)>;
+// text's own beginning tells it. `findPlan`, where one is given, lays the program beside a job;
+// that takes the place of what only guesses at passes and holes. Raises nothing of its own for any
+// bytes.
+using FindPlan = std::function<void(const Walked& walked, Findings& findings)>;
 Report checkProgram(std::string_view program, std::string_view sideText = {},
-                    const Target* target = nullptr, const FindMore& findMore = {});
+                    const Target* target = nullptr, const FindPlan& findPlan = {});
 
 } // namespace torvik::check

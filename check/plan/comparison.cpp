@@ -41,12 +41,12 @@ void Comparison::run() {
     compareEnd();
     for (const Gap& gap : m_gaps)
         if (gap.first < gap.end)
-            m_findings.lost(gap.first, gap.end, gap.at);
+            m_findings.lost(gap.first, gap.end, gap.line);
 }
 
 void Comparison::meetAgain() {
     if (!hasDone()) {
-        m_gaps.push_back({m_i, m_isInGap ? m_gapEnd : m_asked.size(), m_j});
+        m_gaps.push_back({m_i, m_isInGap ? m_gapEnd : m_asked.size(), lineAt(0)});
         m_i = m_gaps.back().end;
         m_isAfterFault = true;
         return;
@@ -68,7 +68,7 @@ bool Comparison::passOver(bool isAlike) {
     const bool isExchanged = !isAlike && fitsAt(m_i, m_j + 1);
     if (!goesOn && !isExchanged)
         return false;
-    m_gaps.push_back({m_i, *later, m_j});
+    m_gaps.push_back({m_i, *later, lineAt(0)});
     m_i = *later;
     m_isAfterFault = true;
     return true;
@@ -86,8 +86,8 @@ bool Comparison::comeBack(bool isAlike) {
         std::size_t count = 1;
         while (*found + count < gap.end && fitsAt(*found + count, m_j + count))
             ++count;
-        const Gap rest{*found + count, gap.end, gap.at};
-        m_findings.moved(*found, *found + count, m_j);
+        const Gap rest{*found + count, gap.end, gap.line};
+        m_findings.moved(*found, *found + count, m_done.lineOf(m_j));
         gap.end = *found;
         m_goOnAt = m_i;
         m_i = *found;
@@ -154,7 +154,7 @@ void Comparison::endAdded() {
 void Comparison::takeForOther(bool isAlike) {
     const AskedItem item = m_asked.at(m_i);
     if (item.group->isDrilled != m_done.isHole(m_j)) {
-        m_gaps.push_back({m_i, m_i + 1, m_j});
+        m_gaps.push_back({m_i, m_i + 1, m_done.lineOf(m_j)});
         if (item.group->isDrilled)
             leaveOut(m_j + 1, false);
         else
@@ -163,7 +163,8 @@ void Comparison::takeForOther(bool isAlike) {
         m_isAfterFault = true;
         return;
     }
-    if (!isAlike && !item.group->isDrilled)
+    m_isOther = !isAlike && !item.group->isDrilled;
+    if (m_isOther)
         m_findings.otherCut(item, m_done.first(m_j));
     compare();
 }
@@ -178,7 +179,7 @@ void Comparison::compare() {
     m_nextGroup = std::max(m_nextGroup, item.groupNumber + 1);
     m_tool = item.group->tool;
     m_speed = item.group->speed;
-    m_isAfterFault = false;
+    m_isAfterFault = m_isOther = false;
     ++m_i;
     ++m_j;
 }
@@ -204,6 +205,7 @@ void Comparison::compareWay(const AskedItem& item) {
         m_way.prepare(m_asked.groups()[group]);
     m_way.goTo(item);
     const Difference difference = differenceOf(m_way.moves(), done);
+    m_isOther = m_isOther || !difference.isNone();
     if (!isThere)
         compareHeight(item, difference);
     else if (!difference.isNone() && !m_isAfterFault)
@@ -215,7 +217,8 @@ void Comparison::compareWay(const AskedItem& item) {
 // A cut at another height than asked for; the moves that led there need no finding of their own.
 void Comparison::compareHeight(const AskedItem& item, const Difference& way) {
     const Move& cut = m_done.first(m_j);
-    const bool isTold = m_done.wayTo(m_j).empty() && isSameNumber(cut.from.z, m_otherZ);
+    const MoveSpan done = m_done.wayTo(m_j);
+    const bool isTold = done.empty() && isSameNumber(cut.from.z, m_otherZ);
     m_otherZ = cut.from.z;
     if (isTold)
         return;
@@ -223,9 +226,11 @@ void Comparison::compareHeight(const AskedItem& item, const Difference& way) {
     if (std::any_of(way.asked.begin(), way.asked.end(), isChange) && !m_isAfterFault)
         m_findings.otherWay(item.group, way, cut.line);
     const Pen* pen = nullptr;
-    if (m_done.wayTo(m_j).empty() && item.beginsAtLast && m_i > 0)
+    if (done.empty() && item.beginsAtLast && m_i > 0)
         pen = m_asked.at(m_i - 1).group->pen;
-    m_findings.otherHeight(item, cut, pen == item.group->pen ? nullptr : pen);
+    const bool isLedThere = !done.empty() && done.back()->kind == MoveKind::feedHeight;
+    m_findings.otherHeight(item, cut.from.z, isLedThere ? done.back()->line : cut.line,
+                           pen == item.group->pen ? nullptr : pen);
 }
 
 void Comparison::compareCut(const AskedItem& item) {
@@ -235,7 +240,7 @@ void Comparison::compareCut(const AskedItem& item) {
     if (!isAskedFeed && !isSameNumber(cut.feed, m_otherFeed))
         m_findings.otherFeed(item.pass->feed, cut);
     m_otherFeed = isAskedFeed ? unknown : cut.feed;
-    if (cut.isArc() && item.isInFirstPass)
+    if (cut.isArc() && item.isInFirstPass && !m_isOther)
         m_findings.otherSweep(item, cut);
 }
 

@@ -21,7 +21,7 @@ private:
     struct Gap {
         std::size_t first;
         std::size_t end;
-        std::size_t at; // the item of the program that stands there
+        std::uint32_t line; // where they should stand in the program
     };
 
     bool hasAsked() const { return m_i < m_asked.size(); }
@@ -66,6 +66,7 @@ private:
     bool m_areRepeated = false;
 
     bool m_isAfterFault = false; // so that the way to here tells nothing new
+    bool m_isOther = false;      // the item, or the way to it, is another one than asked for
     std::size_t m_nextGroup = 0; // the first whose tool has not been asked for
     double m_tool = unknown;     // as asked for last
     double m_speed = unknown;

@@ -127,20 +127,20 @@ std::string PlanFindings::nameOf(const AskedGroup& group) const {
     return groupText(*group.pen, group.name.radius);
 }
 
-void PlanFindings::lost(std::size_t first, std::size_t end, std::size_t at) {
+void PlanFindings::lost(std::size_t first, std::size_t end, std::uint32_t line) {
     const AskedItem item = m_asked.at(first);
     const std::size_t count = end - first;
     const std::string what = item.group->isDrilled ? "hole" : "cut";
     const std::string where = pointText(item.element->end) +
                               (item.pass == nullptr ? "" : " at Z" + heightText(item.pass->z));
     const bool isOne = count == 1;
-    add(Kind::elementLost, m_done.lineOf(at),
+    add(Kind::elementLost, line,
         {(isOne ? "A " + what : formatInteger(static_cast<long>(count)) + " " + what + "s") +
              " of " + nameOf(*item.group) + (isOne ? " is" : " are"),
          (isOne ? "It should go to " : "The first should go to ") + where});
 }
 
-void PlanFindings::moved(std::size_t first, std::size_t end, std::size_t at) {
+void PlanFindings::moved(std::size_t first, std::size_t end, std::uint32_t line) {
     const AskedItem item = m_asked.at(first);
     const auto& groups = m_asked.groups();
     const bool areGroups =
@@ -149,9 +149,9 @@ void PlanFindings::moved(std::size_t first, std::size_t end, std::size_t at) {
              return group.first == end && group.size() > 0;
          }));
     if (areGroups)
-        add(Kind::groupOrder, m_done.lineOf(at), {nameOf(*item.group)});
+        add(Kind::groupOrder, line, {nameOf(*item.group)});
     else
-        add(Kind::elementOrder, m_done.lineOf(at), {theseText(end - first, item.group->isDrilled)});
+        add(Kind::elementOrder, line, {theseText(end - first, item.group->isDrilled)});
 }
 
 void PlanFindings::added(std::size_t first, std::size_t end, bool isRepeated) {
@@ -174,16 +174,17 @@ void PlanFindings::otherCut(const AskedItem& item, const Move& cut) {
          pointText(endsThere ? cut.centre : endOf(cut))});
 }
 
-void PlanFindings::otherHeight(const AskedItem& item, const Move& cut, const Pen* pen) {
+void PlanFindings::otherHeight(const AskedItem& item, double z, std::uint32_t line,
+                               const Pen* pen) {
     const double asked = item.pass->z;
-    const bool isDeeper = cut.from.z < asked;
+    const bool isDeeper = z < asked;
     const std::string advice =
         pen == nullptr || !isDeeper
             ? ""
             : " It begins where the " + pen->strColour + " lines end. In the order, move " +
                   item.group->pen->strColour + " before " + pen->strColour + ".";
-    add(isDeeper ? Kind::deeperThanAsked : Kind::shallowerThanAsked, cut.line,
-        {heightText(cut.from.z), nameOf(*item.group), heightText(asked), advice});
+    add(isDeeper ? Kind::deeperThanAsked : Kind::shallowerThanAsked, line,
+        {heightText(z), nameOf(*item.group), heightText(asked), advice});
 }
 
 void PlanFindings::otherFeed(double asked, const Move& done) {

@@ -14,9 +14,9 @@ public:
         : m_asked(asked), m_done(done), m_findings(findings) {}
 
     // Items of the job, from `first` to before `end`, that the program leaves out or brings later;
-    // `at` is the item of the program that stands there, or comes for them.
-    void lost(std::size_t first, std::size_t end, std::size_t at);
-    void moved(std::size_t first, std::size_t end, std::size_t at);
+    // `line` is where they should stand, or where they come.
+    void lost(std::size_t first, std::size_t end, std::uint32_t line);
+    void moved(std::size_t first, std::size_t end, std::uint32_t line);
     // Items of the program that the job does not ask for, or not a second time.
     void added(std::size_t first, std::size_t end, bool isRepeated);
 
@@ -24,7 +24,7 @@ public:
     void otherCut(const AskedItem& item, const Move& cut);
     // A cut at another height. `pen` is the one whose cut ended where this one begins and that made
     // it so deep, nullptr where there is none.
-    void otherHeight(const AskedItem& item, const Move& cut, const Pen* pen);
+    void otherHeight(const AskedItem& item, double z, std::uint32_t line, const Pen* pen);
     void otherFeed(double asked, const Move& done);
     // An arc that is longer or shorter than the drawing's.
     void otherSweep(const AskedItem& item, const Move& arc);

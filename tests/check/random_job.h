@@ -48,7 +48,7 @@ public:
     ToolList tools;
 
 private:
-    static constexpr std::int16_t toolCount = 6;
+    static constexpr std::int16_t toolCount = 3;
 
     // Plotter units, whole or with decimals as other programs write them.
     std::string unit(int low, int high) {
@@ -61,10 +61,8 @@ private:
         m_text += "SP" + std::to_string(pen) + ";";
         const bool isOfCircles = chance(3);
         for (int i = below(1, 6); i > 0; --i) {
-            if (!chance(4) || isOfCircles)
-                m_text += "PU" + point() + ";";
             if (isOfCircles)
-                m_text += "CI" + std::to_string(below(2, 4) * 40) + ";";
+                m_text += "PU" + point() + ";CI" + std::to_string(below(2, 4) * 40) + ";";
             else
                 drawChain();
         }
@@ -72,7 +70,8 @@ private:
 
     void drawChain() {
         const std::string start = point();
-        m_text += "PU" + start + ";";
+        if (!chance(3)) // else it goes on from where the last one ended
+            m_text += "PU" + start + ";";
         for (int i = below(1, 6); i > 0; --i) {
             if (chance(3))
                 m_text += "AA" + point() + "," + (chance(2) ? "-" : "") +
@@ -88,8 +87,8 @@ private:
 
     Settings randomSettings() {
         Settings settings;
-        settings.intTool = static_cast<std::int16_t>(below(1, toolCount));
-        settings.sngSpindleSpeed = static_cast<float>(below(1, 6) * 500);
+        settings.intTool = static_cast<std::int16_t>(chance(2) ? 1 : below(1, toolCount));
+        settings.sngSpindleSpeed = static_cast<float>(below(1, 3) < 3 ? 1000 : 1500);
         settings.sngFeedHorizontal = static_cast<float>(below(2, 60) * 30);
         settings.sngFeedFinalPass = chance(2) ? settings.sngFeedHorizontal / 2 : 0;
         settings.sngFeedVertical = static_cast<float>(below(2, 30) * 30);
