@@ -10,7 +10,7 @@ namespace torvik::check {
 namespace {
 
 // Of elements that are drawn many times at one place only so many are looked at.
-constexpr std::size_t mostAlike = 256;
+constexpr std::size_t mostAlike = 32;
 
 bool isSamePoint(Point a, Point b) {
     return isSameNumber(a.x, b.x) && isSameNumber(a.y, b.y);

@@ -108,6 +108,8 @@ void Comparison::returnFromGap() {
 
 // The program brings what it has brought before, and goes on behind it.
 bool Comparison::leaveOutRepeated() {
+    if (m_j < m_notRepeatedTo)
+        return false;
     const auto before = m_index.previous(m_done.first(m_j), m_i);
     if (!before)
         return false;
@@ -117,6 +119,8 @@ bool Comparison::leaveOutRepeated() {
     const bool goesOn = hasAsked() ? fitsAt(m_i, m_j + count) : m_j + count <= m_done.size();
     if (goesOn)
         leaveOut(m_j + count, true);
+    else
+        m_notRepeatedTo = m_j + count;
     return goesOn;
 }
 

@@ -64,6 +64,7 @@ private:
     std::size_t m_addedFrom = 0;
     std::size_t m_addedEnd = 0;
     bool m_areRepeated = false;
+    std::size_t m_notRepeatedTo = 0; // up to here it has been looked for in vain
 
     bool m_isAfterFault = false; // so that the way to here tells nothing new
     bool m_isOther = false;      // the item, or the way to it, is another one than asked for
