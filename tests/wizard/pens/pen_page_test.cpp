@@ -9,13 +9,13 @@ namespace {
 
 TEST_F(PenPageTest, UnitsFollowTheChoiceAndTheFormOfThePage) {
     open();
-    EXPECT_EQ(label("lblDet1"), "Horizontal Feed Rate for Cutting (mm/min)");
+    EXPECT_EQ(label("lblDet1"), "Horizontal Feed Rate for Cutting (mm/\u2060min)");
     EXPECT_TRUE(peck().isHidden());
     job.answers.gudtPens[2].blnDrill = true;
     useSeconds(true);
     page.ShowPen(1);
     page.ShowPen(1);
-    EXPECT_EQ(label("lblDet1") + label("lblUnit1"), "Drilling Feed Rate (mm/sec)mm/sec");
+    EXPECT_EQ(label("lblDet1") + label("lblUnit1"), "Drilling Feed Rate (mm/\u2060sec)mm/sec");
     EXPECT_EQ(box(1).property("helpContext").toInt(), 95);
     EXPECT_FALSE(peck().isHidden());
     EXPECT_EQ(option(0).text() + option(1).text(),
