@@ -2,6 +2,8 @@
 // The settings of a pen page, driven through its controls.
 #include "tests/wizard/pens/pen_page_fixture.h"
 
+#include <QScreen>
+
 #include <functional>
 
 namespace torvik {
@@ -97,6 +99,8 @@ TEST_F(PenPageTest, AnEditIsOneChange) {
 
 TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     open();
+    const QPoint corner = box(0).mapTo(&page, box(0).rect().bottomRight());
+    page.move(page.screen()->availableGeometry().right() - corner.x(), 0); // no room for a hint
     type(0, "1,2e,3\b4");
     EXPECT_EQ(box(0).text(), "1.24");
     auto& hint = *box(0).findChild<QLabel*>("lblHint");
