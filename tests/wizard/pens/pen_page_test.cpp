@@ -99,8 +99,8 @@ TEST_F(PenPageTest, AnEditIsOneChange) {
 
 TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     open();
-    const QPoint corner = box(0).mapTo(&page, box(0).rect().bottomRight());
-    page.move(page.screen()->availableGeometry().right() - corner.x(), 0); // no room for a hint
+    const int right = box(0).mapTo(&page, box(0).rect().bottomRight()).x() + 100;
+    page.move(page.screen()->availableGeometry().right() - right, 0); // no room beside the box
     type(0, "1,2e,3\b4");
     EXPECT_EQ(box(0).text(), "1.24");
     auto& hint = *box(0).findChild<QLabel*>("lblHint");
