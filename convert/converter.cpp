@@ -36,8 +36,10 @@ class Converter {
 public:
     Converter(const ConvertOptions& options, std::ostream& out, std::ostream& err)
         : m_options(options), m_out(out), m_err(err),
-          m_logger(logFile(programName),
-                   [this](const ErrorReport& report) { m_reported.emplace_back(report.cause); }) {}
+          m_logger(logFile(programName), [this](const ErrorReport& report) {
+              m_reported.emplace_back(report.cause);
+              m_isUnreadable = report.isUnreadable;
+          }) {}
 
     int run() {
         return runEach(
@@ -72,12 +74,20 @@ private:
         return reported.empty() ? std::string("the reason is in the log") : reported.back();
     }
 
+    // Why a drawing was not read, where that was reported.
+    Failure readingFailure(const std::filesystem::path& drawing) {
+        const std::string name = utf8FromPath(drawing);
+        const std::string cause = takeLastReport();
+        return {m_isUnreadable ? ExitCode::file : ExitCode::job,
+                cause.starts_with(name) ? cause : name + ": " + cause};
+    }
+
     void show(const std::filesystem::path& drawing) {
         requireReadable(drawing, maxDrawingBytes);
         Job job;
         const WaitingNotice notice = noticeFor({drawing});
         if (!readDrawing(job, drawing, m_logger))
-            throw Failure{ExitCode::job, takeLastReport()};
+            throw readingFailure(drawing);
         m_out << describeDrawing(job);
     }
 
@@ -155,7 +165,7 @@ private:
                        : importDrawing(job, drawing, m_tools, savedSettingsFolder(), m_logger);
         }();
         if (!result.imported)
-            throw Failure{ExitCode::job, takeLastReport()};
+            throw readingFailure(drawing);
         const std::string answers =
             m_options.answers ? utf8FromPath(*m_options.answers) : job.answers.gstrSavedFile;
         switch (result.saved.outcome) {
@@ -200,6 +210,7 @@ private:
     std::ostream& m_out;
     std::ostream& m_err;
     std::vector<std::string> m_reported;
+    bool m_isUnreadable = false; // the last of them
     Logger m_logger;
     ToolList m_tools;
     bool m_toolsLoaded = false;
