@@ -9,6 +9,7 @@
 #include "base/logger.h"
 #include "base/text.h"
 #include "commands/drawing_run.h"
+#include "commands/program_run.h"
 #include "commands/waiting.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
@@ -216,32 +217,13 @@ private:
     bool m_toolsLoaded = false;
 };
 
-int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
-    if (!options) {
-        err << programName << ": " << usageError << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (options->action == ConvertOptions::Action::help) {
-        out << helpText();
-        return static_cast<int>(ExitCode::done);
-    }
-    if (options->action == ConvertOptions::Action::version) {
-        out << programName << " " TORVIK_VERSION "\n";
-        return static_cast<int>(ExitCode::done);
-    }
-    return Converter(*options, out, err).run();
-}
-
 } // namespace
 
 int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(std::move(arguments), out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    return runProgram({programName, out, err}, options, usageError, helpText,
+                      [&] { return Converter(*options, out, err).run(); });
 }
 
 } // namespace torvik
