@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The state machine of the six steps, opening and closing, through the window's own controls.
 #include "tests/wizard/main_window_fixture.h"
+#include "tools/tool_edits.h"
+#include "tools/tool_store.h"
 
 #include <QDragEnterEvent>
 #include <QMenu>
