@@ -69,7 +69,7 @@ constexpr int twoForEachTool(int tool) {
     return 2 * tool - 1;
 }
 
-constexpr std::array<Target, 4> table{{
+constexpr std::array<Target, 4> targetRows{{
     {
         .name = "WinCAM",
         .optionName = "wincam",
@@ -159,7 +159,7 @@ constexpr std::array<Target, 4> table{{
 } // namespace
 
 std::span<const Target> targets() {
-    return table;
+    return targetRows;
 }
 
 std::span<const StatementForm> commonForms() {
