@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The locks of settings files, taken in two seconds or not at all. QSettings waits half a minute for
-// the lock of a program that died, and for ever for that of one that hangs, or one whose file cannot
-// be removed: before it saves, ask isSettingsLockFree.
+// The locks of settings files, taken in two seconds or not at all. QSettings waits half a minute
+// for the lock of a program that died, and for ever for that of one that hangs, or one whose file
+// cannot be removed: before it saves, ask isSettingsLockFree.
 #pragma once
 
 #include <QtCore/QLockFile>
