@@ -33,8 +33,10 @@ void findSides(const char* axis, double low, double high, double size, Findings&
 Reach reachOf(const Job& job, const ToolList& tools) {
     Reach reach;
     for (const AskedGroup& asked : askedGroups(job, tools, orderOf(job.answers))) {
-        if (!asked.paths.empty())
-            reach.deepest = std::max(reach.deepest, asked.settings.sngDepth);
+        if (!asked.paths.empty() && asked.settings.sngDepth > reach.deepest) {
+            reach.deepest = asked.settings.sngDepth;
+            reach.deepestGroup = asked.group;
+        }
         for (const std::int16_t subscript : asked.paths) {
             const Path& path = job.drawing.gudtPaths[subscript];
             if (asked.isDrilled())
@@ -51,10 +53,13 @@ Billet billetOf(std::string_view length, std::string_view width, std::string_vie
 }
 
 void findBilletSense(const Job& job, const Reach& reach, const Billet& billet, Findings& findings) {
-    visitAsked(job, orderOf(job.answers),
-               [&](const MachinedGroup& group, const Settings& settings) {
-                   findDepthSense(job, group, settings, billet, findings);
-               });
+    if (reach.deepest > 0)
+        findDepthSense(job, reach.deepestGroup,
+                       job.answers.gudtSettings[reach.deepestGroup.settings], billet, findings);
+    findAreaSense(reach, billet, findings);
+}
+
+void findAreaSense(const Reach& reach, const Billet& billet, Findings& findings) {
     if (reach.area.empty())
         return;
     findSides("X", reach.area.minX, reach.area.maxX, billet.length, findings);

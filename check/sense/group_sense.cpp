@@ -59,9 +59,7 @@ private:
     void findCutter(const Tool& tool) {
         if (tool.strType == "Drill" || tool.strType == "Reamer")
             add(Kind::drillCuts, {m_name, tool.strType});
-        const float step = m_settings.sngDepthPerPass > 0
-                               ? std::min(m_settings.sngDepthPerPass, m_settings.sngDepth)
-                               : m_settings.sngDepth;
+        const float step = std::min(m_settings.sngDepthPerPass, m_settings.sngDepth);
         if (tool.sngDiameter > 0 && step > tool.sngDiameter)
             add(Kind::deepStep, {m_name, heightText(step), formatFixed(tool.sngDiameter, 2)});
     }

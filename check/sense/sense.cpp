@@ -19,12 +19,14 @@ Billet billetOfHeader(const Answers& answers) {
 void findSense(const Job& job, const ToolList& tools, Findings& findings) {
     const Answers& answers = job.answers;
     const std::vector<std::int16_t> order = orderOf(answers);
+    const Billet billet = billetOfHeader(answers);
     findHeightSense(answers.gsngToolChangeHeight, answers.gsngSafeHeight, answers.gsngRapidDownTo,
                     findings);
     visitAsked(job, order, [&](const MachinedGroup& group, const Settings& settings) {
+        findDepthSense(job, group, settings, billet, findings);
         findWorkSense(job, group, settings, toolOf(settings, tools), findings);
     });
-    findBilletSense(job, reachOf(job, tools), billetOfHeader(answers), findings);
+    findAreaSense(reachOf(job, tools), billet, findings);
     findOrderSense(job, tools, order, findings);
 }
 

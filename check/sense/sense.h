@@ -32,12 +32,13 @@ void findHeightSense(float toolChange, float safe, float rapidDown, Findings& fi
 struct Reach {
     torvik::Extents area = noExtents();
     float deepest = 0;
+    MachinedGroup deepestGroup{}; // which goes that deep
 };
 Reach reachOf(const Job& job, const ToolList& tools);
 
 // The billet as the header's three texts tell it.
 Billet billetOf(std::string_view length, std::string_view width, std::string_view depth);
-// The billet against what is machined.
+// The billet against what is machined; of the depths, the deepest alone.
 void findBilletSense(const Job& job, const Reach& reach, const Billet& billet, Findings& findings);
 
 // What depends on the order of the pens, which is given here; entries of 0 hold no pen.
