@@ -17,60 +17,83 @@ bool isWithin(const torvik::Extents& inner, const torvik::Extents& outer) {
 }
 
 struct Outline {
-    torvik::Extents box;
-    std::vector<Point> corners;
+    Chain chain;
     const AskedGroup* group;
-    bool covered = false; // a later one holds it, and all that it holds
-
-    bool holds(const torvik::Extents& inner, Point point) const {
-        return isWithin(inner, box) && isInside(corners, point);
-    }
+    std::vector<Point> corners{}; // empty until they are asked for
+    bool covered = false;         // a later one holds it, and all that it holds
 };
 
-// The outlines that were cut through so far, in upright stripes of the drawing, so that a look at a
-// place meets few of them. Of outlines in one another the outermost is kept.
+// The outlines that were cut through so far, in the cells of a grid over the drawing, so that a
+// look at a place meets few of them. Of outlines in one another the outermost is kept.
 class CutOutlines {
 public:
-    explicit CutOutlines(const torvik::Extents& area)
-        : m_left(area.minX), m_stripe(std::max(area.width() / stripeCount, clearance)) {}
+    CutOutlines(const Drawing& drawing, const torvik::Extents& area)
+        : m_drawing(drawing), m_area(area), m_width(std::max(area.width() / cellsASide, clearance)),
+          m_height(std::max(area.height() / cellsASide, clearance)) {}
 
-    void add(Outline outline) {
+    void add(const Chain& chain, const AskedGroup& group) {
         const auto number = static_cast<std::uint32_t>(m_outlines.size());
-        const auto [first, last] = stripesOf(outline.box);
-        for (std::size_t i = first; i <= last; ++i) {
-            std::erase_if(m_stripes[i], [&](std::uint32_t other) {
-                Outline& inner = m_outlines[other];
-                inner.covered = inner.covered || outline.holds(inner.box, inner.corners.front());
-                return inner.covered;
-            });
-            m_stripes[i].push_back(number);
-        }
-        m_outlines.push_back(std::move(outline));
+        m_outlines.push_back({chain, &group});
+        const torvik::Extents& box = chain.box;
+        const auto [left, bottom] = cellOf(box.minX, box.minY);
+        const auto [right, top] = cellOf(box.maxX, box.maxY);
+        for (std::size_t y = bottom; y <= top; ++y)
+            for (std::size_t x = left; x <= right; ++x)
+                add(m_cells[y * cellsASide + x], {box, number});
     }
 
     // The one that the chain lies in, nullptr where there is none.
-    const Outline* around(const Chain& chain) const {
-        for (const std::uint32_t number : m_stripes[stripesOf(chain.box).first])
-            if (m_outlines[number].holds(chain.box, chain.start))
-                return &m_outlines[number];
+    const Outline* around(const Chain& chain) {
+        const auto [x, y] = cellOf(chain.box.minX, chain.box.minY);
+        for (const Entry& entry : m_cells[y * cellsASide + x])
+            if (holds(entry, chain))
+                return &m_outlines[entry.number];
         return nullptr;
     }
 
 private:
-    static constexpr std::size_t stripeCount = 256;
+    static constexpr std::size_t cellsASide = 32;
 
-    std::pair<std::size_t, std::size_t> stripesOf(const torvik::Extents& box) const {
-        const auto at = [&](double x) {
-            return static_cast<std::size_t>(
-                std::clamp((x - m_left) / m_stripe, 0.0, double{stripeCount - 1}));
-        };
-        return {at(box.minX), at(box.maxX)};
+    struct Entry {
+        torvik::Extents box;
+        std::uint32_t number; // place in m_outlines
+    };
+    using Cell = std::vector<Entry>;
+
+    void add(Cell& cell, const Entry& entry) {
+        std::erase_if(cell, [&](const Entry& other) {
+            if (!isWithin(other.box, entry.box))
+                return false;
+            Outline& inner = m_outlines[other.number];
+            inner.covered = inner.covered || holds(entry, inner.chain);
+            return inner.covered;
+        });
+        cell.push_back(entry);
     }
 
-    double m_left;
-    double m_stripe; // width
+    bool holds(const Entry& entry, const Chain& chain) {
+        if (!isWithin(chain.box, entry.box))
+            return false;
+        Outline& outline = m_outlines[entry.number];
+        if (outline.corners.empty())
+            outline.corners = cornersOf(m_drawing, outline.chain);
+        return isInside(outline.corners, chain.start);
+    }
+
+    std::pair<std::size_t, std::size_t> cellOf(double x, double y) const {
+        const auto at = [](double distance, double size) {
+            return static_cast<std::size_t>(
+                std::clamp(distance / size, 0.0, double{cellsASide - 1}));
+        };
+        return {at(x - m_area.minX, m_width), at(y - m_area.minY, m_height)};
+    }
+
+    const Drawing& m_drawing;
+    torvik::Extents m_area;
+    double m_width; // of a cell
+    double m_height;
     std::vector<Outline> m_outlines;
-    std::array<std::vector<std::uint32_t>, stripeCount> m_stripes;
+    std::array<Cell, cellsASide * cellsASide> m_cells;
 };
 
 // A hole as a chain: it lies at its centre.
@@ -89,7 +112,7 @@ class EarlyOutlines {
 public:
     EarlyOutlines(const Job& job, const torvik::Extents& area, double billetDepth,
                   Findings& findings)
-        : m_job(job), m_billetDepth(billetDepth), m_findings(findings), m_cut(area) {}
+        : m_job(job), m_billetDepth(billetDepth), m_findings(findings), m_cut(job.drawing, area) {}
 
     void take(const AskedGroup& asked) {
         const Drawing& drawing = m_job.drawing;
@@ -102,7 +125,7 @@ public:
                 add(*outline->group, asked);
             }
             if (isThrough && chain.closed)
-                m_cut.add({chain.box, cornersOf(drawing, chain), &asked});
+                m_cut.add(chain, asked);
         }
     }
 
