@@ -9,7 +9,7 @@
 namespace torvik::check {
 namespace {
 
-constexpr double slowest = 1; // mm/min; what is slower is unusual
+constexpr double slowestFeed = 1; // mm/min; what is slower is unusual
 
 // The last three moves of one kind to one height. The one in the middle is odd where it has another
 // feed than the two beside it, which have one.
@@ -59,9 +59,9 @@ private:
             m_findings.add(Kind::feedMissing, move.line);
         else if (move.feed <= 0)
             m_findings.add(Kind::feedZero, move.line);
-        else if (move.feed < slowest || move.feed > fastestFeed)
+        else if (move.feed < slowestFeed || move.feed > fastestFeed)
             findOdd(move);
-        if (odd != nullptr && odd->feed >= slowest && odd->feed <= fastestFeed)
+        if (odd != nullptr && odd->feed >= slowestFeed && odd->feed <= fastestFeed)
             findOdd(*odd);
     }
 

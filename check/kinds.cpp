@@ -6,7 +6,7 @@
 namespace torvik::check {
 namespace {
 
-constexpr std::array table{
+constexpr std::array kindRows{
     // how it is written
     KindRow{Kind::lineEnd, "line-end", Level::wrong,
             "The line does not end with carriage return and line feed, or a control character "
@@ -151,21 +151,21 @@ constexpr std::array table{
 };
 
 constexpr bool isInOrder() {
-    for (std::size_t i = 0; i < table.size(); ++i)
-        if (static_cast<std::size_t>(table[i].kind) != i)
+    for (std::size_t i = 0; i < kindRows.size(); ++i)
+        if (static_cast<std::size_t>(kindRows[i].kind) != i)
             return false;
-    return table.size() == kindCount;
+    return kindRows.size() == kindCount;
 }
 static_assert(isInOrder(), "a kind's row is found by its place");
 
 } // namespace
 
 std::span<const KindRow> kinds() {
-    return table;
+    return kindRows;
 }
 
 const KindRow& rowOf(Kind kind) {
-    return table[static_cast<std::size_t>(kind)];
+    return kindRows[static_cast<std::size_t>(kind)];
 }
 
 std::string_view levelName(Level level) {

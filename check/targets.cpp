@@ -76,7 +76,7 @@ constexpr int twoForEachTool(int tool) {
     return 2 * tool - 1;
 }
 
-constexpr std::array<Target, 4> table{{
+constexpr std::array<Target, 4> targetRows{{
     {
         .name = "WinCAM",
         .optionName = "wincam",
@@ -166,14 +166,14 @@ constexpr std::array<Target, 4> table{{
 } // namespace
 
 std::span<const Target> targets() {
-    return table;
+    return targetRows;
 }
 
 const Target* targetNamed(std::string_view optionName) {
-    const auto row = std::find_if(table.begin(), table.end(), [&](const Target& target) {
+    const auto row = std::find_if(targetRows.begin(), targetRows.end(), [&](const Target& target) {
         return target.optionName == optionName;
     });
-    return row == table.end() ? nullptr : &*row;
+    return row == targetRows.end() ? nullptr : &*row;
 }
 
 std::span<const StatementForm> commonForms() {

@@ -177,3 +177,11 @@ INSTANTIATE_TEST_SUITE_P(
 
 } // namespace
 } // namespace torvik
+
+int main(int argc, char* argv[]) {
+    if (setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 0) == 0 &&
+        getenv("LD_PRELOAD") == nullptr && setenv("LD_PRELOAD", TORVIK_SHIM, 1) == 0)
+        execv("/proc/self/exe", argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -23,8 +23,6 @@ namespace torvik {
 namespace {
 
 constexpr std::string_view form = "frmToolData";
-constexpr const char* tagOk = "Ok";
-constexpr const char* tagCancel = "Cancel";
 
 } // namespace
 

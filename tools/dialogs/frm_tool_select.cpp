@@ -20,14 +20,14 @@
 namespace torvik {
 namespace {
 
-constexpr std::string_view form = "frmToolSelect";
+constexpr std::string_view selectForm = "frmToolSelect";
 constexpr int focusInterval = 50; // milliseconds
 
 } // namespace
 
 template <typename Work>
 void FrmToolSelect::trapped(std::string_view procedure, Work&& work) {
-    withErrorTrap(m_logger, {procedure, form}, std::forward<Work>(work));
+    withErrorTrap(m_logger, {procedure, selectForm}, std::forward<Work>(work));
 }
 
 FrmToolSelect::FrmToolSelect(ToolList& tools, Registry& registry, Logger& logger,
