@@ -28,7 +28,7 @@ namespace {
 
 constexpr int helpOrder = 4;
 constexpr int pictureSide = 24;
-constexpr int linesKept = 4;
+constexpr int linesKept = 5;
 
 std::int16_t penOf(const QLabel& label) {
     return toInt16(leadingNumber(label.property(tagProperty).toString().toStdString()));
