@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/header_page.h"
 
@@ -59,6 +60,29 @@ TEST_F(HeaderPageTest, DateDesignerNameAndMaterialMustBeFilled) {
                   asked.empty() ? "" : "Required information|48|Please enter the " + asked);
         EXPECT_TRUE(asked.empty() || box(wrong).hasFocus()) << asked;
     }
+}
+
+TEST_F(HeaderPageTest, ALineHoldsTheBilletAgainstWhatIsMachined) {
+    job = setUpDrawing("SP1;PU400,400;PD2800,2000;SP2;PD8000,0;");
+    job.answers.gudtPens[2].blnOmit = true;
+    job.answers.gudtSettings[1].sngDepth = 5;
+    page.fill();
+    const auto& line = *page.findChild<QuietLine*>("lblQuietHeader");
+    const QString reach = "The cuts reach from X 10.00 to 70.00 mm and from Y 10.00 to 50.00 mm, "
+                          "and go 5.00 mm deep.";
+    EXPECT_EQ(line.text(), reach);
+    QTest::keyClicks(&box(headerBilletX), "70");
+    QTest::keyClicks(&box(headerBilletY), "49");
+    QTest::keyClicks(&box(headerBilletZ), "1.5");
+    EXPECT_EQ(line.text(),
+              reach + "\nThe depth of the Black lines is 5.00 mm, but the billet is only 1.50 mm "
+                      "thick. The tool would cut the table."
+                      "\nThe drawing reaches Y50.000, outside the billet that lies from 0 to "
+                      "Y49.000.");
+    QTest::keyClicks(&box(headerBilletY), ".9");
+    QTest::keyClick(&box(headerBilletY), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&box(headerBilletY), "50");
+    EXPECT_EQ(line.text().count('\n'), 1);
 }
 
 TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnesAndBreaksBlanks) {

@@ -4,6 +4,7 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
+#include "forms/quiet_line.h"
 #include "wizard/pens/pen_diagram.h"
 #include "wizard/pens/pen_words.h"
 
@@ -171,6 +172,8 @@ void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
                                             tr("The circles are drilled as holes. The next pages "
                                                "ask for the details of each hole size."));
     layout.addWidget(controls.holesFollow);
+    controls.quiet = new QuietLine(QStringLiteral("lblQuietPen"));
+    layout.addWidget(controls.quiet);
 }
 
 void setTabOrder(const PenControls& controls) {
@@ -201,7 +204,10 @@ PenControls makePenControls(QWidget& page) {
     outer->addStretch(1);
 
     auto* layout = new QVBoxLayout(content);
-    layout->setSpacing(12);
+    layout->setSpacing(10);
+    QMargins margins = layout->contentsMargins();
+    margins.setBottom(0); // on a small screen the last lines need the room
+    layout->setContentsMargins(margins);
     makeHead(controls, *content, *layout);
     makeToolPanel(controls, *content, *layout);
     makeRows(controls, *content, *layout);

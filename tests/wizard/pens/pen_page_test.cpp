@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The settings of a pen page, driven through its controls.
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 
 #include <QScreen>
@@ -61,6 +62,40 @@ TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
     useSeconds(true);
     type(1, "10.00");
     EXPECT_EQ(box(2).text(), "2.50");
+}
+
+TEST_F(PenPageTest, ALineSaysWhatIsMissingAndWhatMakesNoSense) {
+    open();
+    job.answers.gstrHeader[headerBilletZ] = "5";
+    const auto said = [this] {
+        return page.findChild<QuietLine*>("lblQuietPen")->text().toStdString();
+    };
+    EXPECT_EQ(said(), "Choose above what is to be done with the Black lines");
+    choose(0);
+    EXPECT_EQ(said(), "Choose a tool");
+    page.SetTool(2);
+    EXPECT_EQ(said(),
+              "Spindle Speed is empty\nA Drill cannot cut the Black lines: it is made to go "
+              "straight down and breaks on its way sideways.");
+    page.SetTool(1);
+    fill({"12000", "600", "150", "9"});
+    const std::string deep = "The depth of the Black lines is 9.00 mm, but the billet is only 5.00 "
+                             "mm thick. The tool would cut the table.";
+    EXPECT_EQ(said(), "Maximum Depth per Pass is empty\n" + deep);
+    type(4, "3");
+    EXPECT_EQ(said(), deep);
+    choose(1);
+    EXPECT_EQ(said(), "");
+    job.answers.gudtPens[2].blnDrill = true;
+    page.ShowPen(1);
+    page.ShowPen(1);
+    page.SetTool(1); // too wide, as is told beside the tool
+    peck().click();
+    EXPECT_EQ(said(), "Spindle Speed is empty");
+    fill({"2000", "100", "4", "0"});
+    EXPECT_EQ(said(), "Peck Distance is empty");
+    peck().click();
+    EXPECT_EQ(said(), "");
 }
 
 TEST_F(PenPageTest, AnEditIsOneChange) {
