@@ -71,7 +71,7 @@ void CutCanvas::workEnded() {
         return;
     }
     m_billet = m_work->billet();
-    m_shades = CutShades(m_work->whole(), m_billet);
+    m_shades = CutShades(m_work->whole(), m_work->cuts(), m_billet);
     const sweep::Grid& grid = m_work->whole().grid;
     m_view.setWhole({grid.lowX, grid.lowY, grid.columns * grid.cell, grid.rows * grid.cell});
     emit shadesChanged();

@@ -53,8 +53,9 @@ QWidget* CutPicture::makeStrip() {
     column->setSpacing(0);
     column->addWidget(m_caption);
     column->addWidget(m_legend, 1);
-    column->addWidget(makeZoomButtons());
-    strip->setFixedWidth(std::max(m_legend->stripWidth(), strip->sizeHint().width()));
+    auto* const buttons = makeZoomButtons();
+    column->addWidget(buttons);
+    strip->setFixedWidth(std::max(m_legend->stripWidth(), buttons->sizeHint().width()));
     return strip;
 }
 

@@ -25,42 +25,46 @@ std::int32_t plain(QRgb colour) { // 0x00BBGGRR
 
 } // namespace
 
-CutShades::CutShades(const sweep::Field& whole, const CutBillet& billet) {
+CutShades::CutShades(const sweep::Field& whole, const sweep::Cuts& cuts, const CutBillet& billet) {
     if (billet.depth > 0)
         m_through = static_cast<std::uint32_t>(
             std::fmin(std::round(billet.depth * sweep::depthsPerMm), 0x10000));
     std::vector<bool> occurs(0x10000);
     for (const std::uint16_t depth : whole.depths)
         occurs[depth] = true;
-    for (std::size_t depth = 1; depth < occurs.size(); ++depth) {
-        if (!occurs[depth])
-            continue;
-        if (isThrough(static_cast<std::uint16_t>(depth)))
+    for (std::uint32_t depth = 1; depth < occurs.size(); ++depth) {
+        if (occurs[depth] && depth >= m_through)
             m_hasThrough = true;
-        else
+        else if (occurs[depth])
             m_depths.push_back(static_cast<std::uint16_t>(depth));
     }
-    if (m_depths.empty())
+    fillColours(cuts);
+}
+
+// All depths that are seen while the cut grows have their own shade, deepest and darkest the one
+// that just goes through.
+void CutShades::fillColours(const sweep::Cuts& cuts) {
+    if (cuts.empty())
         return;
-    m_deepest = m_depths.back();
-    // While the cut grows there are depths between, too.
-    m_colours.resize(m_deepest + std::size_t{1});
+    const auto [low, high] =
+        std::minmax_element(cuts.begin(), cuts.end(), [](const sweep::Cut& a, const sweep::Cut& b) {
+            return a.depth < b.depth;
+        });
+    const auto deepest =
+        static_cast<std::uint16_t>(std::min<std::uint32_t>(high->depth, m_through));
+    const std::uint16_t shallowest = std::min(low->depth, deepest);
+    m_colours.resize(deepest + std::size_t{1});
     for (std::size_t depth = 0; depth < m_colours.size(); ++depth) {
-        const auto within =
-            std::clamp(static_cast<std::uint16_t>(depth), m_depths.front(), m_deepest);
+        const float shown = millimetres(std::max(static_cast<std::uint16_t>(depth), shallowest));
         m_colours[depth] =
-            colourOf(lngPlotColour(millimetres(within), millimetres(m_depths.front()),
-                                   millimetres(m_deepest)))
-                .rgb();
+            colourOf(lngPlotColour(shown, millimetres(shallowest), millimetres(deepest))).rgb();
     }
 }
 
 QRgb CutShades::colour(std::uint16_t depth) const {
     if (depth == 0)
         return surface;
-    if (m_colours.empty())
-        return 0xFFC0C0C0;
-    return m_colours[std::min(depth, m_deepest)];
+    return m_colours[std::min<std::size_t>(depth, m_colours.size() - 1)];
 }
 
 QRgb CutShades::rim(std::uint16_t depth) const {

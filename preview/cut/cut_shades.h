@@ -5,6 +5,7 @@
 
 #include "preview/cut/cut_piece.h"
 #include "preview/legend.h"
+#include "sweep/cuts.h"
 #include "sweep/field.h"
 
 #include <QColor>
@@ -14,12 +15,17 @@ namespace torvik {
 class CutShades {
 public:
     CutShades() = default;
-    CutShades(const sweep::Field& whole, const CutBillet& billet);
+    CutShades(const sweep::Field& whole, const sweep::Cuts& cuts, const CutBillet& billet);
 
     // 1/100 mm.
-    QRgb colour(std::uint16_t depth) const;
-    QRgb rim(std::uint16_t depth) const; // the dark edge of what is so deep
+    QRgb colour(std::uint16_t depth) const; // of one that the cuts leave, or 0
+    QRgb rim(std::uint16_t depth) const;    // the dark edge of what is so deep
     bool isThrough(std::uint16_t depth) const { return depth >= m_through; }
+
+    // As deep as it looks: all that goes through looks the same.
+    std::uint16_t seen(std::uint16_t depth) const {
+        return isThrough(depth) ? static_cast<std::uint16_t>(m_through) : depth;
+    }
 
     std::vector<Legend::Row> legend() const;
 
@@ -28,10 +34,11 @@ public:
     static constexpr QRgb hole = 0xFFFFFFFF; // between the hatching
 
 private:
+    void fillColours(const sweep::Cuts& cuts);
+
     std::vector<std::uint16_t> m_depths; // all that occur, ascending, but those that go through
     std::vector<QRgb> m_colours;         // by depth
-    std::uint16_t m_deepest = 0;
-    std::uint32_t m_through = 0x10000; // from here on: through
+    std::uint32_t m_through = 0x10000;   // from here on: through
     bool m_hasThrough = false;
 };
 

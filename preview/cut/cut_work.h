@@ -31,6 +31,7 @@ public:
 
     // Only when it is ready.
     const sweep::Field& whole() const { return m_growth->whole(); }
+    const sweep::Cuts& cuts() const { return m_growth->cuts(); }
     const sweep::Field& moment() const { return m_growth->field(); }
     void showMoment(Moment moment) { m_growth->show(moment.move, moment.fraction); }
     // The billet, or where it is not known what is cut.

@@ -54,13 +54,14 @@ void FieldPainter::shade(QRgb* line, int y, int height, int rim, const CutShades
     };
     for (int x = 0; x < width; ++x) {
         const std::uint16_t depth = depthAt(x, y);
+        const std::uint16_t edge = shades.seen(depth);
         const bool inside = isBillet && m_columns[static_cast<std::size_t>(x)].isBillet;
         if (depth == 0) {
             line[x] = inside ? CutShades::surface : table;
             continue;
         }
-        const bool isEdge = depthAt(x - rim, y) < depth || depthAt(x + rim, y) < depth ||
-                            depthAt(x, y - rim) < depth || depthAt(x, y + rim) < depth;
+        const bool isEdge = depthAt(x - rim, y) < edge || depthAt(x + rim, y) < edge ||
+                            depthAt(x, y - rim) < edge || depthAt(x, y + rim) < edge;
         QRgb colour = shades.colour(depth);
         if (isEdge)
             colour = shades.rim(depth);

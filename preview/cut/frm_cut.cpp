@@ -20,7 +20,7 @@
 namespace torvik {
 namespace {
 
-constexpr int listWidth = 280; // pixels
+constexpr int listWidth = 360; // pixels
 
 } // namespace
 
@@ -32,6 +32,7 @@ FrmCut::FrmCut(std::shared_ptr<CutWork> work, QWidget* parent)
     setWindowTitle(name.isEmpty() ? tr("The piece") : tr("The piece – %1").arg(name));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_tabs->setObjectName(QStringLiteral("tabCut"));
+    m_picture->setFrameShape(QFrame::NoFrame);
     m_tabs->addTab(m_picture, tr("&Picture"));
     m_tabs->addTab(m_solid, tr("&Solid"));
 
@@ -49,7 +50,7 @@ FrmCut::FrmCut(std::shared_ptr<CutWork> work, QWidget* parent)
     column->addWidget(split, 1);
     column->addWidget(m_play);
     column->addWidget(buttons);
-    resize(1040, 680);
+    resize(1120, 700);
 
     m_picture->canvas().showMoment(true);
     m_solid->showMoment(true);
@@ -98,6 +99,8 @@ void FrmCut::showAt(double seconds) {
         m_list->showLine(move.line);
     } else {
         m_picture->canvas().setTool({});
+        if (!piece.moves.empty())
+            m_list->showLine(piece.moves.back().line);
     }
     m_picture->canvas().momentChanged();
     m_solid->momentChanged();

@@ -2,11 +2,12 @@
 #include "preview/cut/play_bar.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 
@@ -20,10 +21,29 @@ constexpr int frameTime = 25;       // ms
 constexpr int sliderSteps = 10'000; // over the whole program
 constexpr double wholeShow = 40;    // seconds in which the first speed shows all of it
 constexpr int fastest = 1024;
+constexpr int iconSize = 16; // pixels
 
 QString clockText(double seconds) {
     const auto whole = static_cast<int>(std::lround(seconds));
     return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
+}
+
+// A triangle, or two bars. In the ink of the theme, which the icons of a style may not have.
+QIcon playIcon(const QColor& ink, bool isPlaying, double ratio) {
+    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    if (isPlaying) {
+        painter.drawRect(QRectF(3, 2, 4, 12));
+        painter.drawRect(QRectF(9, 2, 4, 12));
+    } else {
+        painter.drawPolygon(QPolygonF({{4, 2}, {14, 8}, {4, 14}}));
+    }
+    return pixmap;
 }
 
 } // namespace
@@ -91,9 +111,15 @@ void PlayBar::play(bool on) {
 
 void PlayBar::showPlaying() {
     const bool on = isPlaying();
-    m_play->setIcon(style()->standardIcon(on ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    m_play->setIcon(playIcon(palette().color(QPalette::ButtonText), on, devicePixelRatioF()));
     m_play->setToolTip(on ? tr("Pause (Space)") : tr("Play (Space)"));
     m_play->setAccessibleName(on ? tr("Pause") : tr("Play"));
+}
+
+void PlayBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        showPlaying();
+    QWidget::changeEvent(event);
 }
 
 void PlayBar::goTo(double seconds) {

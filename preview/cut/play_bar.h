@@ -27,6 +27,9 @@ public:
     bool isPlaying() const;
     void play(bool on);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 signals:
     void moved(double seconds);
 

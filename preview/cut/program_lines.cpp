@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/program_lines.h"
 
-namespace torvik {
+#include <algorithm>
 
-void ProgramLines::setText(std::string_view text) {
+namespace torvik {
+namespace {
+
+constexpr std::size_t mostCharacters = 1000; // of a line that can be seen
+
+} // namespace
+
+void ProgramLines::setText(std::string_view text, QSize character) {
     beginResetModel();
     m_text = text;
     m_starts.assign(1, 0);
@@ -12,6 +19,11 @@ void ProgramLines::setText(std::string_view text) {
         at = feed == std::string_view::npos ? text.size() : feed + 1;
         m_starts.push_back(at);
     }
+    std::size_t longest = 0;
+    for (std::size_t i = 1; i < m_starts.size(); ++i)
+        longest = std::max(longest, m_starts[i] - m_starts[i - 1]);
+    m_rowSize = {character.width() * static_cast<int>(std::min(longest, mostCharacters) + 1),
+                 character.height()};
     endResetModel();
 }
 
@@ -29,7 +41,11 @@ std::string_view ProgramLines::line(int row) const {
 }
 
 QVariant ProgramLines::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= rowCount())
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    if (role == Qt::SizeHintRole)
+        return m_rowSize;
+    if (role != Qt::DisplayRole)
         return {};
     const std::string_view text = line(index.row());
     return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));

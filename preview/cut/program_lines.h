@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QSize>
 
 #include <string_view>
 #include <vector>
@@ -14,7 +15,8 @@ public:
     explicit ProgramLines(QObject* parent = nullptr) : QAbstractListModel(parent) {}
 
     // The text (its bytes are Latin-1) must live as long as it is shown.
-    void setText(std::string_view text);
+    // `character` is how large one is in pixels: all rows are as wide as the longest line.
+    void setText(std::string_view text, QSize character);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -24,6 +26,7 @@ public:
 private:
     std::string_view m_text;
     std::vector<std::size_t> m_starts; // of each line, and the end of the text
+    QSize m_rowSize;
 };
 
 } // namespace torvik

@@ -15,7 +15,13 @@ ProgramList::ProgramList(QWidget* parent) : QListView(parent), m_lines(new Progr
     setBatchSize(10'000);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTextElideMode(Qt::ElideNone);
     setModel(m_lines);
+}
+
+void ProgramList::setText(std::string_view text) {
+    const QFontMetrics metrics(font());
+    m_lines->setText(text, {metrics.averageCharWidth(), metrics.lineSpacing()});
 }
 
 void ProgramList::showLine(std::uint32_t line) {
@@ -24,6 +30,7 @@ void ProgramList::showLine(std::uint32_t line) {
         return;
     m_isShowing = true;
     setCurrentIndex(m_lines->index(row));
+    scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter);
     m_isShowing = false;
 }
 

@@ -14,7 +14,7 @@ class ProgramList : public QListView {
 public:
     explicit ProgramList(QWidget* parent = nullptr);
 
-    void setText(std::string_view text) { m_lines->setText(text); }
+    void setText(std::string_view text);
     // Highlights a line, from 1, and brings it into sight. Tells nobody.
     void showLine(std::uint32_t line);
 

@@ -11,6 +11,7 @@ namespace {
 constexpr double unknownThickness = 2; // mm below the deepest cut
 constexpr int shadowReach = 3;         // cells
 constexpr float shadowDepth = 4;       // cells: so much deeper than its neighbours is darkest
+constexpr float flat = 0.01F;          // a slope that no cut leaves
 constexpr float darkest = 0.45F;
 constexpr float depthShade = 0.3F; // how much darker the deepest floor is than the surface
 constexpr int surfaceRed = 0xEE;
@@ -19,7 +20,7 @@ constexpr int surfaceBlue = 0xC2;
 
 QRgb shaded(float light) {
     const auto part = [light](int colour) {
-        return static_cast<int>(static_cast<float>(colour) * light);
+        return static_cast<int>(std::lround(static_cast<float>(colour) * light));
     };
     return qRgb(part(surfaceRed), part(surfaceGreen), part(surfaceBlue));
 }
@@ -41,8 +42,9 @@ void sumWindows(const float* from, float* to, int count, std::ptrdiff_t step) {
 SolidCells::SolidCells(const sweep::Field& field, const CutBillet& billet) {
     double cell = 1;
     takeDepths(field, billet, cell);
-    colourTops();
-    turnWalls();
+    const std::vector<float> sums = windowSums();
+    colourTops(sums);
+    turnWalls(sums);
 }
 
 void SolidCells::takeDepths(const sweep::Field& field, const CutBillet& billet, double& cell) {
@@ -79,14 +81,8 @@ void SolidCells::takeDepths(const sweep::Field& field, const CutBillet& billet, 
         heights[i] = std::max(-thickness, -static_cast<float>(depths[i] * unit));
 }
 
-float SolidCells::heightAt(int column, int row) const {
-    return heights[static_cast<std::size_t>(std::clamp(row, 0, rows - 1)) *
-                       static_cast<std::size_t>(columns) +
-                   static_cast<std::size_t>(std::clamp(column, 0, columns - 1))];
-}
-
-// Darker where it is deep, and at the foot of walls.
-void SolidCells::colourTops() {
+// Heights over a window round each cell, summed.
+std::vector<float> SolidCells::windowSums() const {
     std::vector<float> across(heights.size());
     std::vector<float> sums(heights.size());
     for (int row = 0; row < rows; ++row) {
@@ -95,6 +91,11 @@ void SolidCells::colourTops() {
     }
     for (int column = 0; column < columns; ++column)
         sumWindows(across.data() + column, sums.data() + column, rows, columns);
+    return sums;
+}
+
+// Darker where it is deep, and at the foot of walls.
+void SolidCells::colourTops(const std::vector<float>& sums) {
     constexpr float window = (2 * shadowReach + 1) * (2 * shadowReach + 1);
     tops.resize(heights.size());
     for (std::size_t i = 0; i < heights.size(); ++i) {
@@ -104,25 +105,23 @@ void SolidCells::colourTops() {
     }
 }
 
-// By the slope round each cell, so that steps of cells look like the curve that they stand for.
-void SolidCells::turnWalls() {
+// By the slope of what is smoothed, so that steps of cells look like the curve that they stand for.
+void SolidCells::turnWalls(const std::vector<float>& sums) {
+    const auto sumAt = [&](int column, int row) {
+        return sums[static_cast<std::size_t>(std::clamp(row, 0, rows - 1)) *
+                        static_cast<std::size_t>(columns) +
+                    static_cast<std::size_t>(std::clamp(column, 0, columns - 1))];
+    };
     walls.assign(heights.size(), 0);
+    std::size_t cell = 0;
     for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
-            float x = 0;
-            float y = 0;
-            for (int i = -2; i <= 2; ++i) {
-                for (int k = 1; k <= 2; ++k) {
-                    x += heightAt(column - k, row + i) - heightAt(column + k, row + i);
-                    y += heightAt(column + i, row - k) - heightAt(column + i, row + k);
-                }
-            }
-            if (x == 0 && y == 0)
+        for (int column = 0; column < columns; ++column, ++cell) {
+            const float x = sumAt(column - shadowReach, row) - sumAt(column + shadowReach, row);
+            const float y = sumAt(column, row - shadowReach) - sumAt(column, row + shadowReach);
+            if (std::fabs(x) + std::fabs(y) < flat)
                 continue;
-            const double turn = std::atan2(y, x) / (2 * std::numbers::pi);
-            walls[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
-                  static_cast<std::size_t>(column)] =
-                static_cast<std::uint8_t>(static_cast<int>(std::lround(256 * turn)) & 0xFF);
+            const float turn = std::atan2(y, x) / (2 * std::numbers::pi_v<float>);
+            walls[cell] = static_cast<std::uint8_t>(std::lround(256 * turn) & 0xFF);
         }
     }
 }

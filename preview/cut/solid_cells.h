@@ -29,9 +29,9 @@ public:
 
 private:
     void takeDepths(const sweep::Field& field, const CutBillet& billet, double& cell);
-    void colourTops();
-    void turnWalls();
-    float heightAt(int column, int row) const;
+    std::vector<float> windowSums() const;
+    void colourTops(const std::vector<float>& sums);
+    void turnWalls(const std::vector<float>& sums);
 };
 
 } // namespace torvik

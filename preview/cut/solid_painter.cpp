@@ -72,7 +72,7 @@ SolidPainter::SolidPainter(const SolidCells& cells, const SolidCamera& camera, Q
     // Far enough to see all of it from every side, in a narrow window too.
     const float narrow =
         std::min(1.0F, static_cast<float>(size.width()) / static_cast<float>(size.height()));
-    const float far = 0.54F * std::hypot(width, depth) / std::tan(viewAngle / 2) / narrow;
+    const float far = 0.47F * std::hypot(width, depth) / std::tan(viewAngle / 2) / narrow;
     const Vector middle{width / 2, depth / 2, -cells.thickness / 2};
     m_eye = middle + back * (far / static_cast<float>(camera.zoom));
     const float step = 2 * std::tan(viewAngle / 2) / static_cast<float>(size.height());
