@@ -58,20 +58,19 @@ Cuts cutsOf(const check::Moves& moves, const Diameters& diameters) {
         if (depth < 1)
             continue;
         const check::Extents reach = check::extentsOf(move);
+        const auto low = [radius](double edge) { return static_cast<float>(edge - radius); };
+        const auto high = [radius](double edge) { return static_cast<float>(edge + radius); };
         cuts.push_back({static_cast<std::uint32_t>(i), static_cast<std::uint16_t>(depth),
-                        static_cast<float>(radius), static_cast<float>(reach.lowY - radius),
-                        static_cast<float>(reach.highY + radius)});
+                        static_cast<float>(radius), low(reach.lowX), low(reach.lowY),
+                        high(reach.highX), high(reach.highY)});
     }
     return cuts;
 }
 
-std::optional<Area> areaOf(const check::Moves& moves, const Cuts& cuts) {
+std::optional<Area> areaOf(const Cuts& cuts) {
     std::optional<Area> all;
     for (const Cut& cut : cuts) {
-        const check::Extents reach = check::extentsOf(moves[cut.move]);
-        const double radius = cut.radius;
-        const Area area{reach.lowX - radius, reach.lowY - radius, reach.highX + radius,
-                        reach.highY + radius};
+        const Area area{cut.lowX, cut.lowY, cut.highX, cut.highY};
         if (all)
             all->cover(area);
         else

@@ -22,7 +22,9 @@ struct Cut {
     std::uint32_t move;  // its place in the list of moves
     std::uint16_t depth; // 1/100 mm, above 0
     float radius;        // mm, of the tool
-    float lowY;          // mm, what it reaches
+    float lowX;          // mm, what it reaches
+    float lowY;
+    float highX;
     float highY;
 };
 using Cuts = std::vector<Cut>;
@@ -31,7 +33,7 @@ using Cuts = std::vector<Cut>;
 Cuts cutsOf(const check::Moves& moves, const Diameters& diameters);
 
 // What the cuts reach; nothing where there are none.
-std::optional<Area> areaOf(const check::Moves& moves, const Cuts& cuts);
+std::optional<Area> areaOf(const Cuts& cuts);
 
 // The tool's number at each move; 0 before the first.
 int toolNumber(const check::Move& change);

@@ -11,9 +11,9 @@ constexpr long leastWork = 300'000; // rows between two that are kept: about 15 
 constexpr long workForThreads = 20'000;
 constexpr double leastPart = 1e-6; // an arc of no length would be a full circle
 
-Area wholeArea(const check::Moves& moves, const Cuts& cuts, const Area& billet) {
+Area wholeArea(const Cuts& cuts, const Area& billet) {
     Area area = billet;
-    if (const auto reach = areaOf(moves, cuts))
+    if (const auto reach = areaOf(cuts))
         area.cover(*reach);
     return area;
 }
@@ -22,7 +22,7 @@ Area wholeArea(const check::Moves& moves, const Cuts& cuts, const Area& billet) 
 
 Growth::Growth(const check::Moves& moves, const Diameters& diameters, const Area& billet)
     : m_moves(moves), m_cuts(cutsOf(moves, diameters)),
-      m_grid(gridOver(wholeArea(moves, m_cuts, billet))) {}
+      m_grid(gridOver(wholeArea(m_cuts, billet))) {}
 
 bool Growth::build(const Control& control) {
     long work = 0;

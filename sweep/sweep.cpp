@@ -7,6 +7,7 @@
 #include <cmath>
 #include <mutex>
 #include <numeric>
+#include <optional>
 #include <thread>
 
 namespace torvik::sweep {
@@ -42,27 +43,43 @@ public:
 
     void paint(const check::Move& move, const Cut& cut) {
         const Rows rows = rowsWithin(m_field.grid, cut, m_rows);
-        if (rows.first > rows.last)
-            return;
-        const Shape shape(move, cut.radius);
+        const int first = std::max(firstWithin(cut.lowX) - 1, 0);
+        const int last = std::min(lastWithin(cut.highX) + 1, m_field.grid.columns - 1);
+        std::optional<Shape> shape; // made when there is something to cut
         Shape::Spans spans;
         for (int row = rows.first; row <= rows.last; ++row) {
-            const std::size_t count = shape.spansAt(m_field.grid.centreY(row), spans);
+            if (nextOpen(openCells(row), first) > last)
+                continue;
+            if (!shape)
+                shape.emplace(move, cut.radius);
+            const std::size_t count = shape->spansAt(m_field.grid.centreY(row), spans);
             for (std::size_t i = 0; i < count; ++i)
                 fill(row, spans[i], cut);
         }
     }
 
 private:
+    // The first cell whose centre does not lie before a place, and the last not behind it. A cast
+    // is quicker than a call to round.
+    int firstWithin(double x) const {
+        const double cells = (x - m_field.grid.lowX) / m_field.grid.cell - 0.5;
+        const int columns = m_field.grid.columns;
+        return columns - static_cast<int>(columns - std::clamp<double>(cells, 0, columns));
+    }
+    int lastWithin(double x) const {
+        const double cells = (x - m_field.grid.lowX) / m_field.grid.cell - 0.5;
+        return static_cast<int>(std::clamp<double>(cells, -1, m_field.grid.columns - 1) + 1) - 1;
+    }
+
+    std::uint16_t* openCells(int row) {
+        return &m_open[m_width * static_cast<std::size_t>(row - m_rows.first)];
+    }
+
     void fill(int row, Span span, const Cut& cut) {
-        const Grid& grid = m_field.grid;
-        const double low = std::ceil((span.low - grid.lowX) / grid.cell - 0.5);
-        const double high = std::floor((span.high - grid.lowX) / grid.cell - 0.5);
-        const int first = static_cast<int>(std::clamp<double>(low, 0, grid.columns));
-        const int last = static_cast<int>(std::clamp<double>(high, -1, grid.columns - 1));
-        std::uint16_t* const open = &m_open[m_width * static_cast<std::size_t>(row - m_rows.first)];
+        const int last = lastWithin(span.high);
+        std::uint16_t* const open = openCells(row);
         const std::size_t start = m_field.at(0, row);
-        for (int i = nextOpen(open, first); i <= last; i = nextOpen(open, i + 1)) {
+        for (int i = nextOpen(open, firstWithin(span.low)); i <= last; i = nextOpen(open, i + 1)) {
             open[i] = static_cast<std::uint16_t>(i + 1);
             const std::size_t cell = start + static_cast<std::size_t>(i);
             if (m_field.depths[cell] < cut.depth) {
