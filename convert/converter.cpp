@@ -7,6 +7,8 @@
 #include "check/plan/plan.h"
 #include "commands/drawing_run.h"
 #include "commands/job/job_reader.h"
+#include "commands/program_run.h"
+#include "commands/target_names.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
 #include "convert/show.h"
@@ -102,9 +104,9 @@ private:
             return {};
         }
         return [this, &job, output](std::string_view program, std::string_view sideText) {
-            const check::Report report =
-                check::checkProgramOfJob(program, sideText, job, m_reader.tools(),
-                                         check::targetNamed(m_options.dialect->optionName));
+            const check::Report report = check::checkProgramOfJob(
+                program, sideText, job, m_reader.tools(),
+                &targetNamed(check::targets(), std::string(m_options.dialect->optionName)));
             const std::string file = utf8FromPath(output);
             m_err << check::findingLines(file, report.findings, true);
             if (m_options.strict && !report.findings.isGood())
@@ -140,32 +142,13 @@ private:
     JobReader m_reader;
 };
 
-int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
-    if (!options) {
-        err << programName << ": " << usageError << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (options->action == ConvertOptions::Action::help) {
-        out << helpText();
-        return static_cast<int>(ExitCode::done);
-    }
-    if (options->action == ConvertOptions::Action::version) {
-        out << programName << " " TORVIK_VERSION "\n";
-        return static_cast<int>(ExitCode::done);
-    }
-    return Converter(*options, out, err).run();
-}
-
 } // namespace
 
 int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(std::move(arguments), out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    return runProgram({programName, out, err}, options, usageError, helpText,
+                      [&] { return Converter(*options, out, err).run(); });
 }
 
 } // namespace torvik

@@ -8,6 +8,8 @@
 #include "check/plan/plan.h"
 #include "commands/drawing_run.h"
 #include "commands/job/job_reader.h"
+#include "commands/program_run.h"
+#include "commands/waiting.h"
 
 #include <algorithm>
 #include <optional>
@@ -70,8 +72,13 @@ private:
             m_out << tableHead(m_width);
     }
 
+    ProgramBytes read(const fs::path& path) {
+        const WaitingNotice notice({path}, [this](std::string_view message) { say(message); });
+        return readProgramFile(path);
+    }
+
     void check(const fs::path& path) {
-        const ProgramBytes bytes = readProgramFile(path);
+        const ProgramBytes bytes = read(path);
         const Report report = m_job ? checkProgramOfJob(bytes.program, bytes.sideText, *m_job,
                                                         m_reader.tools(), m_options.target)
                                     : checkProgram(bytes.program, bytes.sideText, m_options.target);
@@ -107,30 +114,13 @@ private:
     bool m_isFirst = true;
 };
 
-int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
-    if (!options) {
-        err << programName << ": " << usageError << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (options->action == CheckOptions::Action::help)
-        out << helpText();
-    else if (options->action == CheckOptions::Action::version)
-        out << programName << " " TORVIK_VERSION "\n";
-    else
-        return Checker(*options, out, err).run();
-    return static_cast<int>(ExitCode::done);
-}
-
 } // namespace
 
 int runChecker(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(std::move(arguments), out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    return runProgram({programName, out, err}, options, usageError, helpText,
+                      [&] { return Checker(*options, out, err).run(); });
 }
 
 } // namespace torvik::check

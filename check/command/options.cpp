@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/command/options.h"
 
-#include "commands/option_table.h"
+#include "commands/target_names.h"
 
 #include <utility>
 
@@ -20,18 +20,11 @@ enum OptionCode : int {
     optionVersion = 'v',
 };
 
-std::string targetNames() {
-    std::string names;
-    for (const Target& target : targets())
-        names.append(names.empty() ? "" : ", ").append(target.optionName);
-    return names;
-}
-
 const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
         {"target", optionTarget, "NAME",
          "the control that the programs are for (default: each\nprogram's beginning tells it): " +
-             targetNames()},
+             targetNames(targets())},
         {"drawing", optionDrawing, "FILE.plt",
          "the drawing that the programs are made from: what they\ndo is held against what the job "
          "asks for"},
@@ -47,12 +40,6 @@ const std::vector<OptionRow>& rows() {
     return table;
 }
 
-void setTarget(CheckOptions& options, const std::string& name) {
-    options.target = targetNamed(name);
-    if (options.target == nullptr)
-        throw UsageError("there is no target \"" + name + "\" (one of " + targetNames() + ")");
-}
-
 void setForm(CheckOptions& options, CheckOptions::Form form) {
     if (options.form != CheckOptions::Form::text && options.form != form)
         throw UsageError("--table and --json exclude each other");
@@ -62,7 +49,7 @@ void setForm(CheckOptions& options, CheckOptions::Form form) {
 void take(CheckOptions& options, int code, const char* value) {
     switch (code) {
     case optionTarget:
-        setTarget(options, value);
+        options.target = &targetNamed(targets(), value);
         break;
     case optionDrawing:
         options.drawing = namedPath(value, "the value of --drawing");

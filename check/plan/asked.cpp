@@ -67,10 +67,10 @@ public:
         }
     }
 
-    std::vector<AskedGroup> build() {
-        std::vector<AskedGroup> groups;
+    std::vector<PlanGroup> build() {
+        std::vector<PlanGroup> groups;
         visitMachinedGroups(m_job, [&](const MachinedGroup& name) {
-            AskedGroup group = plain(name);
+            PlanGroup group = plain(name);
             if (!group.steps.empty())
                 group.isDrilled ? drill(group) : cut(group);
             groups.push_back(std::move(group));
@@ -79,9 +79,9 @@ public:
     }
 
 private:
-    AskedGroup plain(const MachinedGroup& name) const {
+    PlanGroup plain(const MachinedGroup& name) const {
         const Settings& settings = m_job.answers.gudtSettings[name.settings];
-        AskedGroup group;
+        PlanGroup group;
         group.name = name;
         group.pen = &m_job.answers.gudtPens[name.pen];
         group.isDrilled = name.radius != 0;
@@ -108,11 +108,11 @@ private:
                m_target.dwellFactor;
     }
 
-    const std::vector<const Path*>& pathsOf(const AskedGroup& group) const {
+    const std::vector<const Path*>& pathsOf(const PlanGroup& group) const {
         return m_ofPen[static_cast<std::size_t>(group.name.pen)];
     }
 
-    void cut(AskedGroup& group) {
+    void cut(PlanGroup& group) {
         for (const Path* path : pathsOf(group))
             if (isKnownElement(*path))
                 add(group, elementOf(*path), {path->sngStartX, path->sngStartY},
@@ -123,7 +123,7 @@ private:
     }
 
     // The holes of all sizes of a pen are found together, with the first one.
-    void drill(AskedGroup& group) {
+    void drill(PlanGroup& group) {
         if (m_sizesOf != group.name.pen) {
             m_sizesOf = group.name.pen;
             m_ofSize.assign(static_cast<std::size_t>(group.pen->intRadiusCount) + 1, {});
@@ -142,7 +142,7 @@ private:
     };
 
     // Without an end the tool stays where it was told to go last.
-    void add(AskedGroup& group, AskedElement element, Spot start, std::optional<Spot> end) {
+    void add(PlanGroup& group, AskedElement element, Spot start, std::optional<Spot> end) {
         element.beginsAtLast = isAt(start.x, start.y);
         if (!element.beginsAtLast)
             m_at = start;
@@ -170,7 +170,7 @@ Asked::Asked(const Job& job, const ToolList& tools, const Target& target, std::s
                 writtenHeight(job.answers.gsngSafeHeight),
                 writtenHeight(job.answers.gsngRapidDownTo)},
       m_groups(Builder(job, tools, target, mostSteps).build()) {
-    for (AskedGroup& group : m_groups) {
+    for (PlanGroup& group : m_groups) {
         group.first = m_size;
         m_size += group.size();
     }
@@ -179,7 +179,7 @@ Asked::Asked(const Job& job, const ToolList& tools, const Target& target, std::s
 AskedItem Asked::at(std::size_t number) const {
     const auto behind =
         std::upper_bound(m_groups.begin(), m_groups.end(), number,
-                         [](std::size_t n, const AskedGroup& group) { return n < group.first; });
+                         [](std::size_t n, const PlanGroup& group) { return n < group.first; });
     AskedItem item;
     item.group = &*(behind - 1);
     item.groupNumber = static_cast<std::size_t>(item.group - m_groups.data());

@@ -27,7 +27,7 @@ struct AskedElement {
         false; // where the element before it ended; in the first pass, where one counts
 };
 
-struct AskedGroup {
+struct PlanGroup {
     MachinedGroup name{};
     const Pen* pen = nullptr;
     bool isDrilled = false;
@@ -49,7 +49,7 @@ struct AskedGroup {
 
 struct AskedItem {
     std::size_t groupNumber = 0;
-    const AskedGroup* group = nullptr;
+    const PlanGroup* group = nullptr;
     const AskedElement* element = nullptr;
     const StepDown* pass = nullptr; // nullptr for a hole
     bool beginsAtLast = false;
@@ -69,13 +69,13 @@ public:
     Asked(const Job& job, const ToolList& tools, const Target& target, std::size_t mostSteps);
 
     const AskedHeights& heights() const { return m_heights; }
-    const std::vector<AskedGroup>& groups() const { return m_groups; }
+    const std::vector<PlanGroup>& groups() const { return m_groups; }
     std::size_t size() const { return m_size; }
     AskedItem at(std::size_t number) const; // from 0
 
 private:
     AskedHeights m_heights;
-    std::vector<AskedGroup> m_groups;
+    std::vector<PlanGroup> m_groups;
     std::size_t m_size = 0;
 };
 

@@ -76,7 +76,7 @@ void AskedIndex::visitFitting(const Move& first, Visit visit) {
                                [](const Entry& entry, std::uint64_t k) { return entry.key < k; });
     for (std::size_t seen = 0; seen < mostAlike && at != m_entries.end() && at->key == key;
          ++seen, ++at) {
-        const AskedGroup& group = m_asked.groups()[at->group];
+        const PlanGroup& group = m_asked.groups()[at->group];
         const std::size_t number = group.first + at->element;
         if (group.isDrilled) {
             visit(number);

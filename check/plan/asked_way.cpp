@@ -58,7 +58,7 @@ void AskedWay::turn(double speed) {
     m_speed = speed;
 }
 
-void AskedWay::prepare(const AskedGroup& group) {
+void AskedWay::prepare(const PlanGroup& group) {
     const AskedHeights& heights = m_asked.heights();
     const bool isFirst = std::isnan(m_tool) && std::isnan(m_speed);
     if (isFirst || group.tool != m_tool) {
@@ -92,7 +92,7 @@ void AskedWay::goTo(const AskedItem& item) {
         feedTo(item.pass->z, item.group->feedDown);
 }
 
-void AskedWay::drill(const AskedGroup& group) {
+void AskedWay::drill(const PlanGroup& group) {
     for (const StepDown& peck : group.steps) {
         if (m_z > peck.z)
             feedTo(peck.z, group.feedDown);

@@ -29,11 +29,11 @@ public:
     // The tool is at the height z; tool and speed are those in use, unknown where there are none.
     void begin(double z, double tool, double speed);
     // To have the tool and the speed of the group.
-    void prepare(const AskedGroup& group);
+    void prepare(const PlanGroup& group);
     // To where the item begins.
     void goTo(const AskedItem& item);
     // The pecks of the hole below the tool.
-    void drill(const AskedGroup& group);
+    void drill(const PlanGroup& group);
     // To where a program ends.
     void finish();
 

@@ -61,6 +61,8 @@ void Comparison::meetAgain() {
 
 // The program goes on with a later item of the job.
 bool Comparison::passOver(bool isAlike) {
+    if (isAlike && m_done.wayTo(m_j).empty())
+        return false; // it has not gone on to another pass, it has stayed at a wrong height
     const auto later = m_index.next(m_done.first(m_j), m_i + 1);
     if (!later || (m_isInGap && *later >= m_gapEnd))
         return false;

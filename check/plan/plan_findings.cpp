@@ -123,7 +123,7 @@ void PlanFindings::add(Kind kind, std::uint32_t line, std::vector<std::string> v
     m_findings.add(kind, line, std::move(values));
 }
 
-std::string PlanFindings::nameOf(const AskedGroup& group) const {
+std::string PlanFindings::nameOf(const PlanGroup& group) const {
     return groupText(*group.pen, group.name.radius);
 }
 
@@ -206,7 +206,7 @@ void PlanFindings::otherSweep(const AskedItem& item, const Move& arc) {
             {lengthText(std::fabs(more)), more > 0 ? "longer" : "shorter"});
 }
 
-bool PlanFindings::otherTool(const AskedGroup* group, const Difference& difference,
+bool PlanFindings::otherTool(const PlanGroup* group, const Difference& difference,
                              std::uint32_t line) {
     const std::string name = group == nullptr ? "the end" : nameOf(*group);
     if (holds(difference, MoveKind::tool)) {
@@ -223,7 +223,7 @@ bool PlanFindings::otherTool(const AskedGroup* group, const Difference& differen
     return true;
 }
 
-void PlanFindings::otherWay(const AskedGroup* group, const Difference& difference,
+void PlanFindings::otherWay(const PlanGroup* group, const Difference& difference,
                             std::uint32_t line) {
     if (otherTool(group, difference, line))
         return;

@@ -30,14 +30,14 @@ public:
     void otherSweep(const AskedItem& item, const Move& arc);
 
     // Moves on the way to an item, the end of the program without one.
-    void otherWay(const AskedGroup* group, const Difference& difference, std::uint32_t line);
+    void otherWay(const PlanGroup* group, const Difference& difference, std::uint32_t line);
     // Moves of a hole.
     void otherPecks(const AskedItem& item, const Difference& difference, MoveSpan hole);
 
 private:
-    bool otherTool(const AskedGroup* group, const Difference& difference, std::uint32_t line);
+    bool otherTool(const PlanGroup* group, const Difference& difference, std::uint32_t line);
     void add(Kind kind, std::uint32_t line, std::vector<std::string> values);
-    std::string nameOf(const AskedGroup& group) const;
+    std::string nameOf(const PlanGroup& group) const;
 
     const Asked& m_asked;
     const Done& m_done;

@@ -19,8 +19,10 @@ namespace torvik {
 
 JobReader::JobReader(std::string_view programName, JobSources sources, Say say)
     : m_sources(std::move(sources)), m_say(std::move(say)),
-      m_logger(logFile(programName),
-               [this](const ErrorReport& error) { report(std::string(error.cause)); }) {}
+      m_logger(logFile(programName), [this](const ErrorReport& error) {
+          report(std::string(error.cause));
+          m_isUnreadable = error.isUnreadable;
+      }) {}
 
 WaitingNotice JobReader::noticeFor(const std::vector<std::filesystem::path>& files) const {
     return {files, m_say};
@@ -36,12 +38,19 @@ std::string JobReader::takeLastReport() {
     return reported.empty() ? std::string("the reason is in the log") : reported.back();
 }
 
+Failure JobReader::readingFailure(const std::filesystem::path& drawing) {
+    const std::string name = utf8FromPath(drawing);
+    const std::string cause = takeLastReport();
+    return {m_isUnreadable ? ExitCode::file : ExitCode::job,
+            cause.starts_with(name) ? cause : name + ": " + cause};
+}
+
 Job JobReader::readDrawingAlone(const std::filesystem::path& drawing) {
     requireReadable(drawing, maxDrawingBytes);
     Job job;
     const WaitingNotice notice = noticeFor({drawing});
     if (!readDrawing(job, drawing, m_logger))
-        throw Failure{ExitCode::job, takeLastReport()};
+        throw readingFailure(drawing);
     return job;
 }
 
@@ -75,7 +84,7 @@ Job JobReader::readJob(const std::filesystem::path& drawing) {
                     : importDrawing(job, drawing, known, savedSettingsFolder(), m_logger);
     }();
     if (!result.imported)
-        throw Failure{ExitCode::job, takeLastReport()};
+        throw readingFailure(drawing);
     const std::string answers = file ? utf8FromPath(*file) : job.answers.gstrSavedFile;
     switch (result.saved.outcome) {
     case SavedOutcome::taken:

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/logger.h"
+#include "commands/drawing_run.h"
 #include "commands/waiting.h"
 #include "job/job.h"
 #include "tools/tool_list.h"
@@ -48,11 +49,14 @@ public:
     void forgetReports() { m_reported.clear(); }
 
 private:
+    // Why a drawing was not read, where that was reported.
+    Failure readingFailure(const std::filesystem::path& drawing);
     WaitingNotice noticeFor(const std::vector<std::filesystem::path>& files) const;
 
     JobSources m_sources;
     Say m_say;
     std::vector<std::string> m_reported;
+    bool m_isUnreadable = false; // what was reported last
     Logger m_logger;
     ToolList m_tools;
     bool m_toolsLoaded = false;

@@ -116,10 +116,11 @@ TEST(Check, EachKindIsFoundAtItsLine) {
         EXPECT_EQ(shown(report, Level::danger).size(), own) << testing::PrintToString(found);
         seen.insert(row.kind);
     }
-    for (const KindRow& row : kinds()) {
-        const bool isOfPlan = row.kind >= Kind::elementLost && row.kind <= Kind::clampedArc;
-        EXPECT_TRUE(isOfPlan || seen.contains(row.kind)) << row.name << " has no row";
-    }
+    // Those of the plan, and of the job's sense, have their own tests.
+    for (const KindRow& row : kinds().first(static_cast<std::size_t>(Kind::holeTwice) + 1))
+        if (row.kind < Kind::elementLost || row.kind > Kind::clampedArc) {
+            EXPECT_TRUE(seen.contains(row.kind)) << row.name << " has no row";
+        }
 }
 
 TEST(Check, WithoutToolAndList) {

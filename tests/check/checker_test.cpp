@@ -94,15 +94,16 @@ TEST(Checker, AProgramIsLaidBesideItsJob) {
     const TemporaryFolder folder;
     const std::string job = TORVIK_GOLDEN "/drilled_job/";
     std::string program = readWholeFile(job + "expected.mxc", 1 << 20);
-    const std::vector<std::string> sources{"--drawing", job + "drawing.plt", "--answers",
-                                           job + "drawing.plx", "--tools", job + "Maskor.ini"};
+    const std::vector<std::string> sources{"--drawing", job + "drawing.plt",
+                                           "--answers", job + "drawing.plx",
+                                           "--tools",   job + "Maskor.ini"};
     const auto runBeside = [&](std::vector<std::string> arguments) {
         arguments.insert(arguments.end(), sources.begin(), sources.end());
         return run(std::move(arguments));
     };
     const std::string good = folder.file("good.mxc", program).string();
     EXPECT_EQ(runBeside({good, "--quiet"}).code, 0);
-    program.replace(program.find("S"), 1, "S1");
+    program.replace(program.find("S1800"), 5, "S2800");
     const std::string bad = folder.file("bad.mxc", program).string();
     EXPECT_EQ(run({bad, "--quiet"}).code, 0);
     const CheckRun found = runBeside({bad, "--quiet"});

@@ -102,10 +102,18 @@ const struct {
 
 TEST(Plan, EachKindIsFoundOnceAtItsLine) {
     const JobToWrite work = goodJob();
-    for (const auto& row : rows)
+    std::set<std::string> seen;
+    for (const auto& row : rows) {
+        const std::string found = row.found;
+        seen.insert(found.substr(0, found.find(' ')));
         EXPECT_EQ(planOf(work, changedProgram(row.changes)),
                   *row.found == 0 ? Texts{} : Texts{row.found})
             << row.name;
+    }
+    for (const KindRow& kind : kinds())
+        if (kind.kind >= Kind::elementLost && kind.kind < Kind::sweepCircle) {
+            EXPECT_TRUE(seen.contains(std::string(kind.name))) << kind.name << " has no row";
+        }
 }
 
 std::string sentencesOf(const char* drawing, const char* changes) {

@@ -7,6 +7,7 @@
 #include "check/machine.h"
 #include "check/plan/plan.h"
 #include "check/program_reader.h"
+#include "commands/target_names.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "tests/check/random_job.h"
@@ -50,7 +51,9 @@ struct GoodProgram {
         return all;
     }
 
-    const check::Target& target() const { return *check::targetNamed(dialect.optionName); }
+    const check::Target& target() const {
+        return targetNamed(check::targets(), std::string(dialect.optionName));
+    }
     check::Report besideJob(const std::string& text) const {
         return check::checkProgramOfJob(text, sideText, made.job, made.tools, &target());
     }
@@ -131,6 +134,9 @@ bool areGood(int jobs, unsigned firstSeed) {
                 const bool isTrue = finding.kind == check::Kind::deeperThanAsked &&
                                     finding.values[3].find("begins where") != std::string::npos;
                 ++(isTrue ? joined : wrong);
+                if (!isTrue)
+                    std::cerr << "false alarm: seed " << seed << ", " << control.name << ", line "
+                              << finding.line << ": " << sentenceOf(finding) << '\n';
             }
         }
     std::cout << jobs << " jobs, for each control a program as it is written: " << wrong
