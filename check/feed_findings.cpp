@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/picture.h"
 #include "check/finders.h"
+#include "check/limits.h"
 
 #include <algorithm>
 #include <array>
@@ -8,9 +9,7 @@
 namespace torvik::check {
 namespace {
 
-constexpr double slowestFeed = 1;    // mm/min; what is outside is unusual
-constexpr double fastestFeed = 6000; // mm/min
-constexpr double longestWait = 30;   // s
+constexpr double slowestFeed = 1; // mm/min; what is slower is unusual
 
 // The last three moves of one kind to one height. The one in the middle is odd where it has another
 // feed than the two beside it, which have one.

@@ -17,6 +17,8 @@ double lengthOf(const Move& move) {
     return across;
 }
 
+} // namespace
+
 double minutesOf(const Move& move) {
     if (move.kind == MoveKind::dwell)
         return move.value / 60;
@@ -24,8 +26,6 @@ double minutesOf(const Move& move) {
         return lengthOf(move) / rapidSpeed;
     return move.isFed() && move.feed > 0 ? lengthOf(move) / move.feed : 0;
 }
-
-} // namespace
 
 Summary summaryOf(const Moves& moves) {
     Summary summary;

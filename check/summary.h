@@ -16,6 +16,9 @@ struct Summary {
     double minutes = 0;     // at the written feeds, without tool changes
 };
 
+// How long the move takes at its feed; a quick one as on a small mill. Unknown where it is not known.
+double minutesOf(const Move& move);
+
 Summary summaryOf(const Moves& moves);
 
 } // namespace torvik::check

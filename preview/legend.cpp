@@ -58,13 +58,18 @@ Legend::Legend(QWidget* parent) : QAbstractScrollArea(parent) {
 }
 
 void Legend::setDepths(const DepthList& depths, float shallowest, float deepest) {
-    m_rows.clear();
-    QStringList texts;
-    for (const float depth : depths.gsngDepths) {
-        m_rows.push_back(
+    std::vector<Row> rows;
+    for (const float depth : depths.gsngDepths)
+        rows.push_back(
             {lngPlotColour(depth, shallowest, deepest), QString::fromStdString(depthText(depth))});
-        texts.append(m_rows.back().text);
-    }
+    setRows(std::move(rows));
+}
+
+void Legend::setRows(std::vector<Row> rows) {
+    m_rows = std::move(rows);
+    QStringList texts;
+    for (const Row& row : m_rows)
+        texts.append(row.text);
     setAccessibleDescription(texts.join(QStringLiteral(", ")));
     layOut();
     bar().setValue(0);
@@ -139,7 +144,7 @@ void Legend::paintEvent(QPaintEvent* /*event*/) {
     int number = 0;
     for (const Row& row : rowsInSight()) {
         const QPoint corner(number / rows * width, number % rows * rowHeight);
-        painter.setBrush(colourOf(row.colour));
+        painter.setBrush(QBrush(colourOf(row.colour), row.fill));
         painter.setPen(ink);
         painter.drawEllipse(corner + QPoint(discCentre, discCentre), discRadius, discRadius);
         const QRect text(corner.x() + textLeft, corner.y() + discCentre - rowHeight / 2,

@@ -19,6 +19,7 @@ public:
     struct Row {
         std::int32_t colour; // 0x00BBGGRR
         QString text;
+        Qt::BrushStyle fill = Qt::SolidPattern;
     };
 
     static constexpr int rowHeight = 24; // pixels
@@ -28,6 +29,7 @@ public:
 
     // `shallowest` and `deepest` are the piece's range of depths.
     void setDepths(const DepthList& depths, float shallowest, float deepest);
+    void setRows(std::vector<Row> rows);
     void clear();
     const std::vector<Row>& rows() const { return m_rows; }
     // Those in sight, from the top.

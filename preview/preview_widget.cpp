@@ -4,6 +4,7 @@
 #include "base/error_trap.h"
 #include "forms/help_key.h"
 #include "job/job.h"
+#include "preview/paper.h"
 #include "preview/piece_picture.h"
 #include "preview/sheet.h"
 
@@ -21,22 +22,6 @@ namespace {
 constexpr int helpPreview = 10;
 constexpr int stripMargin = 8; // pixels, as all here
 constexpr int rowsBelow = 3;   // of the legend where its strip lies below the drawing
-
-// Ink on paper, whatever the theme.
-QPalette paper() {
-    QPalette palette(Qt::white);
-    palette.setColor(QPalette::Window, Qt::white);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::WindowText, QColor(0x30, 0x30, 0x30));
-    palette.setColor(QPalette::Text, QColor(0x30, 0x30, 0x30));
-    return palette;
-}
-
-QPalette quietPaper() {
-    QPalette palette = paper();
-    palette.setColor(QPalette::WindowText, QColor(0x70, 0x70, 0x70));
-    return palette;
-}
 
 int pixels(float twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel));

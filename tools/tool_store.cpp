@@ -61,10 +61,11 @@ StoredTools readTools(const RegistryReader& registry) {
     return stored;
 }
 
+// A type of another program may be longer than one of ours: it is kept as it is.
 std::vector<std::string> typesOf(const StoredEntries& entries) {
     std::vector<std::string> types;
     for (const auto& text : entries.texts)
-        types.push_back(text && isReadableLength(*text) ? *text : "");
+        types.push_back(text.value_or(""));
     return types;
 }
 

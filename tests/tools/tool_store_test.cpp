@@ -185,7 +185,9 @@ TEST(ToolStore, KeepsForTheSessionWhatCannotBeSaved) {
 
 TEST(ToolStore, KeepsTheUsersTypesAsTyped) {
     Workshop shop;
-    for (const char* type : {"T-slot, 6; \"fine\"", "a|b\\c", " V-Fr\xC3\xA4ser ", ";x", ""})
+    const std::string tooLong(80, 'x'); // by another program
+    for (const std::string& type : {std::string("T-slot, 6; \"fine\""), std::string("a|b\\c"),
+                                    std::string(" V-Fr\xC3\xA4ser "), std::string(";x"), tooLong})
         shop.tools.gstrUserToolTypes.append(type);
     shop.tools.gintUserToolTypeCount = 5;
     ToolTypeUserSave(shop.tools, shop.registry, shop.logger);
