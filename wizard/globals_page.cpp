@@ -158,7 +158,10 @@ void GlobalsPage::RestoreGlobals() {
             m_heights[i]->setText(height == 0 ? QString()
                                               : QString::fromStdString(formatFixed(height, 0)));
         }
-        m_units[isPerMinute(answers) ? 0 : 1]->setChecked(true);
+        const std::size_t chosen = isPerMinute(answers) ? 0 : 1;
+        m_units[chosen]->setChecked(true);
+        m_units[chosen]->setFocusPolicy(Qt::StrongFocus); // the Tab key leads to the chosen one
+        m_units[1 - chosen]->setFocusPolicy(Qt::ClickFocus);
     });
 }
 

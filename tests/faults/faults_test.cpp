@@ -102,7 +102,7 @@ protected:
     Outcome save(const Fault& fault) const {
         const pid_t child = fork();
         if (child == 0) {
-            alarm(60); // a save that never ends is a fault, too
+            alarm(20); // a save that never ends is a fault, too
             m_arm(&fault);
             const Said said = GetParam().save(m_disk);
             const int made = m_made() > 0 ? 4 : 0;
@@ -163,6 +163,12 @@ TEST_P(Faults, FilesAreOldOrNewAndNothingIsLeft) {
                 made += count;
             }
     std::cout << made << " faults" << std::endl;
+}
+
+TEST_P(Faults, EndsWhereNoFileCanBeRemoved) {
+    setenv("TORVIK_HOME", m_folder.path().c_str(), 1);
+    start(GetParam().old);
+    save({m_disk.c_str(), Call::remove, 1, true, true});
 }
 
 INSTANTIATE_TEST_SUITE_P(

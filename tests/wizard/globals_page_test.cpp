@@ -53,7 +53,8 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
         EXPECT_EQ(std::make_pair(job.answers.gsngFeedFactor, job.answers.gstrFeedUnits), units[i]);
         choose(1 - i);
         page.RestoreGlobals();
-        EXPECT_TRUE(unit(i).isChecked());
+        EXPECT_TRUE(unit(i).isChecked() && (unit(i).focusPolicy() & Qt::TabFocus) != 0);
+        EXPECT_EQ(unit(1 - i).focusPolicy() & Qt::TabFocus, 0);
     }
     job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);

@@ -4,6 +4,7 @@
 #include "wizard/header_page.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QLocale>
 
 namespace torvik {
@@ -84,15 +85,20 @@ TEST_F(HeaderPageTest, ALineHoldsTheBilletAgainstWhatIsMachined) {
     EXPECT_EQ(line.text().count('\n'), 1);
 }
 
-TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnes) {
+TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnesAndBreaksBlanks) {
     QTest::keyClicks(&box(4), "Cog (big)");
     EXPECT_EQ(box(4).text(), "Cog [big]");
     box(4).setCursorPosition(3);
     QTest::keyClicks(&box(4), "(s)");
     EXPECT_EQ(box(4).text(), "Cog[s] [big]"); // typing goes on where it was
-    QApplication::clipboard()->setText("(9b) and (9c)");
+    QApplication::clipboard()->setText("(9b) and\n(9c)\t!");
     QTest::keyClick(&box(3), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box(3).text(), "[9b] and [9c]");
+    EXPECT_EQ(box(3).text(), "[9b] and [9c] !");
+    QApplication::clipboard()->setText("\u0141");
+    QTest::keyClick(&box(5), Qt::Key_V, Qt::ControlModifier);
+    const auto* const hint = box(5).findChild<QLabel*>("lblHint");
+    ASSERT_NE(hint, nullptr);
+    EXPECT_EQ(hint->text(), "A program cannot hold \u0141, so ? will stand there instead");
     fillJob({"1 (May)", "", "", "", "", "", "", "", ""}); // from answers kept by another program
     page.readBoxes();
     EXPECT_EQ(job.answers.gstrHeader[0] + job.answers.gstrHeader[4], "1 [May]Gear wheel");

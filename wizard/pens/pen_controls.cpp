@@ -62,6 +62,12 @@ QLabel* makeWrappedLabel(QWidget& page, const QString& name, const QString& text
     return label;
 }
 
+// A line may not end inside "mm/min".
+QString withUnitWhole(QString caption) {
+    constexpr QChar wordJoiner(0x2060);
+    return caption.replace(u'/', QStringLiteral("/") + wordJoiner);
+}
+
 void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.title = makeWrappedLabel(page, "lblDetTitle");
     QFont font = controls.title->font();
@@ -223,7 +229,7 @@ void showPenRows(const PenControls& controls, PenForm form, std::string_view fee
             continue;
         const QString caption = rowCaption(form, i, feedUnits);
         const QString tip = rowTip(form, i);
-        controls.lblDet[i]->setText(caption);
+        controls.lblDet[i]->setText(withUnitWhole(caption));
         controls.lblUnit[i]->setText(rowUnit(form, i, feedUnits));
         controls.txtDet[i]->setAccessibleName(caption);
         controls.txtDet[i]->setToolTip(tip);

@@ -87,8 +87,7 @@ QString PenPage::toolNote() const {
     if (!isInList(m_workshop.tools, settings.intTool))
         return settings.intToolGone == 0
                    ? QString()
-                   : tr("Tool T%1 of the saved answers is no longer in the tool list")
-                         .arg(settings.intToolGone);
+                   : tr("Tool T%1 is no longer in the tool list").arg(settings.intToolGone);
     const float diameter = toolAt(m_workshop.tools, settings.intTool).sngDiameter;
     if (!toolMissesHole(job, diameter))
         return {};
