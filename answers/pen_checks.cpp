@@ -77,11 +77,11 @@ void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float fe
         boxes.text[rowFinalPassFeed] = half;
 }
 
-bool allEditableFilled(const PenBoxes& boxes) {
+std::optional<std::size_t> firstEmptyRow(const PenBoxes& boxes) {
     for (std::size_t i = 0; i < penRowCount; ++i)
         if (boxes.enabled[i] && boxes.text[i].empty())
-            return false;
-    return true;
+            return i;
+    return std::nullopt;
 }
 
 std::optional<InputFault> inputFault(const PenBoxes& boxes, PenForm form, bool storedPeck) {

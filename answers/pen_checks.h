@@ -32,8 +32,8 @@ struct PenEdit {
 void followFinalDepth(PenBoxes& boxes, std::size_t index, PenForm form, float feedFactor,
                       const std::optional<PenEdit>& edit);
 
-// Whether each box that can be edited holds something.
-bool allEditableFilled(const PenBoxes& boxes);
+// The first box that can be edited and holds nothing.
+std::optional<std::size_t> firstEmptyRow(const PenBoxes& boxes);
 
 enum class PenFault {
     zero,

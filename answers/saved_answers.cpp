@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "answers/saved_answers.h"
 
-#include "base/error_trap.h"
 #include "job/job.h"
 #include "job/pens.h"
 #include "tools/tool_list.h"
@@ -18,16 +17,8 @@ SavedGroup savedGroup(const Settings& settings, const ToolList& tools) {
     return {hasTool ? toolAt(tools, settings.intTool).intNumber : std::int16_t{0}, settings};
 }
 
-// The tool's place in the list, or 0.
-std::int16_t placeOfTool(std::int16_t number, const ToolList& tools, Logger& logger) {
-    std::int16_t place = 0;
-    withQuietErrorTrap(logger, {"intToolGetId", "modHpgl"},
-                       [&] { place = intToolGetId(tools, number); });
-    return place;
-}
-
-void placeTool(SavedGroup& group, const ToolList& tools, Logger& logger) {
-    group.settings.intTool = placeOfTool(group.toolNumber, tools, logger);
+void placeTool(SavedGroup& group, const ToolList& tools) {
+    group.settings.intTool = intToolGetId(tools, group.toolNumber);
     group.settings.blnComplete = group.settings.intTool > 0;
     group.settings.intToolGone = group.settings.blnComplete ? std::int16_t{0} : group.toolNumber;
 }
@@ -88,11 +79,11 @@ SavedAnswers answersOfJob(const Job& job, const ToolList& tools) {
     return answers;
 }
 
-void takeAnswers(Job& job, SavedAnswers answers, const ToolList& tools, Logger& logger) {
+void takeAnswers(Job& job, SavedAnswers answers, const ToolList& tools) {
     for (SavedPen& pen : answers.pens) {
-        placeTool(pen.own, tools, logger);
+        placeTool(pen.own, tools);
         for (SavedGroup& hole : pen.holes)
-            placeTool(hole, tools, logger);
+            placeTool(hole, tools);
     }
     std::move(answers.header.begin(), answers.header.end(), job.answers.gstrHeader.begin());
     job.answers.gsngToolChangeHeight = answers.sngToolChangeHeight;

@@ -9,7 +9,6 @@ namespace torvik {
 
 struct Job;
 struct ToolList;
-class Logger;
 
 // The units of feeds as pages show them, by the feed factor; none where it was not chosen.
 std::string feedUnits(float factor);
@@ -23,7 +22,7 @@ SavedAnswers answersOfJob(const Job& job, const ToolList& tools);
 // Puts answers of the job's own shape into the job. A group is complete when its tool is in the
 // list; intToolGone has the number of a tool that is not. An order that is not one of the machined
 // pens leaves gblnOrderSet False and the order rebuilt.
-void takeAnswers(Job& job, SavedAnswers answers, const ToolList& tools, Logger& logger);
+void takeAnswers(Job& job, SavedAnswers answers, const ToolList& tools);
 
 // Takes over an order of just the machined pens, each once; entries of 0 or less are skipped.
 // Otherwise the order is rebuilt and gblnOrderSet False.

@@ -52,7 +52,7 @@ SavedData GetSavedDataFrom(Job& job, const ToolList& tools, const std::filesyste
             data.outcome = understand(readWholeFile(file, maxSavedBytes), job, file, answers);
             if (data.outcome != SavedOutcome::taken)
                 return;
-            takeAnswers(job, std::move(answers), tools, logger);
+            takeAnswers(job, std::move(answers), tools);
             job.answers.gblnSavedFound = true;
         } catch (const RunTimeError& error) {
             data = {SavedOutcome::damaged, error.what()};

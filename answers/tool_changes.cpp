@@ -2,6 +2,7 @@
 #include "answers/tool_changes.h"
 
 #include "job/hole_sizes.h"
+#include "tools/tool_merge.h"
 
 namespace torvik {
 namespace {
@@ -39,6 +40,19 @@ std::vector<ToolsOfGroups::Group> ToolsOfGroups::changedSince(const Job& job, co
                 groups.push_back({number, k});
     }
     return groups;
+}
+
+void ToolsOfGroups::follow(Job& job, const std::vector<std::int16_t>& removed) const {
+    auto number = m_numbers.begin();
+    for (Settings& settings : job.answers.gudtSettings) {
+        const int before = number == m_numbers.end() ? 0 : *number++;
+        const std::int16_t place = placeAfter(settings.intTool, removed);
+        if (settings.intTool > 0 && place == 0) {
+            settings.blnComplete = false;
+            settings.intToolGone = static_cast<std::int16_t>(before);
+        }
+        settings.intTool = place;
+    }
 }
 
 } // namespace torvik

@@ -27,6 +27,10 @@ public:
     std::vector<Group> changedSince(const Job& job, const ToolList& tools,
                                     std::int16_t passedOver) const;
 
+    // The groups keep their tools when tools go that another copy of the program has deleted;
+    // `removed` are their places (tool_merge.h). A group whose own tool has gone is open again.
+    void follow(Job& job, const std::vector<std::int16_t>& removed) const;
+
 private:
     std::vector<int> m_numbers; // per settings group, the tool's own number; 0 for none
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 
+#include "base/errors.h"
 #include "base/files.h"
 
 #include <QDeadlineTimer>
@@ -9,7 +10,9 @@
 #include <QUrl>
 
 #ifdef Q_OS_WIN
-#include <QCryptographicHash>
+#include "base/whole_file.h"
+
+#include <QRandomGenerator>
 #include <windows.h>
 #endif
 
@@ -30,47 +33,84 @@ void letOthersComeToFront() {
 #endif
 }
 
-// Where the copies of one user meet.
-QString serverNameIn(const std::filesystem::path& folder) {
 #ifdef Q_OS_WIN
-    // Pipes of all users have their names in one place. The folder tells the users apart.
-    const QByteArray user = QByteArray::fromStdString(utf8FromPath(folder));
-    return QStringLiteral("torvik-") +
-           QString::fromLatin1(QCryptographicHash::hash(user, QCryptographicHash::Md5).toHex());
+
+// Pipes of all users have their names in one place, so nobody else may know this one: it is drawn
+// at random at each start, and stands in a file that is the user's alone.
+std::filesystem::path pipeNameFile(const std::filesystem::path& folder) {
+    return folder / "torvik.pipe";
+}
+
+// Raises FileError where the others could not learn it.
+QString newServerName(const std::filesystem::path& folder) {
+    constexpr int hexadecimal = 16;
+    auto& random = *QRandomGenerator::system();
+    const QString name = QStringLiteral("torvik-") +
+                         QString::number(random.generate64(), hexadecimal) +
+                         QString::number(random.generate64(), hexadecimal);
+    saveWhole(pipeNameFile(folder), name.toStdString());
+    return name;
+}
+
+// Where the running copy listens. Raises FileError.
+QString serverName(const std::filesystem::path& folder) {
+    constexpr std::uintmax_t longest = 100;
+    return QString::fromStdString(readWholeFile(pipeNameFile(folder), longest));
+}
+
 #else
+
+QString serverName(const std::filesystem::path& folder) {
     return QString::fromStdString(utf8FromPath(folder / "torvik.socket"));
+}
+
+QString newServerName(const std::filesystem::path& folder) {
+    return serverName(folder);
+}
+
 #endif
+
+bool connectTo(QLocalSocket& socket, const std::filesystem::path& folder) {
+    try {
+        socket.connectToServer(serverName(folder));
+        return socket.waitForConnected(answerTime);
+    } catch (const FileError&) {
+        return false; // no copy has got so far yet
+    }
 }
 
 } // namespace
 
 SingleInstance::SingleInstance(const std::filesystem::path& folder, QObject* parent)
-    : QObject(parent),
-      m_lockFile(folder.empty() ? std::filesystem::path() : folder / instanceLockName),
-      m_serverName(serverNameIn(folder)) {
+    : QObject(parent), m_folder(folder) {
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 
 bool SingleInstance::claim() {
-    if (m_lockFile.empty())
+    if (m_folder.empty())
         return true;
-    const ProcessLock::Result lock = m_lock.tryLock(m_lockFile);
-    if (lock == ProcessLock::Result::held) {
-        // Whoever listened under this name is gone: the lock was free.
-        QLocalServer::removeServer(m_serverName);
-        m_server.setSocketOptions(QLocalServer::UserAccessOption);
-        m_server.listen(m_serverName);
-    }
+    const ProcessLock::Result lock = m_lock.tryLock(m_folder / instanceLockName);
+    if (lock == ProcessLock::Result::held)
+        listen();
     return lock != ProcessLock::Result::heldByOther;
+}
+
+void SingleInstance::listen() {
+    try {
+        const QString name = newServerName(m_folder);
+        // Whoever listened under this name is gone: the lock was free.
+        QLocalServer::removeServer(name);
+        m_server.setSocketOptions(QLocalServer::UserAccessOption);
+        m_server.listen(name);
+    } catch (const FileError&) {
+        m_server.close(); // the others cannot learn where to ask: nobody is heard
+    }
 }
 
 bool SingleInstance::activateOther(const QString& drawing) {
     QLocalSocket socket;
     const QDeadlineTimer deadline(answerTime);
-    for (;;) {
-        socket.connectToServer(m_serverName);
-        if (socket.waitForConnected(answerTime))
-            break;
+    while (!connectTo(socket, m_folder)) {
         if (deadline.hasExpired())
             return false;
         QThread::msleep(retryTime);

@@ -33,10 +33,10 @@ signals:
     void otherStarted(const QString& drawing);
 
 private:
+    void listen();
     void answer();
 
-    const std::filesystem::path m_lockFile; // empty: nothing is locked
-    const QString m_serverName;
+    const std::filesystem::path m_folder; // empty: nothing is locked
     ProcessLock m_lock;
     QLocalServer m_server;
 };

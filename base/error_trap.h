@@ -27,7 +27,7 @@ bool withErrorTrap(Logger& logger, Location at, Work&& work) {
     } catch (const Cancelled&) {
         return false;
     } catch (const std::exception& error) {
-        logger.reportError(at.procedure, at.module, causeOf(error));
+        logger.reportError(at.procedure, at.module, causeOf(error), isUnreadable(error));
     }
     return false;
 }

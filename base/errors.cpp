@@ -15,9 +15,21 @@ FileError::FileError(const std::string& file, const std::string& cause, long lin
                    cause),
       m_cause(cause), m_line(line) {}
 
+namespace {
+
+template <typename Error>
+bool is(const std::exception& error) {
+    return dynamic_cast<const Error*>(&error) != nullptr;
+}
+
+} // namespace
+
 std::string causeOf(const std::exception& error) {
-    return dynamic_cast<const std::bad_alloc*>(&error) != nullptr ? "there is not enough memory"
-                                                                  : error.what();
+    return is<std::bad_alloc>(error) ? "there is not enough memory" : error.what();
+}
+
+bool isUnreadable(const std::exception& error) {
+    return is<UnreadableFile>(error) || is<std::bad_alloc>(error);
 }
 
 } // namespace torvik

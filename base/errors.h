@@ -58,16 +58,25 @@ private:
     long m_line;
 };
 
+// A file that cannot be read at all, whatever it holds, or that takes more memory than there is.
+class UnreadableFile : public FileError {
+public:
+    using FileError::FileError;
+};
+
 // What is to be said of any error: what() in plain words.
 std::string causeOf(const std::exception& error);
 
-// Runs the work for a file. Where the memory ends, FileError with the file's name is raised.
+// Whether the error is an UnreadableFile, or the memory ended where no file was named.
+bool isUnreadable(const std::exception& error);
+
+// Runs the work for a file. Where the memory ends, UnreadableFile with the file's name is raised.
 template <typename Work>
 void namingFile(const std::string& file, Work&& work) {
     try {
         std::forward<Work>(work)();
     } catch (const std::bad_alloc& error) {
-        throw FileError(file, causeOf(error));
+        throw UnreadableFile(file, causeOf(error));
     }
 }
 

@@ -15,22 +15,22 @@ std::ifstream openForReading(const std::filesystem::path& path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found)
-        throw FileError(name, "the file does not exist");
+        throw UnreadableFile(name, "the file does not exist");
     if (error)
-        throw FileError(name, "the file cannot be read: " + error.message());
+        throw UnreadableFile(name, "the file cannot be read: " + error.message());
     if (std::filesystem::is_directory(status))
-        throw FileError(name, "this is a folder, not a file");
+        throw UnreadableFile(name, "this is a folder, not a file");
 
     errno = 0;
     std::ifstream file(path, std::ios::binary);
     if (!file)
-        throw FileError(name, "the file cannot be opened: " + systemErrorText());
+        throw UnreadableFile(name, "the file cannot be opened: " + systemErrorText());
     return file;
 }
 
 [[noreturn]] void raiseTooLarge(const std::filesystem::path& path, std::uintmax_t limit) {
-    throw FileError(utf8FromPath(path),
-                    "the file is larger than " + std::to_string(limit / (1024 * 1024)) + " MB");
+    throw UnreadableFile(utf8FromPath(path), "the file is larger than " +
+                                                 std::to_string(limit / (1024 * 1024)) + " MB");
 }
 
 std::string readBytes(const std::filesystem::path& path, std::uintmax_t limit) {
@@ -53,8 +53,8 @@ std::string readBytes(const std::filesystem::path& path, std::uintmax_t limit) {
             raiseTooLarge(path, limit);
     }
     if (file.bad())
-        throw FileError(utf8FromPath(path),
-                        "the file cannot be read to its end: " + systemErrorText());
+        throw UnreadableFile(utf8FromPath(path),
+                             "the file cannot be read to its end: " + systemErrorText());
     return bytes;
 }
 

@@ -12,12 +12,12 @@ namespace torvik {
 std::filesystem::path pathFromUtf8(std::string_view name);
 std::string utf8FromPath(const std::filesystem::path& path);
 
-// Raises FileError where the file does not exist, is a folder, is larger than `limit` bytes, or
-// cannot be opened for reading. A pipe is not opened.
+// Raises UnreadableFile where the file does not exist, is a folder, is larger than `limit` bytes,
+// or cannot be opened for reading. A pipe is not opened.
 void requireReadable(const std::filesystem::path& path, std::uintmax_t limit);
 
-// The bytes of a file of at most `limit` bytes. Raises FileError where it cannot be opened, is a
-// folder, is larger, cannot be read to its end, or takes more memory than there is.
+// The bytes of a file of at most `limit` bytes. Raises UnreadableFile where it cannot be opened,
+// is a folder, is larger, cannot be read to its end, or takes more memory than there is.
 std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit);
 
 // Makes the folder, and those that it stands in, where it is missing. Raises FileError.

@@ -68,10 +68,10 @@ std::string ErrorReport::message() const {
 }
 
 void Logger::reportError(std::string_view procedure, std::string_view module,
-                         std::string_view cause) {
+                         std::string_view cause, bool isUnreadable) {
     logError(procedure, module, cause);
     if (m_report)
-        m_report({procedure, module, cause});
+        m_report({procedure, module, cause, isUnreadable});
 }
 
 void Logger::logError(std::string_view procedure, std::string_view module, std::string_view cause) {

@@ -32,6 +32,7 @@ struct ErrorReport {
     std::string_view procedure;
     std::string_view module;
     std::string_view cause;
+    bool isUnreadable = false; // a file cannot be read, or the memory ended
 
     // "An error has occurred in PROCEDURE (MODULE):", a line break, and the cause with a full stop.
     std::string message() const;
@@ -48,7 +49,8 @@ public:
     void setReport(Report report) { m_report = std::move(report); }
 
     // Logs the error and reports it to the user.
-    void reportError(std::string_view procedure, std::string_view module, std::string_view cause);
+    void reportError(std::string_view procedure, std::string_view module, std::string_view cause,
+                     bool isUnreadable = false);
     // Logs the error only, where the work goes on with a default.
     void logError(std::string_view procedure, std::string_view module, std::string_view cause);
     void trace(std::string_view procedure, std::string_view module);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/numbers.h"
 
+#include "base/digits.h"
 #include "base/errors.h"
 
 #include <charconv>
@@ -8,10 +9,6 @@
 
 namespace torvik {
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 const char* skipDigits(const char* at, const char* end) {
     while (at != end && isDigit(*at))

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "check/extents.h"
 #include "check/finders.h"
+#include "check/limits.h"
 
 #include <array>
 
 namespace torvik::check {
 namespace {
 
-constexpr double cuttingOut = 3; // mm that a tool may go into what lies below the billet
 constexpr double reach = 1.5 * lengthStep;
 
 class AgainstBillet {

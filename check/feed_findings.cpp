@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/picture.h"
 #include "check/finders.h"
+#include "check/limits.h"
 
 #include <algorithm>
 #include <array>
@@ -8,9 +9,7 @@
 namespace torvik::check {
 namespace {
 
-constexpr double slowest = 1;      // mm/min; what is outside is unusual
-constexpr double fastest = 6000;   // mm/min
-constexpr double longestWait = 30; // s
+constexpr double slowestFeed = 1; // mm/min; what is slower is unusual
 
 // The last three moves of one kind to one height. The one in the middle is odd where it has another
 // feed than the two beside it, which have one.
@@ -60,9 +59,9 @@ private:
             m_findings.add(Kind::feedMissing, move.line);
         else if (move.feed <= 0)
             m_findings.add(Kind::feedZero, move.line);
-        else if (move.feed < slowest || move.feed > fastest)
+        else if (move.feed < slowestFeed || move.feed > fastestFeed)
             findOdd(move);
-        if (odd != nullptr && odd->feed >= slowest && odd->feed <= fastest)
+        if (odd != nullptr && odd->feed >= slowestFeed && odd->feed <= fastestFeed)
             findOdd(*odd);
     }
 

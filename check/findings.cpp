@@ -8,9 +8,9 @@
 
 namespace torvik::check {
 
-void Findings::add(Kind kind, std::uint32_t line, std::vector<std::string> values) {
+void Findings::add(Kind kind, std::uint32_t line, std::vector<std::string> values, PenGroup group) {
     if (++m_counts[static_cast<std::size_t>(kind)] <= keptOfKind)
-        m_kept.push_back({kind, line, std::move(values)});
+        m_kept.push_back({kind, line, std::move(values), group});
 }
 
 std::vector<Finding> Findings::byLine() const {

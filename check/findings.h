@@ -13,17 +13,28 @@
 
 namespace torvik::check {
 
+// What of a job a finding is about: a pen and, where it is drilled, one of its hole sizes
+// (subscript of sngRadii). 0 stands for none.
+struct PenGroup {
+    std::int16_t pen = 0;
+    std::int16_t radius = 0;
+
+    bool operator==(const PenGroup&) const = default;
+};
+
 struct Finding {
     Kind kind;
-    std::uint32_t line; // from 1
+    std::uint32_t line; // from 1; 0 where it is about no line
     std::vector<std::string> values;
+    PenGroup group{};
 };
 
 class Findings {
 public:
     static constexpr std::size_t keptOfKind = 20;
 
-    void add(Kind kind, std::uint32_t line, std::vector<std::string> values = {});
+    void add(Kind kind, std::uint32_t line, std::vector<std::string> values = {},
+             PenGroup group = {});
 
     // By line, those of one line in the order in which they were found.
     std::vector<Finding> byLine() const;

@@ -6,7 +6,7 @@
 namespace torvik::check {
 namespace {
 
-constexpr std::array table{
+constexpr std::array kindRows{
     // how it is written
     KindRow{Kind::lineEnd, "line-end", Level::wrong,
             "The line does not end with carriage return and line feed, or a control character "
@@ -112,24 +112,60 @@ constexpr std::array table{
             "This hole is not drilled like the holes beside it."},
     KindRow{Kind::holeTwice, "hole-twice", Level::look,
             "The same tool has drilled a hole at this place before."},
+
+    // seen from the job alone
+    KindRow{Kind::heightLow, "height-low", Level::danger,
+            "The {1} must be above 0, or the tool goes through the material at full speed."},
+    KindRow{Kind::heightOrder, "height-order", Level::wrong,
+            "The {1} is lower than the {2}. It should be at least as high."},
+    KindRow{Kind::billetDepth, "billet-depth", Level::danger,
+            "The depth of {1} is {2} mm, but the billet is only {3} mm thick. The tool would cut "
+            "the table."},
+    KindRow{Kind::depthHigh, "depth-high", Level::danger,
+            "The depth of {1} is {2} mm. No tool is that long."},
+    KindRow{Kind::billetOutside, "billet-outside", Level::wrong,
+            "The drawing reaches {1}, outside the billet that lies from 0 to {2}."},
+    KindRow{Kind::drillCuts, "drill-cuts", Level::danger,
+            "A {2} cannot cut {1}: it is made to go straight down and breaks on its way sideways."},
+    KindRow{Kind::endMillDrills, "end-mill-drills", Level::look,
+            "An End mill is to drill {1}. Many do not cut in their middle; a Drill is safer."},
+    KindRow{Kind::deepStep, "deep-step", Level::look,
+            "Each pass of {1} is {2} mm deep, but the tool is only {3} mm wide. It may break."},
+    KindRow{Kind::holeNarrow, "hole-narrow", Level::wrong,
+            "The tool is {2} mm wide, too wide for {1}."},
+    KindRow{Kind::feedHigh, "feed-high", Level::look,
+            "A feed of {2} mm/min for {1} is faster than usual."},
+    KindRow{Kind::feedUnits, "feed-units", Level::wrong,
+            "A feed of {2} mm/sec for {1} is {3} mm/min. Was mm per minute meant? The unit is "
+            "chosen on the page of the heights."},
+    KindRow{Kind::dwellLong, "dwell-long", Level::look,
+            "The tool waits {2} s in each of {1}. That is longer than usual."},
+    KindRow{Kind::outlineEarly, "outline-early", Level::wrong,
+            "An outline of {1} is cut through before {2} inside it, so the part may come loose. "
+            "Put {2} before it in the order."},
+    KindRow{Kind::outlineEarlyOwn, "outline-early-own", Level::wrong,
+            "An outline of {1} is cut through before other lines of its pen inside it, so the part "
+            "may come loose. Draw the outline last, or with a pen of its own."},
+    KindRow{Kind::toolChanges, "tool-changes", Level::note,
+            "Tool changes: {1}. With another order of the pens there would be only {2}."},
 };
 
 constexpr bool isInOrder() {
-    for (std::size_t i = 0; i < table.size(); ++i)
-        if (static_cast<std::size_t>(table[i].kind) != i)
+    for (std::size_t i = 0; i < kindRows.size(); ++i)
+        if (static_cast<std::size_t>(kindRows[i].kind) != i)
             return false;
-    return table.size() == kindCount;
+    return kindRows.size() == kindCount;
 }
 static_assert(isInOrder(), "a kind's row is found by its place");
 
 } // namespace
 
 std::span<const KindRow> kinds() {
-    return table;
+    return kindRows;
 }
 
 const KindRow& rowOf(Kind kind) {
-    return table[static_cast<std::size_t>(kind)];
+    return kindRows[static_cast<std::size_t>(kind)];
 }
 
 std::string_view levelName(Level level) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What can be found in a program: each kind has a name, a level and one sentence for a pupil. This
-// table is the only place where the sentences stand.
+// What can be found in a program and in what was asked for: each kind has a name, a level and one
+// sentence for a pupil. This table is the only place where the sentences stand.
 #pragma once
 
 #include <cstddef>
@@ -64,9 +64,25 @@ enum class Kind : std::uint8_t {
     passDiffers,
     holeDiffers,
     holeTwice,
+    // seen from the job alone
+    heightLow,
+    heightOrder,
+    billetDepth,
+    depthHigh,
+    billetOutside,
+    drillCuts,
+    endMillDrills,
+    deepStep,
+    holeNarrow,
+    feedHigh,
+    feedUnits,
+    dwellLong,
+    outlineEarly,
+    outlineEarlyOwn,
+    toolChanges,
 };
 
-inline constexpr std::size_t kindCount = static_cast<std::size_t>(Kind::holeTwice) + 1;
+inline constexpr std::size_t kindCount = static_cast<std::size_t>(Kind::toolChanges) + 1;
 
 struct KindRow {
     Kind kind;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/opening_lines.h"
 
+#include "base/digits.h"
 #include "check/lines.h"
 #include "check/statement_reader.h"
 
@@ -8,10 +9,6 @@
 
 namespace torvik::check {
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isProgramNumber(std::string_view digits, std::size_t least) {
     constexpr std::size_t most = 5;

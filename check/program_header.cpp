@@ -14,18 +14,6 @@ constexpr std::array<std::string_view, Header::mostListed> ordinals{
     "First", "Second", "Third",    "Fourth",  "Fifth",      "Sixth",      "Seventh",   "Eighth",
     "Ninth", "Tenth",  "Eleventh", "Twelfth", "Thirteenth", "Fourteenth", "Fifteenth", "Sixteenth"};
 
-// A number above 0 at the start of the text; what stands behind it is taken off the front with it.
-double takeNumber(std::string_view& text) {
-    constexpr double most = 1e6;
-    double number = unknown;
-    const auto read =
-        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    if (read.ec != std::errc() || !(number > 0 && number <= most))
-        return unknown;
-    text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
-    return number;
-}
-
 bool takeStart(std::string_view& text, std::string_view start) {
     if (!text.starts_with(start))
         return false;
@@ -45,6 +33,17 @@ bool takeToolLabel(std::string_view& text) {
 }
 
 } // namespace
+
+double takeNumber(std::string_view& text) {
+    constexpr double most = 1e6;
+    double number = unknown;
+    const auto read =
+        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    if (read.ec != std::errc() || !(number > 0 && number <= most))
+        return unknown;
+    text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
+    return number;
+}
 
 void readHeaderLine(std::string_view text, Header& header) {
     if (takeStart(text, "Billet Length X - ")) {

@@ -28,6 +28,10 @@ struct Header {
     std::vector<ListedTool> tools;
 };
 
+// A number above 0 at the start of the text, as the billet's sizes are read; unknown where there is
+// none. What stands behind it is left in the text.
+double takeNumber(std::string_view& text);
+
 // Takes what one line of the header tells, its comment signs taken off.
 void readHeaderLine(std::string_view text, Header& header);
 

@@ -5,8 +5,8 @@
 namespace torvik::check {
 namespace {
 
-constexpr double slowest = 50;     // rpm; what is outside is unusual
-constexpr double fastest = 40'000; // rpm
+constexpr double slowestTurn = 50;     // rpm; what is outside is unusual
+constexpr double fastestTurn = 40'000; // rpm
 
 class Spindle {
 public:
@@ -45,7 +45,7 @@ private:
     void findSpeed(const Move& move) {
         if (move.value <= 0)
             m_findings.add(Kind::spindleZero, move.line);
-        else if (move.value < slowest || move.value > fastest)
+        else if (move.value < slowestTurn || move.value > fastestTurn)
             m_findings.add(Kind::spindleOdd, move.line, {formatFixed(move.value, 0)});
     }
 

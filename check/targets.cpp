@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "check/targets.h"
 
-#include <algorithm>
 #include <array>
 
 namespace torvik::check {
@@ -29,33 +28,27 @@ constexpr std::array<Forms, 9> winCamForms{{
     {"G97 G94", Meaning::feedMode},
     {"G58 X0 Y0 Z0", Meaning::zeroShift},
 }};
-constexpr std::array<Forms, 8> winNcForms{{
-    {"G0 Z# M5", Meaning::retract},
-    {"G4 X#", Meaning::dwell},
-    {"G49", Meaning::unload},
-    {"M0", Meaning::stop},
-    {"T# G43 H#", Meaning::tool},
-    {"S# M3", Meaning::spindleOn},
-    {"M30", Meaning::programEnd},
-    {"G54", Meaning::coordinates},
-}};
 constexpr std::array<Forms, 3> maskorForms{{
     {"G4 P#", Meaning::dwell},
     {"T#", Meaning::tool},
     {"S#", Meaning::spindleOn},
 }};
-constexpr std::array<Forms, 10> kestraForms{{
-    {"G0 Z# M5", Meaning::retract},
+// Those of Kestra and WinNC, the own ones of each at one end.
+constexpr std::array<Forms, 11> hControlForms{{
+    {"G97 G94", Meaning::feedMode},
+    {"G58 X0 Y0 Z0", Meaning::zeroShift},
     {"G4 P#", Meaning::dwell},
+    {"G0 Z# M5", Meaning::retract},
     {"G49", Meaning::unload},
     {"M0", Meaning::stop},
     {"T# G43 H#", Meaning::tool},
     {"S# M3", Meaning::spindleOn},
     {"M30", Meaning::programEnd},
     {"G54", Meaning::coordinates},
-    {"G97 G94", Meaning::feedMode},
-    {"G58 X0 Y0 Z0", Meaning::zeroShift},
+    {"G4 X#", Meaning::dwell},
 }};
+constexpr auto kestraForms = std::span(hControlForms).first<10>();
+constexpr auto winNcForms = std::span(hControlForms).last<8>();
 
 constexpr std::array<std::string_view, 1> winCamOpening{"%MPF#"};
 constexpr std::array<std::string_view, 2> winNcOpening{"\x1B&HE:\x12%", ":####"};
@@ -76,7 +69,7 @@ constexpr int twoForEachTool(int tool) {
     return 2 * tool - 1;
 }
 
-constexpr std::array<Target, 4> table{{
+constexpr std::array<Target, 4> targetRows{{
     {
         .name = "WinCAM",
         .optionName = "wincam",
@@ -166,14 +159,7 @@ constexpr std::array<Target, 4> table{{
 } // namespace
 
 std::span<const Target> targets() {
-    return table;
-}
-
-const Target* targetNamed(std::string_view optionName) {
-    const auto row = std::find_if(table.begin(), table.end(), [&](const Target& target) {
-        return target.optionName == optionName;
-    });
-    return row == table.end() ? nullptr : &*row;
+    return targetRows;
 }
 
 std::span<const StatementForm> commonForms() {

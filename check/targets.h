@@ -63,8 +63,6 @@ struct Target {
 };
 
 std::span<const Target> targets();
-// The row of an option's value ("kestra"), nullptr where there is none.
-const Target* targetNamed(std::string_view optionName);
 
 // The statements that all controls have.
 std::span<const StatementForm> commonForms();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "check/words.h"
 
+#include "base/digits.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -11,10 +13,6 @@ namespace {
 
 bool isCapital(char c) {
     return c >= 'A' && c <= 'Z';
-}
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 bool endsNumber(char c) {

@@ -11,7 +11,11 @@ set(TORVIK_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=
 add_library(torvik_options INTERFACE)
 # Contracted multiply-adds would change the last bit of computed coordinates.
 target_compile_options(torvik_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic
-                                                -Wconversion -Wshadow)
+                                                -Wconversion)
+if(NOT CMAKE_UNITY_BUILD)
+  # Compiled together, files see each other's names.
+  target_compile_options(torvik_options INTERFACE -Wshadow)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 sees overlaps in std::string's operator+ that are not there.
   target_compile_options(torvik_options INTERFACE -Wno-restrict)

@@ -9,6 +9,7 @@
 #include "base/logger.h"
 #include "base/text.h"
 #include "commands/drawing_run.h"
+#include "commands/program_run.h"
 #include "commands/waiting.h"
 #include "convert/options.h"
 #include "convert/program_files.h"
@@ -36,8 +37,10 @@ class Converter {
 public:
     Converter(const ConvertOptions& options, std::ostream& out, std::ostream& err)
         : m_options(options), m_out(out), m_err(err),
-          m_logger(logFile(programName),
-                   [this](const ErrorReport& report) { m_reported.emplace_back(report.cause); }) {}
+          m_logger(logFile(programName), [this](const ErrorReport& report) {
+              m_reported.emplace_back(report.cause);
+              m_isUnreadable = report.isUnreadable;
+          }) {}
 
     int run() {
         return runEach(
@@ -72,12 +75,20 @@ private:
         return reported.empty() ? std::string("the reason is in the log") : reported.back();
     }
 
+    // Why a drawing was not read, where that was reported.
+    Failure readingFailure(const std::filesystem::path& drawing) {
+        const std::string name = utf8FromPath(drawing);
+        const std::string cause = takeLastReport();
+        return {m_isUnreadable ? ExitCode::file : ExitCode::job,
+                cause.starts_with(name) ? cause : name + ": " + cause};
+    }
+
     void show(const std::filesystem::path& drawing) {
         requireReadable(drawing, maxDrawingBytes);
         Job job;
         const WaitingNotice notice = noticeFor({drawing});
         if (!readDrawing(job, drawing, m_logger))
-            throw Failure{ExitCode::job, takeLastReport()};
+            throw readingFailure(drawing);
         m_out << describeDrawing(job);
     }
 
@@ -155,7 +166,7 @@ private:
                        : importDrawing(job, drawing, m_tools, savedSettingsFolder(), m_logger);
         }();
         if (!result.imported)
-            throw Failure{ExitCode::job, takeLastReport()};
+            throw readingFailure(drawing);
         const std::string answers =
             m_options.answers ? utf8FromPath(*m_options.answers) : job.answers.gstrSavedFile;
         switch (result.saved.outcome) {
@@ -200,37 +211,19 @@ private:
     std::ostream& m_out;
     std::ostream& m_err;
     std::vector<std::string> m_reported;
+    bool m_isUnreadable = false; // the last of them
     Logger m_logger;
     ToolList m_tools;
     bool m_toolsLoaded = false;
 };
 
-int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
-    if (!options) {
-        err << programName << ": " << usageError << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (options->action == ConvertOptions::Action::help) {
-        out << helpText();
-        return static_cast<int>(ExitCode::done);
-    }
-    if (options->action == ConvertOptions::Action::version) {
-        out << programName << " " TORVIK_VERSION "\n";
-        return static_cast<int>(ExitCode::done);
-    }
-    return Converter(*options, out, err).run();
-}
-
 } // namespace
 
 int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(std::move(arguments), out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    return runProgram({programName, out, err}, options, usageError, helpText,
+                      [&] { return Converter(*options, out, err).run(); });
 }
 
 } // namespace torvik

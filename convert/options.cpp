@@ -2,7 +2,7 @@
 #include "convert/options.h"
 
 #include "base/files.h"
-#include "commands/option_table.h"
+#include "commands/target_names.h"
 #include "gcode/output_file.h"
 
 #include <charconv>
@@ -29,16 +29,9 @@ enum OptionCode : int {
     optionVersion = 'v',
 };
 
-std::string targetNames() {
-    std::string names;
-    for (const Dialect& dialect : dialects())
-        names.append(names.empty() ? "" : ", ").append(dialect.optionName);
-    return names;
-}
-
 const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
-        {"target", optionTarget, "NAME", "the control to write for: " + targetNames()},
+        {"target", optionTarget, "NAME", "the control to write for: " + targetNames(dialects())},
         {"answers", optionAnswers, "FILE.plx",
          "the answers to use (default: those saved for the\ndrawing)"},
         {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
@@ -105,10 +98,8 @@ void take(ConvertOptions& options, std::string& target, std::string& number, int
 
 void setTarget(ConvertOptions& options, const std::string& target) {
     if (target.empty())
-        throw UsageError("--target is missing (one of " + targetNames() + ")");
-    options.dialect = dialectNamed(target);
-    if (options.dialect == nullptr)
-        throw UsageError("there is no target \"" + target + "\" (one of " + targetNames() + ")");
+        throw UsageError("--target is missing (one of " + targetNames(dialects()) + ")");
+    options.dialect = &targetNamed(dialects(), target);
 }
 
 void setNumber(ConvertOptions& options, const std::string& text) {

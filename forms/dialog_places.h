@@ -11,8 +11,10 @@ class QWidget;
 
 namespace torvik {
 
-inline constexpr const char* tagProperty = "Tag"; // a dialog's result
-inline constexpr int dialogMargin = 14;           // pixels round a dialog's controls
+inline constexpr const char* tagProperty = "Tag"; // a dialog's result, one of these
+inline constexpr const char* tagOk = "Ok";
+inline constexpr const char* tagCancel = "Cancel";
+inline constexpr int dialogMargin = 14; // pixels round a dialog's controls
 
 // Moves the dialog's frame to the place (of the screen), or to the nearest one that shows all of
 // it.

@@ -212,13 +212,6 @@ const Dialect& dialectFor(std::int16_t code) {
     return row == rows().end() ? noDialect : *row;
 }
 
-const Dialect* dialectNamed(std::string_view optionName) {
-    const auto row = std::find_if(rows().begin(), rows().end(), [&](const Dialect& dialect) {
-        return dialect.optionName == optionName;
-    });
-    return row == rows().end() ? nullptr : &*row;
-}
-
 void expand(std::string& out, std::string_view statement, const StatementValues& values) {
     while (!statement.empty()) {
         const auto open = std::min(statement.find('{'), statement.size());

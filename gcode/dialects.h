@@ -75,8 +75,6 @@ private:
 };
 // The row of a code; for any code without one, a row that writes no statement of any dialect.
 const Dialect& dialectFor(std::int16_t code);
-// The row of a command line name, or nothing.
-const Dialect* dialectNamed(std::string_view optionName);
 
 // What the places of a statement stand for.
 struct StatementValues {

@@ -13,7 +13,6 @@ namespace {
 
 // The constants are decimal, not the nearest doubles to pi: outputs depend on their digits.
 constexpr double pi = 3.14159265359;
-constexpr double fullTurn = 6.28318530718;
 constexpr double straightAngle = 3.1415927;
 constexpr double nearlyOne = 0.999999;
 
@@ -24,9 +23,9 @@ float length(float x, float y) {
 // Brings an angle into 0 to 2 pi by at most one turn each way.
 float corrected(float angle) {
     if (angle < 0)
-        angle = toSingle(angle + fullTurn);
-    if (angle > fullTurn)
-        angle = toSingle(angle - fullTurn);
+        angle = toSingle(angle + fullTurnRadians);
+    if (angle > fullTurnRadians)
+        angle = toSingle(angle - fullTurnRadians);
     return angle;
 }
 
@@ -42,7 +41,7 @@ double angleOf(float x, float y) {
         angle = straightAngle;
     else
         angle = std::atan(-cosine / std::sqrt(1 - cosine * cosine)) + 2 * std::atan(1.0);
-    return y < 0 ? fullTurn - angle : angle;
+    return y < 0 ? fullTurnRadians - angle : angle;
 }
 
 } // namespace

@@ -7,6 +7,8 @@ namespace torvik {
 struct Path;
 class Logger;
 
+inline constexpr double fullTurnRadians = 6.28318530718; // as the system rounds it
+
 // Fills the end point, the radius and the angles of a path whose start point and centre are set.
 // The sweep is in degrees, positive counter-clockwise. Raises Overflow where a result does not fit
 // a single.

@@ -2,6 +2,8 @@
 // The kinds of characters in a drawing's text.
 #pragma once
 
+#include "base/digits.h"
+
 #include <string_view>
 
 namespace torvik {
@@ -9,9 +11,6 @@ namespace torvik {
 inline constexpr char escape = '\x1b';
 inline constexpr std::string_view jobLineMark = "@PJL";
 
-inline bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 inline bool isLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "job/extents.h"
 
+#include "job/arc_geometry.h"
 #include "job/records.h"
 
 #include <algorithm>
@@ -11,7 +12,6 @@ namespace torvik {
 namespace {
 
 constexpr double quarterTurn = 1.570796326795;
-constexpr double fullTurn = 6.28318530718;
 constexpr double sameAngle = 0.01;
 
 // Whether the arc, counter-clockwise from its first to its second angle, passes the angle.
@@ -19,8 +19,8 @@ bool passes(const Path& arc, double angle) {
     if (isFullTurn(arc))
         return true;
     const double from = arc.sngAngleFrom;
-    const double to = arc.sngAngleTo < from ? arc.sngAngleTo + fullTurn : arc.sngAngleTo;
-    return (from <= angle && angle <= to) || angle + fullTurn <= to;
+    const double to = arc.sngAngleTo < from ? arc.sngAngleTo + fullTurnRadians : arc.sngAngleTo;
+    return (from <= angle && angle <= to) || angle + fullTurnRadians <= to;
 }
 
 } // namespace
@@ -52,7 +52,7 @@ void includePath(Extents& extents, const Path& path, double margin) {
 bool isFullTurn(const Path& arc) {
     double difference = std::fabs(double{arc.sngAngleFrom} - arc.sngAngleTo);
     if (difference > 6.2)
-        difference = std::fabs(difference - fullTurn);
+        difference = std::fabs(difference - fullTurnRadians);
     return difference <= sameAngle;
 }
 

@@ -65,13 +65,14 @@ private:
     std::size_t m_return = unknown;
 };
 
-// Some editors write two bytes for each letter, in which nothing can be read.
+} // namespace
+
 void requireSingleBytes(std::string_view bytes, const std::string& fileName) {
-    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+    const auto isZero = [&](std::size_t i) { return bytes[i] == '\0'; };
+    const bool hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    if (hasMark || (bytes.size() >= 4 && isZero(0) != isZero(1) && isZero(2) != isZero(3)))
         throw FileError(fileName, "this text is in UTF-16; please save the drawing as plain text");
 }
-
-} // namespace
 
 void readInstructions(Drawing& drawing, std::string bytes, std::string_view fileName,
                       Logger& logger) {

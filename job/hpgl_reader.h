@@ -33,6 +33,9 @@ bool blnGetCommands(Job& job, const std::filesystem::path& file, Logger& logger,
 void readInstructions(Drawing& drawing, std::string bytes, std::string_view fileName,
                       Logger& logger);
 
+// Some editors write two bytes for each letter, in which nothing can be read. Raises FileError.
+void requireSingleBytes(std::string_view bytes, const std::string& fileName);
+
 // Whether a file of these bytes holds nothing but the five instructions, as they are to be written,
 // and IN. In such a drawing an arc is drawn with the pen up, too.
 bool isPlainDrawing(std::string bytes);

@@ -30,6 +30,31 @@ bool isMended(const ToolList& tools, std::ptrdiff_t place, const Places& theirs)
            !theirs.contains(keyOf(tools.gudtTools[place]));
 }
 
+// A record that cannot be read and was not there before may have been one of our tools.
+bool hasNewFault(const ToolList& tools, const Places& theirs) {
+    return std::any_of(theirs.begin(), theirs.end(), [&](const auto& tool) {
+        return tool.first.starts_with('?') && !tools.storedTools.contains(tool.first);
+    });
+}
+
+// What another copy has deleted.
+void removeDeleted(ToolList& tools, const Places& theirs, TakenOver& taken) {
+    if (hasNewFault(tools, theirs))
+        return;
+    for (std::int16_t place = tools.gintToolCount; place >= 1; --place) {
+        const Tool& tool = tools.gudtTools[place];
+        const auto before = tools.storedTools.find(keyOf(tool));
+        if (before == tools.storedTools.end() || theirs.contains(before->first))
+            continue;
+        if (before->second == recordOf(tool)) {
+            deleteTool(tools, place);
+            taken.removed.push_back(place);
+        } else {
+            taken.overruled.push_back(tool.intNumber);
+        }
+    }
+}
+
 } // namespace
 
 std::map<std::string, std::string> recordsByTool(const OneBasedArray<Tool>& tools) {
@@ -39,8 +64,18 @@ std::map<std::string, std::string> recordsByTool(const OneBasedArray<Tool>& tool
     return records;
 }
 
-std::vector<std::int16_t> takeOverTools(ToolList& tools, const OneBasedArray<Tool>& stored) {
-    std::vector<std::int16_t> overruled;
+std::int16_t placeAfter(std::int16_t place, const std::vector<std::int16_t>& removed) {
+    for (const std::int16_t gone : removed) {
+        if (place == gone)
+            return 0;
+        if (place > gone)
+            --place;
+    }
+    return place;
+}
+
+TakenOver takeOverTools(ToolList& tools, const OneBasedArray<Tool>& stored, bool isWhole) {
+    TakenOver taken;
     const Places theirs = placesByTool(stored, stored.count());
     const Places ours = placesByTool(tools.gudtTools, tools.gintToolCount);
     for (std::ptrdiff_t place = 1; place <= stored.count(); ++place) {
@@ -54,7 +89,7 @@ std::vector<std::int16_t> takeOverTools(ToolList& tools, const OneBasedArray<Too
         const auto own = ours.find(key);
         if (own == ours.end()) {
             if (!isNew)
-                overruled.push_back(theirTool.intNumber);
+                taken.overruled.push_back(theirTool.intNumber);
             else if (isMended(tools, place, theirs))
                 tools.gudtTools[place] = theirTool;
             else if (!record.empty())
@@ -66,9 +101,11 @@ std::vector<std::int16_t> takeOverTools(ToolList& tools, const OneBasedArray<Too
         if (!isNew && ourRecord == before->second)
             ourTool = theirTool;
         else if (ourRecord != record)
-            overruled.push_back(theirTool.intNumber);
+            taken.overruled.push_back(theirTool.intNumber);
     }
-    return overruled;
+    if (isWhole)
+        removeDeleted(tools, theirs, taken);
+    return taken;
 }
 
 void takeOverTypes(ToolList& tools, const std::vector<std::string>& stored) {

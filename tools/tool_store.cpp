@@ -4,7 +4,6 @@
 #include "base/error_trap.h"
 #include "base/picture.h"
 #include "tools/stored_entries.h"
-#include "tools/tool_merge.h"
 #include "tools/tool_record.h"
 
 namespace torvik {
@@ -35,6 +34,7 @@ Tool readTool(std::optional<std::string> text, std::string& fault) {
 struct StoredTools {
     OneBasedArray<Tool> tools;
     std::string fault; // of the count and the records, empty for none
+    bool isWhole;      // a count is stored, and right
 };
 
 std::string recordsFault(const std::string& first, int count) {
@@ -46,7 +46,7 @@ std::string recordsFault(const std::string& first, int count) {
 
 StoredTools readTools(const RegistryReader& registry) {
     StoredEntries entries = readEntries(registry, toolCount, toolKind);
-    StoredTools stored;
+    StoredTools stored{{}, {}, registry.wholeText(toolCount) && entries.fault.empty()};
     std::string first;
     int unreadable = 0;
     for (auto& text : entries.texts) {
@@ -61,10 +61,11 @@ StoredTools readTools(const RegistryReader& registry) {
     return stored;
 }
 
+// A type of another program may be longer than one of ours: it is kept as it is.
 std::vector<std::string> typesOf(const StoredEntries& entries) {
     std::vector<std::string> types;
     for (const auto& text : entries.texts)
-        types.push_back(text && isReadableLength(*text) ? *text : "");
+        types.push_back(text.value_or(""));
     return types;
 }
 
@@ -103,19 +104,21 @@ void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logge
     });
 }
 
-std::vector<std::int16_t> ToolDataSave(ToolList& tools, Registry& registry, Logger& logger) {
-    std::vector<std::int16_t> overruled;
+TakenOver ToolDataSave(ToolList& tools, Registry& registry, Logger& logger) {
+    TakenOver taken;
     tools.toolsUnsaved = true;
     withErrorTrap(logger, {"ToolDataSave", module}, [&] {
         Registry::Batch together(registry);
-        if (together.isOpen())
-            overruled = takeOverTools(tools, readTools(registry).tools);
+        if (together.isOpen()) {
+            const StoredTools stored = readTools(registry);
+            taken = takeOverTools(tools, stored.tools, stored.isWhole);
+        }
         putTools(tools, registry, together.isOpen());
         tools.toolsUnsaved = !together.save();
         if (!tools.toolsUnsaved)
             tools.storedTools = recordsByTool(asStored(tools));
     });
-    return overruled;
+    return taken;
 }
 
 void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger) {

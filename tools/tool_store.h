@@ -8,9 +8,7 @@
 #include "base/logger.h"
 #include "tools/registry.h"
 #include "tools/tool_list.h"
-
-#include <cstdint>
-#include <vector>
+#include "tools/tool_merge.h"
 
 namespace torvik {
 
@@ -20,10 +18,9 @@ namespace torvik {
 void ToolDataLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);
 
 // Writes the count and every tool, after the changes of other copies of the program were taken over
-// (tool_merge.h); answers the numbers of the tools that both changed, ours being saved. Records
-// above the count, and those that could not be read and have not moved, are left as they are. Where
-// the saving fails, toolsUnsaved says so.
-std::vector<std::int16_t> ToolDataSave(ToolList& tools, Registry& registry, Logger& logger);
+// (tool_merge.h). Records above the count, and those that could not be read and have not moved, are
+// left as they are. Where the saving fails, toolsUnsaved says so.
+TakenOver ToolDataSave(ToolList& tools, Registry& registry, Logger& logger);
 
 // The same for gstrUserToolTypes, whose texts have no separators.
 void ToolTypeUserLoad(ToolList& tools, const RegistryReader& registry, Logger& logger);

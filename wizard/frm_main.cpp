@@ -50,6 +50,16 @@ QPushButton* button(const QString& name, const QString& text, const QString& hel
     return result;
 }
 
+// Keeps the scroll bar's room free beside the page while it is hidden: nothing moves when it comes.
+void keepRoomForBar(const QScrollArea& area) {
+    const QScrollBar* const bar = area.verticalScrollBar();
+    const auto keep = [page = area.widget(), bar](int min, int max) {
+        page->setContentsMargins(0, 0, max > min ? 0 : bar->sizeHint().width(), 0);
+    };
+    QObject::connect(bar, &QScrollBar::rangeChanged, area.widget(), keep);
+    keep(bar->minimum(), bar->maximum());
+}
+
 // A page that scrolls where the window is smaller than its form. The control with the focus is
 // never out of sight.
 QScrollArea* scrolling(QWidget* page) {
@@ -58,9 +68,8 @@ QScrollArea* scrolling(QWidget* page) {
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setMinimumWidth(
-        std::min(widestMinimum,
-                 page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width()));
+    keepRoomForBar(*area);
+    area->setMinimumWidth(std::min(widestMinimum, page->minimumSizeHint().width()));
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
         if (now != nullptr && area->widget()->isAncestorOf(now))
             area->ensureWidgetVisible(now);

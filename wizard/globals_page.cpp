@@ -2,11 +2,15 @@
 #include "wizard/globals_page.h"
 
 #include "answers/job_checks.h"
+#include "answers/pen_values.h"
 #include "base/error_trap.h"
 #include "base/picture.h"
+#include "check/sense/sense.h"
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
+#include "forms/quiet_line.h"
+#include "wizard/host/finding_texts.h"
 #include "wizard/host/wizard_host.h"
 #include "wizard/host/workshop.h"
 #include "wizard/pens/pen_controls.h"
@@ -17,12 +21,14 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include <limits>
 #include <string_view>
 
 namespace torvik {
 namespace {
 
 constexpr int helpHeights = 2;
+constexpr int linesKept = 2;
 
 struct Height {
     const char* name;
@@ -70,6 +76,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     auto* const form = new QGridLayout;
     form->setColumnStretch(3, 1);
     const auto changed = [this] {
+        sayHeights();
         if (m_workshop.job.gintWizardStep == 2)
             m_host.setNextEnabled(isFilled());
     };
@@ -99,6 +106,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
         m_units[static_cast<std::size_t>(i)] = option;
     }
 
+    m_quiet = new QuietLine(QStringLiteral("lblQuietHeights"), linesKept);
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->addWidget(makePageTitle(tr("Heights and units for the whole job")));
@@ -106,6 +114,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     layout->addWidget(m_damage);
     layout->addWidget(explanation);
     layout->addLayout(form);
+    layout->addWidget(m_quiet);
     layout->addWidget(units);
     layout->addStretch(1);
 }
@@ -115,6 +124,23 @@ HeightTexts GlobalsPage::texts() const {
     for (std::size_t i = 0; i < texts.size(); ++i)
         texts[i] = m_heights[i]->text().toStdString();
     return texts;
+}
+
+void GlobalsPage::sayHeights() {
+    std::array<float, heightFields.size()> typed{};
+    QuietLine::Texts missing;
+    for (std::size_t i = typed.size(); i-- > 0;) {
+        const std::string text = m_heights[i]->text().toStdString();
+        typed[i] = text.empty() ? std::numeric_limits<float>::quiet_NaN()
+                                : static_cast<float>(boxNumber(text));
+        if (text.empty())
+            missing = {{tr("%1 is empty").arg(tr(heights[i].name))}};
+    }
+    check::Findings findings;
+    check::findHeightSense(typed[0], typed[1], typed[2], findings);
+    QuietLine::Texts texts = findingTexts(findings);
+    texts.resize(std::min<std::size_t>(texts.size(), 1));
+    m_quiet->say(texts.empty() ? missing : texts);
 }
 
 void GlobalsPage::SaveGlobals() {
@@ -132,7 +158,10 @@ void GlobalsPage::RestoreGlobals() {
             m_heights[i]->setText(height == 0 ? QString()
                                               : QString::fromStdString(formatFixed(height, 0)));
         }
-        m_units[isPerMinute(answers) ? 0 : 1]->setChecked(true);
+        const std::size_t chosen = isPerMinute(answers) ? 0 : 1;
+        m_units[chosen]->setChecked(true);
+        m_units[chosen]->setFocusPolicy(Qt::StrongFocus); // the Tab key leads to the chosen one
+        m_units[1 - chosen]->setFocusPolicy(Qt::ClickFocus);
     });
 }
 

@@ -15,6 +15,7 @@ class QRadioButton;
 namespace torvik {
 
 class NumberBox;
+class QuietLine;
 struct Workshop;
 class WizardHost;
 
@@ -42,12 +43,15 @@ public:
 
 private:
     HeightTexts texts() const;
+    // What is missing or wrong with the heights, of all that the worst.
+    void sayHeights();
 
     Workshop& m_workshop;
     WizardHost& m_host;
     std::array<NumberBox*, 3> m_heights{};
     std::array<QRadioButton*, 2> m_units{};
     QLabel* m_damage = nullptr;
+    QuietLine* m_quiet = nullptr;
 };
 
 } // namespace torvik

@@ -4,10 +4,13 @@
 #include "answers/job_checks.h"
 #include "answers/saved_names.h"
 #include "base/error_trap.h"
+#include "base/picture.h"
 #include "base/text.h"
 #include "forms/comment_box.h"
 #include "forms/dialog_places.h"
 #include "forms/form_fields.h"
+#include "forms/quiet_line.h"
+#include "wizard/host/finding_texts.h"
 #include "wizard/host/workshop.h"
 
 #include <QDate>
@@ -64,19 +67,48 @@ HeaderPage::HeaderPage(Workshop& workshop, QWidget* parent)
         if (needed)
             caption->setText(caption->text() + QStringLiteral(" *"));
         keepCommentWhole(*box);
+        if (i >= headerBilletX)
+            connect(box, &QLineEdit::textChanged, this, [this] { sayBillet(); });
         m_boxes[static_cast<std::size_t>(i)] = box;
     }
+    m_quiet = new QuietLine(QStringLiteral("lblQuietHeader"));
     auto* const note = new QLabel(tr("* must be filled"));
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->addWidget(makePageTitle(tr("Details of the job")));
     layout->addLayout(form);
     layout->addWidget(note);
+    layout->addWidget(m_quiet);
     layout->addStretch(1);
+}
+
+void HeaderPage::sayBillet() {
+    if (m_reach.area.empty()) {
+        m_quiet->say({});
+        return;
+    }
+    const auto number = [](double length) {
+        return QString::fromStdString(formatFixed(length, 2));
+    };
+    const auto& [minX, minY, maxX, maxY] = m_reach.area;
+    QuietLine::Texts texts{
+        {tr("The cuts reach from X %1 to %2 mm and from Y %3 to %4 mm, and go %5 mm deep.")
+             .arg(number(minX), number(maxX), number(minY), number(maxY),
+                  number(m_reach.deepest))}};
+    const auto typed = [this](HeaderField field) { return m_boxes[field]->text().toStdString(); };
+    check::Findings findings;
+    check::findBilletSense(
+        m_workshop.job, m_reach,
+        check::billetOf(typed(headerBilletX), typed(headerBilletY), typed(headerBilletZ)),
+        findings);
+    const auto found = findingTexts(findings);
+    texts.insert(texts.end(), found.begin(), found.end());
+    m_quiet->say(texts);
 }
 
 void HeaderPage::fill() {
     const Job& job = m_workshop.job;
+    m_reach = check::reachOf(job, m_workshop.tools);
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
         m_boxes[i]->setText(QString::fromStdString(job.answers.gstrHeader[static_cast<long>(i)]));
     if (trimmed(*m_boxes[headerDate]).isEmpty())
@@ -87,6 +119,7 @@ void HeaderPage::fill() {
             QString::fromStdString(proposedPartName(job.drawing.gstrPlotFile)));
     for (QLineEdit* const box : m_boxes)
         mendComment(*box);
+    sayBillet();
     for (QLineEdit* const box : m_boxes) {
         if (trimmed(*box).isEmpty()) {
             box->setFocus();

@@ -2,6 +2,8 @@
 // Step 5: who makes the part, of what, and the billet's size.
 #pragma once
 
+#include "check/sense/sense.h"
+
 #include <QWidget>
 
 #include <array>
@@ -10,6 +12,7 @@ class QLineEdit;
 
 namespace torvik {
 
+class QuietLine;
 struct Workshop;
 
 class HeaderPage : public QWidget {
@@ -27,8 +30,13 @@ public:
     bool blnHeaderDone();
 
 private:
+    // What the billet must hold, and what of that it does not.
+    void sayBillet();
+
     Workshop& m_workshop;
     std::array<QLineEdit*, 9> m_boxes{};
+    QuietLine* m_quiet = nullptr;
+    check::Reach m_reach; // of the job when the page was filled
 };
 
 } // namespace torvik

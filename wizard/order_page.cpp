@@ -3,11 +3,15 @@
 
 #include "base/error_trap.h"
 #include "base/numbers.h"
+#include "check/sense/sense.h"
 #include "forms/dialog_places.h"
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
+#include "forms/quiet_line.h"
 #include "job/pens.h"
+#include "wizard/host/finding_texts.h"
 #include "wizard/host/workshop.h"
+#include "wizard/order_words.h"
 #include "wizard/pen_pictures.h"
 #include "wizard/pens/pen_controls.h"
 
@@ -24,6 +28,7 @@ namespace {
 
 constexpr int helpOrder = 4;
 constexpr int pictureSide = 24;
+constexpr int linesKept = 5;
 
 std::int16_t penOf(const QLabel& label) {
     return toInt16(leadingNumber(label.property(tagProperty).toString().toStdString()));
@@ -47,6 +52,8 @@ OrderPage::OrderPage(Workshop& workshop, QWidget* parent) : QWidget(parent), m_w
     layout->addWidget(makePageTitle(tr("Machining order")));
     layout->addWidget(explanation);
     layout->addLayout(middle, 1);
+    m_quiet = new QuietLine(QStringLiteral("lblQuietOrder"), linesKept);
+    layout->addWidget(m_quiet);
 }
 
 QWidget* OrderPage::buildList() {
@@ -99,23 +106,36 @@ void OrderPage::ShowOrder(std::int16_t /*direction*/) {
         }
         if (!m_rows.empty())
             select(1);
+        sayOrder();
     });
 }
 
 void OrderPage::addRow(std::int16_t pen) {
     const auto number = static_cast<int>(m_rows.size()) + 1;
-    Row row{new QWidget, new QLabel, new QLabel};
+    Row row{new QWidget, new QLabel, new QLabel, new QLabel};
     row.picOrd->setObjectName(QStringLiteral("picOrd%1").arg(number));
     row.lblOrd->setObjectName(QStringLiteral("lblOrd%1").arg(number));
     row.picOrd->setFocusPolicy(Qt::StrongFocus);
-    row.lblOrd->setAutoFillBackground(false);
-    row.lblOrd->setContentsMargins(6, 0, 6, 0);
+    row.lblOrdWork->setObjectName(QStringLiteral("lblOrdWork%1").arg(number));
+    // The first line of both stands beside the picture's middle.
+    const int above = std::max(0, (pictureSide - fontMetrics().height()) / 2);
+    row.lblOrd->setContentsMargins(6, above, 0, above);
+    row.lblOrdWork->setContentsMargins(0, above, 6, above);
+    row.lblOrd->setAlignment(Qt::AlignTop);
+    row.lblOrdWork->setAlignment(Qt::AlignTop);
+    row.lblOrdWork->setTextFormat(Qt::PlainText);
+    row.lblOrdWork->setWordWrap(true);
     row.frame->setCursor(Qt::OpenHandCursor);
     auto* const layout = new QHBoxLayout(row.frame);
     layout->setContentsMargins(6, 3, 6, 3);
-    layout->addWidget(row.picOrd);
-    layout->addWidget(row.lblOrd, 1);
-    for (QWidget* const widget : std::initializer_list<QWidget*>{row.frame, row.picOrd, row.lblOrd})
+    layout->addWidget(row.picOrd, 0, Qt::AlignTop);
+    auto* const texts = new QHBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(row.lblOrd);
+    texts->addWidget(row.lblOrdWork, 1);
+    layout->addLayout(texts, 1);
+    for (QWidget* const widget :
+         std::initializer_list<QWidget*>{row.frame, row.picOrd, row.lblOrd, row.lblOrdWork})
         widget->installEventFilter(this);
     m_rowsLayout->insertWidget(number - 1, row.frame);
     m_rows.push_back(row);
@@ -130,6 +150,22 @@ void OrderPage::showPen(const Row& row, std::int16_t pen) {
     row.picOrd->setAccessibleName(colour);
     row.lblOrd->setText(colour);
     row.lblOrd->setProperty(tagProperty, QString::number(pen));
+    const QString work = machiningText(job.answers, m_workshop.tools, pen);
+    row.lblOrdWork->setText(work.isEmpty() ? work : QStringLiteral("\u00A0– ") + work);
+    row.lblOrdWork->setAccessibleName(work);
+}
+
+void OrderPage::sayOrder() {
+    std::vector<std::int16_t> order;
+    for (const Row& row : m_rows)
+        order.push_back(penOf(*row.lblOrd));
+    check::Findings findings;
+    check::findOrderSense(m_workshop.job, m_workshop.tools, order, findings);
+    QuietLine::Texts texts = findingTexts(findings);
+    if (findings.count(check::Kind::toolChanges) == 0)
+        texts.push_back({tr("Tool changes: %1")
+                             .arg(check::toolChanges(m_workshop.job, m_workshop.tools, order))});
+    m_quiet->say(texts);
 }
 
 void OrderPage::select(std::int16_t row) {
@@ -157,11 +193,14 @@ void OrderPage::ListItemClicked(std::int16_t row, std::int16_t pen) {
 }
 
 void OrderPage::highlight(std::int16_t row, bool selected) {
-    QLabel* const label = m_rows[static_cast<std::size_t>(row - 1)].lblOrd;
-    label->setAutoFillBackground(selected);
-    label->setBackgroundRole(selected ? QPalette::Highlight : QPalette::Base);
-    label->setForegroundRole(selected ? QPalette::HighlightedText : QPalette::Text);
-    label->setAccessibleName(selected ? tr("%1, selected").arg(label->text()) : label->text());
+    const Row& shown = m_rows[static_cast<std::size_t>(row - 1)];
+    for (QLabel* const label : {shown.lblOrd, shown.lblOrdWork}) {
+        label->setAutoFillBackground(selected);
+        label->setBackgroundRole(selected ? QPalette::Highlight : QPalette::Base);
+        label->setForegroundRole(selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+    const QString colour = shown.lblOrd->text();
+    shown.lblOrd->setAccessibleName(selected ? tr("%1, selected").arg(colour) : colour);
 }
 
 void OrderPage::ColourReOrder(std::int16_t step) {
@@ -177,6 +216,7 @@ void OrderPage::ColourReOrder(std::int16_t step) {
         showPen(from, penOf(*to.lblOrd));
         showPen(to, pen);
         ListItemClicked(newRow, pen);
+        sayOrder();
         if (from.picOrd->hasFocus())
             to.picOrd->setFocus();
     });
@@ -206,7 +246,8 @@ void OrderPage::readOrder() {
 
 std::int16_t OrderPage::rowOf(const QObject* widget) const {
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        if (widget == m_rows[i].frame || widget == m_rows[i].picOrd || widget == m_rows[i].lblOrd)
+        if (widget == m_rows[i].frame || widget == m_rows[i].picOrd || widget == m_rows[i].lblOrd ||
+            widget == m_rows[i].lblOrdWork)
             return static_cast<std::int16_t>(i + 1);
     return 0;
 }

@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace torvik {
 
+class QuietLine;
 struct Workshop;
 
 class OrderPage : public QWidget {
@@ -39,17 +40,21 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // One row: picOrd and lblOrd, whose property "Tag" holds the pen's number as text.
+    // One row: picOrd and lblOrd, whose property "Tag" holds the pen's number as text, and beside
+    // it how the pen is machined.
     struct Row {
         QWidget* frame;
         QLabel* picOrd;
         QLabel* lblOrd;
+        QLabel* lblOrdWork;
     };
 
     QWidget* buildList();
     QWidget* buildButtons();
     void addRow(std::int16_t pen);
     void showPen(const Row& row, std::int16_t pen);
+    // Below the rows: the tool changes, and what makes no sense in this order.
+    void sayOrder();
     void highlight(std::int16_t row, bool selected);
     // The row that shows the widget, 0 for none; the row at a height of the list.
     std::int16_t rowOf(const QObject* widget) const;
@@ -59,6 +64,7 @@ private:
 
     Workshop& m_workshop;
     QWidget* m_list = nullptr;
+    QuietLine* m_quiet = nullptr;
     QVBoxLayout* m_rowsLayout = nullptr;
     QPushButton* m_up = nullptr;
     QPushButton* m_down = nullptr;

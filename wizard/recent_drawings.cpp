@@ -21,11 +21,10 @@ QStringList recentDrawings() {
 
 void addRecentDrawing(const std::filesystem::path& drawing) {
     const QString name = QString::fromStdString(utf8FromPath(drawing));
-    const auto settings = ownSettings();
-    QStringList names = settings->value(recentKey).toStringList();
+    QStringList names = ownSettings()->value(recentKey).toStringList();
     names.removeAll(name);
     names.prepend(name);
-    settings->setValue(recentKey, QStringList(names.mid(0, maxRecentDrawings)));
+    saveOwnSetting(recentKey, QStringList(names.mid(0, maxRecentDrawings)));
 }
 
 } // namespace torvik

@@ -189,6 +189,7 @@ void WizardDriver::selectTool() {
         dialog.exec();
         emit toolsUnsaved(m_workshop.tools.toolsUnsaved || m_workshop.tools.typesUnsaved);
         const std::int16_t chosen = dialog.chosenPosition();
+        before.follow(m_workshop.job, dialog.removedPlaces());
         if (dialog.hasDeleted())
             warnOfToolChanges(before, chosen);
         m_controls.pens->ToolSelection(chosen);

@@ -6,6 +6,8 @@
 #include "check/command/program_files.h"
 #include "check/command/report_text.h"
 #include "commands/drawing_run.h"
+#include "commands/program_run.h"
+#include "commands/waiting.h"
 
 #include <algorithm>
 #include <ostream>
@@ -25,9 +27,7 @@ public:
         : m_options(options), m_out(out), m_err(err) {}
 
     int run() {
-        const auto say = [this](std::string_view message) {
-            m_err << programName << ": " << message << '\n';
-        };
+        const auto say = [this](std::string_view message) { this->say(message); };
         const int named = runEach(
             m_options.files, [this](std::size_t i) { find(m_options.files[i]); }, say);
         begin();
@@ -41,6 +41,8 @@ public:
     }
 
 private:
+    void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
+
     void find(const fs::path& path) {
         for (const fs::path& program : programsOf(path))
             m_programs.push_back(program);
@@ -53,8 +55,13 @@ private:
             m_out << tableHead(m_width);
     }
 
+    ProgramBytes read(const fs::path& path) {
+        const WaitingNotice notice({path}, [this](std::string_view message) { say(message); });
+        return readProgramFile(path);
+    }
+
     void check(const fs::path& path) {
-        const ProgramBytes bytes = readProgramFile(path);
+        const ProgramBytes bytes = read(path);
         const Report report = checkProgram(bytes.program, bytes.sideText, m_options.target);
         m_areGood = m_areGood && report.findings.isGood();
         print(utf8FromPath(path), report);
@@ -86,30 +93,13 @@ private:
     bool m_isFirst = true;
 };
 
-int doAsTold(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
-    if (!options) {
-        err << programName << ": " << usageError << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (options->action == CheckOptions::Action::help)
-        out << helpText();
-    else if (options->action == CheckOptions::Action::version)
-        out << programName << " " TORVIK_VERSION "\n";
-    else
-        return Checker(*options, out, err).run();
-    return static_cast<int>(ExitCode::done);
-}
-
 } // namespace
 
 int runChecker(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(std::move(arguments), out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    std::string usageError;
+    const auto options = parseOptions(std::move(arguments), usageError);
+    return runProgram({programName, out, err}, options, usageError, helpText,
+                      [&] { return Checker(*options, out, err).run(); });
 }
 
 } // namespace torvik::check

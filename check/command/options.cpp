@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/command/options.h"
 
-#include "commands/option_table.h"
+#include "commands/target_names.h"
 
 #include <utility>
 
@@ -17,18 +17,11 @@ enum OptionCode : int {
     optionVersion = 'v',
 };
 
-std::string targetNames() {
-    std::string names;
-    for (const Target& target : targets())
-        names.append(names.empty() ? "" : ", ").append(target.optionName);
-    return names;
-}
-
 const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
         {"target", optionTarget, "NAME",
          "the control that the programs are for (default: each\nprogram's beginning tells it): " +
-             targetNames()},
+             targetNames(targets())},
         {"quiet", optionQuiet, nullptr, "print what is dangerous or wrong, and nothing else"},
         {"table", optionTable, nullptr, "print one line for each program"},
         {"json", optionJson, nullptr, "print everything as JSON, for other programs"},
@@ -36,12 +29,6 @@ const std::vector<OptionRow>& rows() {
         {"version", optionVersion, nullptr, "print the version"},
     };
     return table;
-}
-
-void setTarget(CheckOptions& options, const std::string& name) {
-    options.target = targetNamed(name);
-    if (options.target == nullptr)
-        throw UsageError("there is no target \"" + name + "\" (one of " + targetNames() + ")");
 }
 
 void setForm(CheckOptions& options, CheckOptions::Form form) {
@@ -53,7 +40,7 @@ void setForm(CheckOptions& options, CheckOptions::Form form) {
 void take(CheckOptions& options, int code, const char* value) {
     switch (code) {
     case optionTarget:
-        setTarget(options, value);
+        options.target = &targetNamed(targets(), value);
         break;
     case optionQuiet:
         options.quiet = true;

@@ -5,7 +5,7 @@
 namespace torvik::check {
 namespace {
 
-std::string quoted(std::string_view text) {
+std::string jsonText(std::string_view text) {
     std::string out = "\"";
     for (const char c : text) {
         if (c == '"' || c == '\\')
@@ -18,7 +18,7 @@ std::string quoted(std::string_view text) {
 
 // "NAME":VALUE, with a comma before all but the first.
 void putField(std::string& object, std::string_view name, const std::string& value) {
-    object.append(object.back() == '{' ? "" : ",").append(quoted(name)).append(":").append(value);
+    object.append(object.back() == '{' ? "" : ",").append(jsonText(name)).append(":").append(value);
 }
 
 std::string numberText(double number, int decimals) {
@@ -29,9 +29,9 @@ std::string findingJson(const Finding& finding) {
     const KindRow& row = rowOf(finding.kind);
     std::string object = "{";
     putField(object, "line", formatInteger(static_cast<long>(finding.line)));
-    putField(object, "kind", quoted(row.name));
-    putField(object, "level", quoted(levelName(row.level)));
-    putField(object, "sentence", quoted(sentenceOf(finding)));
+    putField(object, "kind", jsonText(row.name));
+    putField(object, "level", jsonText(levelName(row.level)));
+    putField(object, "sentence", jsonText(sentenceOf(finding)));
     return object + "}";
 }
 
@@ -63,9 +63,9 @@ std::string reportJson(std::string_view file, const Report& report, bool quiet) 
         if (!quiet || rowOf(finding.kind).level >= Level::wrong)
             findings += (findings.empty() ? "" : ",\n  ") + findingJson(finding);
     std::string object = "{";
-    putField(object, "file", quoted(file));
+    putField(object, "file", jsonText(file));
     putField(object, "control",
-             report.target == nullptr ? "null" : quoted(report.target->optionName));
+             report.target == nullptr ? "null" : jsonText(report.target->optionName));
     putField(object, "findings", "[" + findings + "]");
     putField(object, "summary", summaryJson(report));
     return object + "}";

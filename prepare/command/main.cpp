@@ -11,7 +11,6 @@ int main(int argc, char** argv) {
     torvik::tidyUpWhenStopped();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("torvik-prepare"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));
     // What the renderer passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     return torvik::runPreparer(QCoreApplication::arguments(), std::cout, std::cerr);

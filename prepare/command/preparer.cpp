@@ -6,13 +6,12 @@
 #include "base/whole_file.h"
 #include "commands/drawing_run.h"
 #include "commands/overwriting.h"
+#include "commands/program_run.h"
 #include "commands/waiting.h"
 #include "job/hpgl_reader.h"
 #include "prepare/command/options.h"
 #include "prepare/files/drawing_files.h"
 #include "prepare/report.h"
-
-#include <QCoreApplication>
 
 #include <ostream>
 
@@ -90,32 +89,15 @@ private:
     std::ostream& m_err;
 };
 
-int doAsTold(const QStringList& arguments, std::ostream& out, std::ostream& err) {
-    QString usageError;
-    const auto command = parsePrepareCommand(arguments, usageError);
-    if (!command) {
-        err << programName << ": " << usageError.toStdString() << " (see --help)\n";
-        return static_cast<int>(ExitCode::usage);
-    }
-    if (command->action == PrepareCommand::Action::help) {
-        out << prepareHelpText().toStdString();
-        return static_cast<int>(ExitCode::done);
-    }
-    if (command->action == PrepareCommand::Action::version) {
-        out << programName << ' ' << QCoreApplication::applicationVersion().toStdString() << '\n';
-        return static_cast<int>(ExitCode::done);
-    }
-    return Preparer(*command, out, err).run();
-}
-
 } // namespace
 
 int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& err) {
-    const int code = doAsTold(arguments, out, err);
-    if (out.flush())
-        return code;
-    err << programName << ": the standard output cannot be written\n";
-    return code == 0 ? static_cast<int>(ExitCode::file) : code;
+    QString usageError;
+    const auto command = parsePrepareCommand(arguments, usageError);
+    return runProgram(
+        {programName, out, err}, command, usageError.toStdString(),
+        [] { return prepareHelpText().toStdString(); },
+        [&] { return Preparer(*command, out, err).run(); });
 }
 
 } // namespace torvik

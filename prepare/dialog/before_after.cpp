@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/dialog/before_after.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -97,6 +98,7 @@ void BeforeAfter::connectViews() {
             to->setPlace(place);
         });
         connect(from, &DrawingView::fitWanted, this, &BeforeAfter::fit);
+        from->installEventFilter(this);
     };
     link(m_before, m_after);
     link(m_after, m_before);
@@ -132,18 +134,18 @@ void BeforeAfter::fit() {
     m_fitted = true;
     const double width = std::max(m_bounds.width(), leastSide);
     const double height = std::max(m_bounds.height(), leastSide);
-    const double across = std::max(m_before->width() - 2 * border, 1.0) / width;
-    const double down = std::max(m_before->height() - 2 * border, 1.0) / height;
+    const QSize room = m_before->size().boundedTo(m_after->size()); // a long count widens its view
+    const double across = std::max(room.width() - 2 * border, 1.0) / width;
+    const double down = std::max(room.height() - 2 * border, 1.0) / height;
     const ViewPlace place{std::min(across, down), m_bounds.center()};
     m_before->setPlace(place);
     m_after->setPlace(place);
 }
 
-void BeforeAfter::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    layout()->activate();
-    if (m_fitted)
+bool BeforeAfter::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && m_fitted)
         fit();
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace torvik

@@ -8,7 +8,7 @@
 namespace torvik {
 namespace {
 
-constexpr int deepest = 16; // halvings
+constexpr int mostHalvings = 16;
 
 // A cubic curve is no farther from its chord than this part of its control points' distance from
 // where they would stand on an evenly drawn line.
@@ -21,7 +21,7 @@ double distanceFromChord(Point start, const Segment& curve) {
 // The halves of a curve, by the middles of the lines between its control points.
 void addChords(Point start, const Segment& curve, double tolerance, int depth,
                std::vector<Point>& ends) {
-    if (depth == deepest || distanceFromChord(start, curve) <= tolerance) {
+    if (depth == mostHalvings || distanceFromChord(start, curve) <= tolerance) {
         ends.push_back(curve.end);
         return;
     }

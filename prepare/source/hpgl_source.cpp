@@ -78,6 +78,7 @@ void requireDrawing(const SourceReport& report, std::string_view fileName) {
 
 SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
                        const HpglSourceOptions& options) {
+    requireSingleBytes(bytes, std::string(fileName));
     SourceDrawing drawing;
     Scanner scanner(bytes);
     try {

@@ -44,7 +44,7 @@ TEST(SavedAnswers, AGroupIsCompleteWhenItsToolIsStillInTheList) {
     answers.pens[0].own.toolNumber = 12;
     answers.pens[0].holes[0].toolNumber = 8;
     answers.pens[0].holes[2].toolNumber = 7;
-    takeAnswers(job, answers, tools, logger);
+    takeAnswers(job, answers, tools);
     std::string places;
     for (const Settings& group : job.answers.gudtSettings)
         places += std::to_string(group.intTool) + (group.blnComplete ? "+ " : "- ");

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "base/file_calls.h"
 #include "base/files.h"
+#include "base/pending_name.h"
 #include "base/stop_signals.h"
 #include "base/whole_file.h"
 #include "tests/base/temporary_folder.h"
@@ -109,6 +111,13 @@ TEST_F(WholeFileTest, WhatNoFileCanReplaceIsRefused) {
         }
     }
     EXPECT_EQ(files(), (Files{{"a.txt", "old"}}));
+}
+
+TEST_F(WholeFileTest, IsWrittenUnderANameThatNobodyElseHas) {
+    EXPECT_NE(PendingName(target, ".new").path(), PendingName(target, ".new").path());
+    fs::create_symlink(target, folder.path() / "planted");
+    for (const char* name : {"a.txt", "planted"})
+        EXPECT_LT(calls::createNew(folder.path() / name), 0) << name;
 }
 
 } // namespace

@@ -116,7 +116,7 @@ TEST(Check, EachKindIsFoundAtItsLine) {
         EXPECT_EQ(shown(report, Level::danger).size(), own) << testing::PrintToString(found);
         seen.insert(row.kind);
     }
-    EXPECT_EQ(seen.size(), kinds().size()) << "a kind has no row";
+    EXPECT_EQ(seen.size(), static_cast<std::size_t>(Kind::holeTwice) + 1) << "a kind has no row";
 }
 
 TEST(Check, WithoutToolAndList) {

@@ -178,6 +178,9 @@ TEST_F(Converter, NamesTheFileThatIsToBlame) {
     fs::resize_file(path("large.plt"), maxDrawingBytes + 1);
     EXPECT_EQ(run({"large.plt", "--target", "kestra"}),
               "2||torvik-convert: large.plt: the file is larger than 256 MB\n");
+    const std::string endless = run({"--show", "/dev/zero"}); // is longer than any drawing
+    EXPECT_TRUE(endless.starts_with("2||")) << endless;
+    EXPECT_TRUE(endless.ends_with("torvik-convert: /dev/zero: the file is larger than 256 MB\n"));
     EXPECT_EQ(run({"a.plt", "--target", "kestra", "--output-dir", "odd.ini/new"}),
               "2||torvik-convert: odd.ini/new: the folder cannot be created: Not a directory\n");
 }

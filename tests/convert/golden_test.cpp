@@ -7,6 +7,7 @@
 // {home} for the program's own.
 #include "answers/import_drawing.h"
 #include "base/logger.h"
+#include "commands/target_names.h"
 #include "gcode/dialects.h"
 #include "gcode/program_output.h"
 #include "gcode/program_size.h"
@@ -74,7 +75,8 @@ void expectCounted(const fs::path& folder, const char* target, const std::string
         muted);
     Job job;
     importDrawingWithAnswers(job, folder / "drawing.plt", tools, folder / "drawing.plx", muted);
-    EXPECT_EQ(programSize(job, tools, *dialectNamed(target)).lines, lineEndsIn(program)) << folder;
+    EXPECT_EQ(programSize(job, tools, targetNamed(dialects(), target)).lines, lineEndsIn(program))
+        << folder;
 }
 
 TEST(Golden, EachFolderGivesWhatItExpects) {

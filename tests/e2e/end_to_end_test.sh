@@ -103,10 +103,19 @@ afterCrash() {
   running=
 }
 
-# Whether Save could be pressed: it opens when the drawing has been prepared.
+# The mouse may come before a menu is open, a list of files filled or a button enabled. So each of these
+# says whether the click has had its effect, and clicks if not.
+chooseToPrepare() {
+  windowOf '^Prepare a Drawing$' ||
+    { isActive "$opening" && clickAt 20 10 && sleep 0.3 && clickAt 80 52 && sleep 1 && false; }
+}
+takeSource() {
+  ! windowOf '^Select the drawing to prepare$' ||
+    { isActive '^Select the drawing to prepare$' && clickAt 170 72 2 && sleep 1 && false; }
+}
 pressSave() {
   windowOf '^Save the prepared drawing$' ||
-    { isActive '^Prepare a Drawing$' && clickAt -135 -28 && false; }
+    { isActive '^Prepare a Drawing$' && clickAt -135 -28 && sleep 0.5 && false; }
 }
 
 # A drawing of another program, alone in the folder, by mouse alone.
@@ -117,12 +126,11 @@ preparing() {
   cp "$samples/prepare/badge.hpgl" "$samplesFolder/"
   startProgram
   waitFor "$opening"
-  clickAt 20 10 # File, then its second entry
-  clickAt 80 52
+  until_ 'the menu does not open the dialog' chooseToPrepare
   waitFor '^Prepare a Drawing$'
   clickAt 50 22
   waitFor '^Select the drawing to prepare$'
-  clickAt 170 72 2
+  until_ 'no drawing is chosen' takeSource
   until_ 'the drawing cannot be saved' pressSave
   waitFor '^Save the prepared drawing$'
   clickAt -52 -54

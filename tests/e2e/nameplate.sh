@@ -19,7 +19,7 @@ cut() {
 answerNameplate() {
   step 'heights'
   text 5                # in the first empty box, the Safe Height
-  keys Tab Tab space    # feed rates in mm per minute
+  keys Tab Tab Up       # feed rates in mm per minute
   shot heights
   keys Return
   step 'first pen'

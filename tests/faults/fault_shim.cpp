@@ -159,6 +159,10 @@ int linkat(int fromFolder, const char* from, int toFolder, const char* to, int f
                                                                               toFolder, to, flags);
 }
 
+int unlink(const char* path) noexcept {
+    return fails(Call::remove, path) ? -1 : next<int(const char*)>("unlink")(path);
+}
+
 // What fails to close is closed all the same.
 int close(int file) {
     const bool failing = fails(Call::close, file);

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-enum class Call : std::uint8_t { open, write, sync, rename, link, close };
+enum class Call : std::uint8_t { open, write, sync, rename, link, close, remove };
 
 struct Fault {
     const char* folder; // without a slash at its end

@@ -156,6 +156,8 @@ TEST_F(DrawingFile, ThatCannotBeReadToItsEndIsRefusedAsAWhole) {
     } rows[] = {
         {"a text of two bytes a letter", "\xFF\xFES",
          ": this text is in UTF-16; please save the drawing as plain text"},
+        {"the same without its mark", std::string("S\0P\0", 4),
+         ": this text is in UTF-16; please save the drawing as plain text"},
         {"an element before any SP", "PU1,1\nPD40,0", ", line 2: pen 0" + wrongPen},
         {"a pen above 8", "SP1;PD40,0\r\n\r\nSP9;CI40", ", line 3: pen 9" + wrongPen},
         {"a pen that rounds to 0", "SP0.5;AA1,1,1", ", line 1: pen 0" + wrongPen},

@@ -9,7 +9,7 @@ namespace torvik {
 namespace {
 
 // Each used pen as "PEN@GROUP cut" or "PEN@GROUP RADII", then the count of groups.
-std::string described(const Job& job) {
+std::string pensOf(const Job& job) {
     std::string text;
     for (std::int16_t number = 1; number <= penCount; ++number) {
         const Pen& pen = job.answers.gudtPens[number];
@@ -49,7 +49,7 @@ TEST(SetUpPens, MakesAGroupForEachPenAndEachOfItsCircleSizes) {
          "1@1 5.000 5.015; 3"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(described(setUpDrawing(row.drawing)), row.pens) << row.says;
+        EXPECT_EQ(pensOf(setUpDrawing(row.drawing)), row.pens) << row.says;
     const Job job = setUpDrawing("SP1;PU4,0;AA0,0,90;SP2;PU4,0;PD0,0;AA1,0,90");
     EXPECT_EQ(job.answers.gintPenCount, 2);
     EXPECT_EQ(job.drawing.gudtPaths[1].sngAngleTo, job.drawing.gudtPaths[1].sngAngleFrom)
@@ -66,10 +66,10 @@ TEST(SetUpPens, StopsAtAPenOutside1To8) {
     EXPECT_FALSE(SetUpPens(job, logger));
     EXPECT_EQ(said, "An error has occurred in SetUpPens (modHpgl):\n"
                     "there is no entry number 9 (the list runs from 1 to 8).");
-    EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "as it was";
+    EXPECT_EQ(pensOf(job), "1@1 1.000; 2@3 cut; 3") << "as it was";
     job.drawing.gudtPaths[2].intPen = 2;
     EXPECT_TRUE(SetUpPens(job, logger));
-    EXPECT_EQ(described(job), "1@1 1.000; 2@3 cut; 3") << "a second time from the start";
+    EXPECT_EQ(pensOf(job), "1@1 1.000; 2@3 cut; 3") << "a second time from the start";
 }
 
 TEST(SetUpPens, StopsWhereTheGroupsExceed16Bits) {

@@ -136,7 +136,9 @@ TEST(ToolStore, TakesOverWhatAnotherCopyHasStored) {
         {"a changed tool", "1/1 2/2 3/3", none, "1/1 2/9 3/3", "1/1 2/9 3/3", {}},
         {"both changed it", "1/1 2/2 3/3", change2, "1/1 2/9 3/3", "1/1 2/8 3/3", {2}},
         {"deleted here, changed there", "1/1 2/2 3/3", delete2, "1/1 2/9 3/3", "1/1 3/3", {2}},
-        {"deleted there", "1/1 2/2 3/3", none, "1/1 3/3", "1/1 2/2 3/3", {}},
+        {"deleted there", "1/1 2/2 3/3", none, "1/1 3/3", "1/1 3/3", {}},
+        {"deleted there, changed here", "1/1 2/2 3/3", change2, "1/1 3/3", "1/1 2/8 3/3", {2}},
+        {"a record ruined there", "1/1 2/2", none, "1/1 x", "1/1 2/2 x", {}},
         {"a record mended there", "1/1 x 3/3", none, "1/1 4/4 3/3", "1/1 4/4 3/3", {}},
         {"never read here", "", none, "1/1 x 3/3", "1/1 x 3/3", {}},
     };
@@ -145,13 +147,22 @@ TEST(ToolStore, TakesOverWhatAnotherCopyHasStored) {
         ToolDataLoad(shop.tools, IniRegistry(registryText(row.loaded)), shop.logger);
         row.change(shop.tools);
         IniRegistry shared(registryText(row.theirs));
-        EXPECT_EQ(ToolDataSave(shop.tools, shared, shop.logger), row.overruled) << row.name;
+        EXPECT_EQ(ToolDataSave(shop.tools, shared, shop.logger).overruled, row.overruled)
+            << row.name;
         const IniRegistry expected(registryText(row.saved));
         for (const char* name : {"ToolCount", "Tool01", "Tool02", "Tool03", "Tool04"})
             EXPECT_TRUE(shared.wholeText(name) == expected.wholeText(name) ||
                         !expected.wholeText(name))
                 << row.name << ": " << shared.text();
     }
+}
+
+TEST(ToolStore, DeletesNothingWhereTheCountIsGone) {
+    Workshop shop("ToolCount=1\nTool01=2|Drill|3|0\n");
+    ToolDataLoad(shop.tools, shop.registry, shop.logger);
+    IniRegistry emptied("[Maskor]\n");
+    EXPECT_TRUE(ToolDataSave(shop.tools, emptied, shop.logger).removed.empty());
+    EXPECT_EQ(emptied.wholeText("Tool01"), "2|Drill|3.000|0.000");
 }
 
 TEST(ToolStore, KeepsForTheSessionWhatCannotBeSaved) {
@@ -174,7 +185,9 @@ TEST(ToolStore, KeepsForTheSessionWhatCannotBeSaved) {
 
 TEST(ToolStore, KeepsTheUsersTypesAsTyped) {
     Workshop shop;
-    for (const char* type : {"T-slot, 6; \"fine\"", "a|b\\c", " V-Fr\xC3\xA4ser ", ";x", ""})
+    const std::string tooLong(80, 'x'); // by another program
+    for (const std::string& type : {std::string("T-slot, 6; \"fine\""), std::string("a|b\\c"),
+                                    std::string(" V-Fr\xC3\xA4ser "), std::string(";x"), tooLong})
         shop.tools.gstrUserToolTypes.append(type);
     shop.tools.gintUserToolTypeCount = 5;
     ToolTypeUserSave(shop.tools, shop.registry, shop.logger);

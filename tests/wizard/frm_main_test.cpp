@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The state machine of the six steps, opening and closing, through the window's own controls.
 #include "tests/wizard/main_window_fixture.h"
+#include "tools/tool_edits.h"
+#include "tools/tool_store.h"
 
 #include <QDragEnterEvent>
 #include <QMenu>
@@ -195,7 +197,7 @@ TEST_F(FrmMainTest, WhatOfTheSavedAnswersIsNotUsedIsSaid) {
     job.output.gblnUnsaved = false;
     window->ReadFile(drawing);
     go(3);
-    EXPECT_EQ(label("lblToolNote"), "Tool T1 of the saved answers is no longer in the tool list");
+    EXPECT_EQ(label("lblToolNote"), "Tool T1 is no longer in the tool list");
 
     const auto saved = folder.path() / "PlotSave" / "bracket.plx";
     std::ofstream(saved, std::ios::app) << "x";
@@ -433,6 +435,34 @@ TEST_F(FrmMainTest, AfterToolsWereDeletedTheGroupsConcernedAreNamed) {
     // The group on show is not named where the user has just chosen its tool.
     const std::string again = deleteRow(5, "cmdOk");
     EXPECT_EQ(again.substr(0, told.size() + 8), told + "Torvik|3");
+}
+
+TEST_F(FrmMainTest, GroupsKeepTheirToolsWhereAnotherCopyHasDeletedOne) {
+    startSample("bracket");
+    go(3, "8.0 mm");
+    ToolDataSave(workshop.tools, registry, workshop.logger);
+    answers.expect("frmToolSelect", [&](QDialog& dialog) {
+        ToolList theirs = workshop.tools;
+        deleteTool(theirs, 6); // of the 5 mm holes
+        ToolDataSave(theirs, registry, workshop.logger);
+        auto& grid = *dialog.findChild<QTableWidget*>();
+        grid.selectRow(5);
+        DialogAnswers::press("cmdOk")(dialog);
+        EXPECT_EQ(messages.take(),
+                  "Torvik|48|Another copy of Torvik has deleted tool no. 6 meanwhile.\n"
+                  "Please choose another tool.");
+        grid.selectRow(5); // the one of the 8 mm holes, which has moved up
+        DialogAnswers::press("cmdOk")(dialog);
+    });
+    click("cmdTool");
+    EXPECT_EQ(messages.take(), "Torvik|48|After the deletion these have another tool, or none. "
+                               "Please check them:\nthe 5.0 mm Red holes");
+    EXPECT_EQ(job.answers.gudtSettings[job.position.gintCurrentSettings].intTool, 6);
+    const auto& groups = job.answers.gudtSettings;
+    const auto isOpen = [](const Settings& group) {
+        return group.intTool == 0 && group.intToolGone == 6 && !group.blnComplete;
+    };
+    EXPECT_EQ(std::count_if(groups.begin(), groups.end(), isOpen), 1);
 }
 
 TEST_F(FrmMainTest, ArrowKeysMoveTheOrderWhateverHasTheFocus) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/globals_page.h"
 
@@ -52,7 +53,8 @@ TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {
         EXPECT_EQ(std::make_pair(job.answers.gsngFeedFactor, job.answers.gstrFeedUnits), units[i]);
         choose(1 - i);
         page.RestoreGlobals();
-        EXPECT_TRUE(unit(i).isChecked());
+        EXPECT_TRUE(unit(i).isChecked() && (unit(i).focusPolicy() & Qt::TabFocus) != 0);
+        EXPECT_EQ(unit(1 - i).focusPolicy() & Qt::TabFocus, 0);
     }
     job.answers.gsngFeedFactor = 0; // before the first choice
     choose(0);
@@ -76,6 +78,25 @@ TEST_F(GlobalsPageTest, TheFirstHeightThatIsZeroIsNamedAndSelected) {
         EXPECT_EQ(messages.take(), message.empty() ? "" : "Torvik|48|" + message);
         EXPECT_TRUE(message.empty() || box(wrong).hasFocus()) << message;
         EXPECT_TRUE(message.empty() || box(wrong).selectedText() == box(wrong).text()) << message;
+    }
+}
+
+TEST_F(GlobalsPageTest, ALineSaysTheWorstOfTheHeights) {
+    const std::pair<std::array<const char*, 3>, std::string> rows[] = {
+        {{"50", "5", "2"}, ""},
+        {{"50", "", "2"}, "Safe Height for Rapids is empty"},
+        {{"", "", "-2"},
+         "The Rapid Down To must be above 0, or the tool goes through the material at full speed."},
+        {{"50", "60", "0"},
+         "The Rapid Down To must be above 0, or the tool goes through the material at full speed."},
+        {{"50", "5", "5.5"},
+         "The Safe Height for Rapids is lower than the Rapid Down To. It should be at least as "
+         "high."},
+    };
+    for (const auto& [texts, said] : rows) {
+        for (const int i : {0, 1, 2})
+            box(i).setText(texts[static_cast<std::size_t>(i)]);
+        EXPECT_EQ(page.findChild<QuietLine*>("lblQuietHeights")->text().toStdString(), said);
     }
 }
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/header_page.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QLocale>
 
 namespace torvik {
@@ -60,15 +62,43 @@ TEST_F(HeaderPageTest, DateDesignerNameAndMaterialMustBeFilled) {
     }
 }
 
-TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnes) {
+TEST_F(HeaderPageTest, ALineHoldsTheBilletAgainstWhatIsMachined) {
+    job = setUpDrawing("SP1;PU400,400;PD2800,2000;SP2;PD8000,0;");
+    job.answers.gudtPens[2].blnOmit = true;
+    job.answers.gudtSettings[1].sngDepth = 5;
+    page.fill();
+    const auto& line = *page.findChild<QuietLine*>("lblQuietHeader");
+    const QString reach = "The cuts reach from X 10.00 to 70.00 mm and from Y 10.00 to 50.00 mm, "
+                          "and go 5.00 mm deep.";
+    EXPECT_EQ(line.text(), reach);
+    QTest::keyClicks(&box(headerBilletX), "70");
+    QTest::keyClicks(&box(headerBilletY), "49");
+    QTest::keyClicks(&box(headerBilletZ), "1.5");
+    EXPECT_EQ(line.text(),
+              reach + "\nThe depth of the Black lines is 5.00 mm, but the billet is only 1.50 mm "
+                      "thick. The tool would cut the table."
+                      "\nThe drawing reaches Y50.000, outside the billet that lies from 0 to "
+                      "Y49.000.");
+    QTest::keyClicks(&box(headerBilletY), ".9");
+    QTest::keyClick(&box(headerBilletY), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&box(headerBilletY), "50");
+    EXPECT_EQ(line.text().count('\n'), 1);
+}
+
+TEST_F(HeaderPageTest, RoundBracketsBecomeSquareOnesAndBreaksBlanks) {
     QTest::keyClicks(&box(4), "Cog (big)");
     EXPECT_EQ(box(4).text(), "Cog [big]");
     box(4).setCursorPosition(3);
     QTest::keyClicks(&box(4), "(s)");
     EXPECT_EQ(box(4).text(), "Cog[s] [big]"); // typing goes on where it was
-    QApplication::clipboard()->setText("(9b) and (9c)");
+    QApplication::clipboard()->setText("(9b) and\n(9c)\t!");
     QTest::keyClick(&box(3), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box(3).text(), "[9b] and [9c]");
+    EXPECT_EQ(box(3).text(), "[9b] and [9c] !");
+    QApplication::clipboard()->setText("\u0141");
+    QTest::keyClick(&box(5), Qt::Key_V, Qt::ControlModifier);
+    const auto* const hint = box(5).findChild<QLabel*>("lblHint");
+    ASSERT_NE(hint, nullptr);
+    EXPECT_EQ(hint->text(), "A program cannot hold \u0141, so ? will stand there instead");
     fillJob({"1 (May)", "", "", "", "", "", "", "", ""}); // from answers kept by another program
     page.readBoxes();
     EXPECT_EQ(job.answers.gstrHeader[0] + job.answers.gstrHeader[4], "1 [May]Gear wheel");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/order_page.h"
 
@@ -84,6 +85,33 @@ TEST_F(OrderPageTest, TheSelectedRowTravelsWithItsPen) {
     job.gintWizardStep = 5;
     page.KeyCheck(38); // another page's
     EXPECT_EQ(rows(), "Black [Blue] Green up down");
+}
+
+TEST_F(OrderPageTest, RowsSayHowTheirPensAreMachinedAndALineTheToolChanges) {
+    job = setUpDrawing(threePens);
+    job.answers.gudtPens[2].blnDrill = true;
+    workshop.tools.gudtTools = {{7, "Slot drill", 6}, {3, "Drill", 3}, {4, "Drill", 5}};
+    workshop.tools.gintToolCount = 3;
+    job.answers.gudtSettings[1] = {1, 0, 0, 0, 0, 5.2F};
+    job.answers.gudtSettings[3] = {2, 0, 0, 0, 0, 2};
+    job.answers.gudtSettings[4] = {3, 0, 0, 0, 0, 6.5F};
+    show({1, 2, 4});
+    const auto said = [this] {
+        QString text;
+        for (const char* name : {"lblOrdWork1", "lblOrdWork2", "lblOrdWork3"})
+            text += page.findChild<QLabel*>(name)->text().replace(QChar::Nbsp, ' ') + "\n";
+        return (text + page.findChild<QuietLine*>("lblQuietOrder")->text()).toStdString();
+    };
+    const std::string holes = " – drill – T3 3.0 mm, T4 5.0 mm – 2.0 to 6.5 mm deep\n";
+    EXPECT_EQ(said(), " – cut – T7 6.0 mm – 5.2 mm deep\n" + holes +
+                          " – cut – no tool – 0.0 mm deep\nTool changes: 2");
+    job.answers.gudtSettings[5] = {1, 0, 0, 0, 0, 1};
+    page.ShowOrder(1);
+    const std::string blue = " – cut – T7 6.0 mm – 1.0 mm deep\n";
+    EXPECT_EQ(said(), " – cut – T7 6.0 mm – 5.2 mm deep\n" + holes + blue +
+                          "Tool changes: 3. With another order of the pens there would be only 2.");
+    page.ColourReOrder(1);
+    EXPECT_EQ(said(), holes + " – cut – T7 6.0 mm – 5.2 mm deep\n" + blue + "Tool changes: 2");
 }
 
 TEST_F(OrderPageTest, ASingleRowLeavesDownOpenAndGoesNowhere) {

@@ -23,8 +23,7 @@ namespace torvik {
 namespace {
 
 constexpr std::string_view form = "frmToolData";
-constexpr const char* tagOk = "Ok";
-constexpr const char* tagCancel = "Cancel";
+constexpr int widestType = 60; // letters
 
 } // namespace
 
@@ -65,6 +64,7 @@ void FrmToolData::buildForm() {
     m_type->setObjectName(QStringLiteral("cboToolType"));
     m_type->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_type->setMinimumContentsLength(20);
+    m_type->setMaximumWidth(m_type->fontMetrics().averageCharWidth() * widestType);
     m_type->setToolTip(tr("What kind of tool it is"));
     addRow(*grid, 1, "lblToolType", tr("Tool &type:"), m_type);
     m_diameter = new NumberBox(toolDiameterHint);
@@ -169,6 +169,7 @@ void FrmToolData::changeTypes() {
     trapped("cmdToolType_Click", [&] {
         FrmToolType dialog(m_tools, m_registry, m_logger, m_messages, this);
         dialog.exec();
+        activateWindow(); // a message that closed with the dialog may have taken the keyboard along
         if (dialog.isConfirmed())
             ToolTypeUserSave(m_tools, m_registry, m_logger);
         else

@@ -20,14 +20,14 @@
 namespace torvik {
 namespace {
 
-constexpr std::string_view form = "frmToolSelect";
+constexpr std::string_view selectForm = "frmToolSelect";
 constexpr int focusInterval = 50; // milliseconds
 
 } // namespace
 
 template <typename Work>
 void FrmToolSelect::trapped(std::string_view procedure, Work&& work) {
-    withErrorTrap(m_logger, {procedure, form}, std::forward<Work>(work));
+    withErrorTrap(m_logger, {procedure, selectForm}, std::forward<Work>(work));
 }
 
 FrmToolSelect::FrmToolSelect(ToolList& tools, Registry& registry, Logger& logger,
@@ -204,12 +204,16 @@ void FrmToolSelect::deleteSelectedTool() {
         }
         deleteTool(m_tools, place);
         m_deleted = true;
-        ToolDataShow(*m_grid, m_tools, m_logger);
-        layOut();
-        enableActions(false);
+        showAgain();
         m_ok->setEnabled(true); // stores the shorter list, though no tool is chosen
-        m_grid->setFocus();
     });
+}
+
+void FrmToolSelect::showAgain() {
+    ToolDataShow(*m_grid, m_tools, m_logger);
+    layOut();
+    enableActions(false);
+    m_grid->setFocus();
 }
 
 void FrmToolSelect::sayOverruled(const std::vector<std::int16_t>& numbers) {
@@ -217,17 +221,36 @@ void FrmToolSelect::sayOverruled(const std::vector<std::int16_t>& numbers) {
     for (const std::int16_t number : numbers)
         texts.append(QString::number(number));
     if (!numbers.empty())
-        m_messages.intStdMsgBox(tr("Another copy of Torvik has changed the same tools meanwhile:\n"
+        m_messages.intStdMsgBox(tr("Another copy of Torvik has changed or deleted the same tools "
+                                   "meanwhile:\n"
                                    "Tool no. %1\nThey are saved as they are in this copy.")
                                     .arg(texts.join(QStringLiteral(", ")))
                                     .toStdString(),
                                 styleExclamation, usualTitle);
 }
 
+void FrmToolSelect::chooseAgain(std::int16_t number) {
+    showAgain();
+    m_messages.intStdMsgBox(tr("Another copy of Torvik has deleted tool no. %1 meanwhile.\n"
+                               "Please choose another tool.")
+                                .arg(number)
+                                .toStdString(),
+                            styleExclamation, usualTitle);
+}
+
 void FrmToolSelect::confirm() {
     trapped("cmdOk_Click", [&] {
-        sayOverruled(ToolDataSave(m_tools, m_registry, m_logger));
-        const std::int16_t place = m_grid->placeAt(m_grid->selectedRow());
+        const std::int16_t chosen = m_grid->placeAt(m_grid->selectedRow());
+        const std::int16_t number =
+            chosen == 0 ? std::int16_t{0} : m_tools.gudtTools[chosen].intNumber;
+        const TakenOver taken = ToolDataSave(m_tools, m_registry, m_logger);
+        m_removed.insert(m_removed.end(), taken.removed.begin(), taken.removed.end());
+        sayOverruled(taken.overruled);
+        const std::int16_t place = placeAfter(chosen, taken.removed);
+        if (chosen != 0 && place == 0) {
+            chooseAgain(number);
+            return;
+        }
         setProperty(tagProperty, place == 0 ? QString() : QString::number(place));
         accept();
     });

@@ -40,7 +40,9 @@ public:
     // "Tag" holds the same as text, empty for none.
     std::int16_t chosenPosition() const;
     // Whether a tool was deleted, so that places of the list have moved.
-    bool hasDeleted() const { return m_deleted; }
+    bool hasDeleted() const { return m_deleted || !m_removed.empty(); }
+    // The places of tools that went as another copy of the program had deleted them (tool_merge.h).
+    const std::vector<std::int16_t>& removedPlaces() const { return m_removed; }
 
 private:
     void buildButtons();
@@ -58,10 +60,14 @@ private:
     void addNewTool();
     void editTool();
     void deleteSelectedTool();
+    // Fills the grid with the list as it is now; nothing is selected.
+    void showAgain();
     void confirm();
     static QString deletionQuestion(const Tool& tool);
-    // Tools that another copy of the program has changed, too.
+    // Tools that another copy of the program has changed or deleted, too.
     void sayOverruled(const std::vector<std::int16_t>& numbers);
+    // Another copy has deleted the chosen tool: another one is to be chosen.
+    void chooseAgain(std::int16_t number);
 
     ToolList& m_tools;
     Registry& m_registry;
@@ -76,6 +82,7 @@ private:
     QPushButton* m_cancel = nullptr;
     QTimer m_mouse;
     bool m_deleted = false;
+    std::vector<std::int16_t> m_removed;
 };
 
 } // namespace torvik

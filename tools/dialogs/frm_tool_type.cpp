@@ -21,9 +21,7 @@
 namespace torvik {
 namespace {
 
-constexpr std::string_view form = "frmToolType";
-constexpr const char* tagOk = "Ok";
-constexpr const char* tagCancel = "Cancel";
+constexpr std::string_view typeForm = "frmToolType";
 
 class TypeList : public QListWidget {
 protected:
@@ -48,7 +46,7 @@ void select(QListWidget& list, int row) {
 
 template <typename Work>
 void FrmToolType::trapped(std::string_view procedure, Work&& work) {
-    withErrorTrap(m_logger, {procedure, form}, std::forward<Work>(work));
+    withErrorTrap(m_logger, {procedure, typeForm}, std::forward<Work>(work));
 }
 
 FrmToolType::FrmToolType(ToolList& tools, Registry& registry, Logger& logger,

@@ -5,12 +5,8 @@
 #include "base/files.h"
 #include "base/stop_signals.h"
 #include "tools/settings/settings_format.h"
+#include "tools/settings/settings_lock.h"
 #include "tools/settings_file_reader.h"
-
-#include <QtCore/QDeadlineTimer>
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
-#include <QtCore/QThread>
 
 #include <chrono>
 
@@ -19,31 +15,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A save holds its lock for milliseconds. QSettings itself would wait half a minute for the lock of
-// a program that died, and for ever for that of one that hangs.
-constexpr auto longestWait = 2000ms;
-constexpr auto staleAge = 1500ms;
 // A batch waits for the lock of a save, so it may last longer.
 constexpr auto staleBatchAge = 4000ms;
-constexpr unsigned long pollMilliseconds = 20;
 
 QString toQt(const std::filesystem::path& path) {
     return QString::fromStdString(utf8FromPath(path));
-}
-
-// Waits for the lock; one that is left over is removed.
-bool takeLock(QLockFile& lock) {
-    QDeadlineTimer deadline(longestWait);
-    while (!lock.tryLock(0)) {
-        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
-            return false;
-        QThread::msleep(pollMilliseconds);
-    }
-    return true;
-}
-
-bool makeFolderOf(const std::filesystem::path& file) {
-    return QDir().mkpath(QFileInfo(toQt(file)).absolutePath());
 }
 
 } // namespace
@@ -92,21 +68,21 @@ std::string SettingsFileRegistry::storedValueGet(std::string_view name,
 }
 
 bool SettingsFileRegistry::store(const Values& values) {
-    if (!makeFolderOf(m_file))
+    try {
+        makeFolder(m_file.parent_path());
+    } catch (const FileError&) {
         return false;
-    {
-        QLockFile lock(toQt(m_file) + QStringLiteral(".lock")); // as QSettings names its own
-        lock.setStaleLockTime(staleAge);
-        if (!takeLock(lock))
-            return false;
     }
+    if (!isSettingsLockFree(toQt(m_file)))
+        return false;
     const StopWaits untilItIsSaved;
     return saveSettings(toQt(m_file), values);
 }
 
 bool SettingsFileRegistry::lock() {
     try {
-        if (!makeFolderOf(m_file) || !takeLock(m_batchLock))
+        makeFolder(m_file.parent_path());
+        if (!takeSettingsLock(m_batchLock))
             return false;
         read();
         m_inBatch = true;

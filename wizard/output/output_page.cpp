@@ -182,7 +182,7 @@ std::int16_t OutputPage::target() const {
 }
 
 void OutputPage::rememberTarget() {
-    ownSettings()->setValue(targetKey, target());
+    saveOwnSetting(targetKey, target());
 }
 
 void OutputPage::enter() {

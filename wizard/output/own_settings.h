@@ -4,11 +4,16 @@
 #pragma once
 
 #include <QSettings>
+#include <QString>
+#include <QVariant>
 
 #include <memory>
 
 namespace torvik {
 
+// To read from.
 std::unique_ptr<QSettings> ownSettings();
+// Leaves the settings as they are where they cannot be saved, after two seconds at most.
+void saveOwnSetting(const QString& key, const QVariant& value);
 
 } // namespace torvik

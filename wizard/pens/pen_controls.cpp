@@ -4,6 +4,7 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
+#include "forms/quiet_line.h"
 #include "wizard/pens/pen_diagram.h"
 #include "wizard/pens/pen_words.h"
 
@@ -59,6 +60,12 @@ QLabel* makeWrappedLabel(QWidget& page, const QString& name, const QString& text
     QLabel* label = makeLabel(page, name, text);
     label->setWordWrap(true);
     return label;
+}
+
+// A line may not end inside "mm/min".
+QString withUnitWhole(QString caption) {
+    constexpr QChar wordJoiner(0x2060);
+    return caption.replace(u'/', QStringLiteral("/") + wordJoiner);
 }
 
 void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
@@ -165,6 +172,8 @@ void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
                                             tr("The circles are drilled as holes. The next pages "
                                                "ask for the details of each hole size."));
     layout.addWidget(controls.holesFollow);
+    controls.quiet = new QuietLine(QStringLiteral("lblQuietPen"));
+    layout.addWidget(controls.quiet);
 }
 
 void setTabOrder(const PenControls& controls) {
@@ -195,7 +204,10 @@ PenControls makePenControls(QWidget& page) {
     outer->addStretch(1);
 
     auto* layout = new QVBoxLayout(content);
-    layout->setSpacing(12);
+    layout->setSpacing(10);
+    QMargins margins = layout->contentsMargins();
+    margins.setBottom(0); // on a small screen the last lines need the room
+    layout->setContentsMargins(margins);
     makeHead(controls, *content, *layout);
     makeToolPanel(controls, *content, *layout);
     makeRows(controls, *content, *layout);
@@ -217,7 +229,7 @@ void showPenRows(const PenControls& controls, PenForm form, std::string_view fee
             continue;
         const QString caption = rowCaption(form, i, feedUnits);
         const QString tip = rowTip(form, i);
-        controls.lblDet[i]->setText(caption);
+        controls.lblDet[i]->setText(withUnitWhole(caption));
         controls.lblUnit[i]->setText(rowUnit(form, i, feedUnits));
         controls.txtDet[i]->setAccessibleName(caption);
         controls.txtDet[i]->setToolTip(tip);

@@ -19,6 +19,7 @@ namespace torvik {
 
 class NumberBox;
 class PenDiagram;
+class QuietLine;
 
 // Places of the tool labels.
 enum ToolLabel : std::size_t { toolNumber, toolType, toolDiameter };
@@ -40,6 +41,7 @@ struct PenControls {
     std::array<QLabel*, penRowCount> lblUnit{};
     QCheckBox* chkPeck = nullptr;
     QLabel* holesFollow = nullptr; // stands in for the rows on the own page of a drilled pen
+    QuietLine* quiet = nullptr;    // what is missing and what makes no sense
 };
 
 // Makes the controls as children of the page and lays them out.

@@ -6,6 +6,7 @@
 
 #include "answers/pen_checks.h"
 #include "base/error_trap.h"
+#include "check/findings.h"
 #include "wizard/host/wizard_host.h"
 #include "wizard/host/workshop.h"
 #include "wizard/pens/pen_controls.h"
@@ -97,6 +98,10 @@ private:
     void focusFirstEmptyBox();
     void focusNextIfDone();
     QString toolNote() const;
+    // Below the rows: what is missing, and what makes no sense in the group as it is typed.
+    void sayQuietly();
+    QString missingText() const;
+    check::Findings senseOfPage() const;
     void refuse(const InputFault& fault);
     void select(int choice);
 

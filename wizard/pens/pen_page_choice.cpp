@@ -118,6 +118,7 @@ void PenPage::offerTool() {
     select(machine);
     m_controls.cmdTool->setEnabled(true);
     m_controls.cmdTool->setFocus();
+    sayQuietly();
 }
 
 void PenPage::CheckCutState() {
@@ -156,6 +157,7 @@ void PenPage::cancelledTool() {
     if (!mayLeaveOut || (currentPen(job).blnCircles && job.position.gintCurrentRadius != 1)) {
         select(machine);
         m_controls.cmdTool->setEnabled(true);
+        sayQuietly();
         return;
     }
     SetCut(leaveOut);

@@ -3,7 +3,10 @@
 #include "answers/pen_position.h"
 #include "answers/pen_values.h"
 #include "base/picture.h"
+#include "check/sense/sense.h"
 #include "forms/number_box.h"
+#include "forms/quiet_line.h"
+#include "wizard/host/finding_texts.h"
 #include "wizard/pens/pen_page.h"
 #include "wizard/pens/pen_words.h"
 
@@ -84,8 +87,7 @@ QString PenPage::toolNote() const {
     if (!isInList(m_workshop.tools, settings.intTool))
         return settings.intToolGone == 0
                    ? QString()
-                   : tr("Tool T%1 of the saved answers is no longer in the tool list")
-                         .arg(settings.intToolGone);
+                   : tr("Tool T%1 is no longer in the tool list").arg(settings.intToolGone);
     const float diameter = toolAt(m_workshop.tools, settings.intTool).sngDiameter;
     if (!toolMissesHole(job, diameter))
         return {};
@@ -196,14 +198,49 @@ void PenPage::FinalDepth(std::int16_t Index) {
             writeBoxes(state);
         }
         m_host.setNextEnabled(blnInputComplete());
+        sayQuietly();
     });
+}
+
+void PenPage::sayQuietly() {
+    QuietLine::Texts texts;
+    if (asksForDetails()) {
+        if (const QString missing = missingText(); !missing.isEmpty())
+            texts.push_back({missing});
+        // A tool that is too wide for its hole is told beside the tool.
+        const auto sense = findingTexts(senseOfPage(), check::Kind::holeNarrow);
+        texts.insert(texts.end(), sense.begin(), sense.end());
+    }
+    m_controls.quiet->say(texts);
+}
+
+QString PenPage::missingText() const {
+    const Job& job = m_workshop.job;
+    if (!isInList(m_workshop.tools, currentSettings(job).intTool))
+        return m_choice == machine
+                   ? tr("Choose a tool")
+                   : tr("Choose above what is to be done with the %1").arg(pageSubjectText(job));
+    const auto empty = firstEmptyRow(boxes());
+    return empty ? emptyText(currentForm(job), *empty) : QString();
+}
+
+check::Findings PenPage::senseOfPage() const {
+    const Job& job = m_workshop.job;
+    const MachinedGroup group{job.position.gintCurrentPen, job.position.gintCurrentRadius,
+                              job.position.gintCurrentSettings};
+    check::Findings findings;
+    Settings typed = currentSettings(job);
+    if (!storeTexts(boxes().text, m_controls.chkPeck->isChecked(), currentForm(job),
+                    job.answers.gsngFeedFactor, m_workshop.tools, typed))
+        check::findSense(job, m_workshop.tools, group, typed, findings);
+    return findings;
 }
 
 bool PenPage::blnInputComplete() {
     bool complete = false;
     quietly(m_inputCompleteFailed, "blnInputComplete", [&] {
         complete = !asksForDetails() || (!m_controls.toolLabels[toolNumber]->text().isEmpty() &&
-                                         allEditableFilled(boxes()));
+                                         !firstEmptyRow(boxes()));
     });
     return complete;
 }
@@ -242,6 +279,7 @@ void PenPage::chkPeck_Click() {
         m_controls.txtDet[rowPeck]->clear();
         openBox(*m_controls.txtDet[rowPeck], m_controls.chkPeck->isChecked());
         m_host.setNextEnabled(blnInputComplete());
+        sayQuietly();
     });
 }
 

@@ -94,6 +94,10 @@ QString rowCaption(PenForm form, std::size_t row, std::string_view feedUnits) {
     return QStringLiteral("%1 (%2)").arg(rowName(form, row), rowUnit(form, row, feedUnits));
 }
 
+QString emptyText(PenForm form, std::size_t row) {
+    return tr("%1 is empty").arg(rowName(form, row));
+}
+
 QString faultText(PenForm form, const InputFault& fault) {
     const QString name = rowName(form, fault.row);
     switch (fault.kind) {

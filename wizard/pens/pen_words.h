@@ -21,6 +21,8 @@ QString rowUnit(PenForm form, std::size_t row, std::string_view feedUnits);
 // The name, a blank and the unit in brackets.
 QString rowCaption(PenForm form, std::size_t row, std::string_view feedUnits);
 
+// Why a page with that row empty cannot be left yet.
+QString emptyText(PenForm form, std::size_t row);
 QString faultText(PenForm form, const InputFault& fault);
 
 // The pen of the page on show: "Red holes" or "Red lines".

@@ -94,12 +94,13 @@ TEST_F(FrmToolTypeTest, ANameThatIsThereCannotBeAdded) {
     }
 }
 
-TEST_F(FrmToolTypeTest, ANewTypeIsAddedAsTyped) {
+TEST_F(FrmToolTypeTest, ANewTypeIsAddedAsTypedButForRoundBrackets) {
     show({"Spot"});
-    name().setText(" Tap|M3 ");
+    name().setText(" Tap|M3 (");
+    QTest::keyClicks(&name(), ") ");
     QTest::keyClick(&name(), Qt::Key_Return); // adds, and does not close
-    EXPECT_EQ(items("lstTypeUserNew"), "[ Tap|M3 :2]");
-    EXPECT_EQ(tools.gstrUserToolTypes[2], " Tap|M3 ");
+    EXPECT_EQ(items("lstTypeUserNew"), "[ Tap|M3 [] :2]");
+    EXPECT_EQ(tools.gstrUserToolTypes[2], " Tap|M3 [] ");
     EXPECT_EQ(name().text(), "");
     QTest::keyClick(&name(), Qt::Key_Return);
     EXPECT_EQ(tag(*form), "Ok");

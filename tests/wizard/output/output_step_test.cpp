@@ -215,7 +215,8 @@ TEST_F(OutputTest, TextsThatACommentCannotHoldAreNamedForTheTargetsConcerned) {
     EXPECT_FALSE(find<QLabel>("lblComments").isVisible());
     type = "\xC5\x81";
     choose(3);
-    EXPECT_TRUE(find<QLabel>("lblComments").isVisible());
+    EXPECT_EQ(label("lblComments"), "Type of tool T1, \"\xC5\x81\": a program cannot hold "
+                                    "\xC5\x81, ? stands there instead");
 }
 
 TEST_F(OutputTest, TheMenuLeadsToAnotherFileOrEndsTheProgram) {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The settings of a pen page, driven through its controls.
+#include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
+
+#include <QScreen>
 
 #include <functional>
 
@@ -9,13 +12,13 @@ namespace {
 
 TEST_F(PenPageTest, UnitsFollowTheChoiceAndTheFormOfThePage) {
     open();
-    EXPECT_EQ(label("lblDet1"), "Horizontal Feed Rate for Cutting (mm/min)");
+    EXPECT_EQ(label("lblDet1"), "Horizontal Feed Rate for Cutting (mm/\u2060min)");
     EXPECT_TRUE(peck().isHidden());
     job.answers.gudtPens[2].blnDrill = true;
     useSeconds(true);
     page.ShowPen(1);
     page.ShowPen(1);
-    EXPECT_EQ(label("lblDet1") + label("lblUnit1"), "Drilling Feed Rate (mm/sec)mm/sec");
+    EXPECT_EQ(label("lblDet1") + label("lblUnit1"), "Drilling Feed Rate (mm/\u2060sec)mm/sec");
     EXPECT_EQ(box(1).property("helpContext").toInt(), 95);
     EXPECT_FALSE(peck().isHidden());
     EXPECT_EQ(option(0).text() + option(1).text(),
@@ -61,6 +64,40 @@ TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
     EXPECT_EQ(box(2).text(), "2.50");
 }
 
+TEST_F(PenPageTest, ALineSaysWhatIsMissingAndWhatMakesNoSense) {
+    open();
+    job.answers.gstrHeader[headerBilletZ] = "5";
+    const auto said = [this] {
+        return page.findChild<QuietLine*>("lblQuietPen")->text().toStdString();
+    };
+    EXPECT_EQ(said(), "Choose above what is to be done with the Black lines");
+    choose(0);
+    EXPECT_EQ(said(), "Choose a tool");
+    page.SetTool(2);
+    EXPECT_EQ(said(),
+              "Spindle Speed is empty\nA Drill cannot cut the Black lines: it is made to go "
+              "straight down and breaks on its way sideways.");
+    page.SetTool(1);
+    fill({"12000", "600", "150", "9"});
+    const std::string deep = "The depth of the Black lines is 9.00 mm, but the billet is only 5.00 "
+                             "mm thick. The tool would cut the table.";
+    EXPECT_EQ(said(), "Maximum Depth per Pass is empty\n" + deep);
+    type(4, "3");
+    EXPECT_EQ(said(), deep);
+    choose(1);
+    EXPECT_EQ(said(), "");
+    job.answers.gudtPens[2].blnDrill = true;
+    page.ShowPen(1);
+    page.ShowPen(1);
+    page.SetTool(1); // too wide, as is told beside the tool
+    peck().click();
+    EXPECT_EQ(said(), "Spindle Speed is empty");
+    fill({"2000", "100", "4", "0"});
+    EXPECT_EQ(said(), "Peck Distance is empty");
+    peck().click();
+    EXPECT_EQ(said(), "");
+}
+
 TEST_F(PenPageTest, AnEditIsOneChange) {
     open();
     job.answers.gudtSettings[1] = cut(); // 12000 600 150 3.00 1.00 0.20 300
@@ -97,6 +134,8 @@ TEST_F(PenPageTest, AnEditIsOneChange) {
 
 TEST_F(PenPageTest, OnlyCharactersOfNumbersAreTaken) {
     open();
+    const int right = box(0).mapTo(&page, box(0).rect().bottomRight()).x() + 100;
+    page.move(page.screen()->availableGeometry().right() - right, 0); // no room beside the box
     type(0, "1,2e,3\b4");
     EXPECT_EQ(box(0).text(), "1.24");
     auto& hint = *box(0).findChild<QLabel*>("lblHint");
