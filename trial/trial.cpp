@@ -6,6 +6,8 @@
 #include "check/plan/plan.h"
 #include "check/sense/sense.h"
 #include "check/targets.h"
+#include "check/time/pace_settings.h"
+#include "check/time/program_time.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
@@ -80,14 +82,6 @@ void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
 
 } // namespace
 
-double minutesOf(std::span<const check::Move> moves) {
-    double minutes = 0;
-    for (const check::Move& move : moves)
-        if (const double one = check::minutesOf(move); std::isfinite(one))
-            minutes += one;
-    return minutes;
-}
-
 TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                         std::int16_t number, Logger& logger, const std::stop_token& stop) {
     TriedProgram tried;
@@ -102,8 +96,11 @@ TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& di
         tried.billet =
             check::billetOf(header[headerBilletX], header[headerBilletY], header[headerBilletZ]);
         readAndCheck(tried, job, tools, dialect);
-        tried.groups = triedGroups(job, tools, size, tried.moves);
-        tried.minutes = minutesOf(tried.moves);
+        if (const check::Target* const target = targetOf(dialect))
+            tried.pace = check::paceOf(*target);
+        tried.groups =
+            triedGroups(job, tools, size, tried.moves, check::moveTimes(tried.moves, tried.pace));
+        tried.minutes = check::programTime(tried.moves, tried.pace).minutes;
         isWhole = true;
     });
     using State = TriedProgram::State;
