@@ -105,7 +105,9 @@ QString passesText(const TriedGroup& tried) {
     if (tried.holes == 0)
         return tried.passes == 1 ? tr("1 pass") : tr("%1 passes").arg(count);
     const QString holes = tried.holes == 1 ? tr("1 hole") : tr("%1 holes").arg(tried.holes);
-    return tried.passes == 1 ? holes : tr("%1, %2 pecks each").arg(holes, count);
+    if (tried.passes == 1)
+        return holes;
+    return (tried.holes == 1 ? tr("%1, %2 pecks") : tr("%1, %2 pecks each")).arg(holes, count);
 }
 
 QStringList orderRow(const Answers& answers, const TriedGroup& tried, std::size_t number) {

@@ -36,14 +36,14 @@ struct Column {
     Qt::Alignment alignment;
 };
 
-constexpr std::array<Column, 9> orderColumns{{{50, Qt::AlignLeft},
-                                              {330, Qt::AlignLeft},
-                                              {370, Qt::AlignLeft},
+constexpr std::array<Column, 9> orderColumns{{{45, Qt::AlignLeft},
+                                              {300, Qt::AlignLeft},
+                                              {345, Qt::AlignLeft},
                                               {160, Qt::AlignRight},
-                                              {210, Qt::AlignRight},
-                                              {165, Qt::AlignRight},
-                                              {130, Qt::AlignRight},
-                                              {225, Qt::AlignRight},
+                                              {195, Qt::AlignRight},
+                                              {190, Qt::AlignRight},
+                                              {115, Qt::AlignRight},
+                                              {290, Qt::AlignRight},
                                               {220, Qt::AlignRight}}};
 constexpr std::array<Column, 3> toolColumns{
     {{50, Qt::AlignLeft}, {700, Qt::AlignLeft}, {220, Qt::AlignLeft}}};

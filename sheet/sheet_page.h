@@ -17,7 +17,7 @@ struct SheetPictures {
 
 // The place of a picture on the page, in mm, for its image to be made in that shape.
 inline constexpr double sheetPictureWidth = 91;
-inline constexpr double sheetPictureHeight = 72;
+inline constexpr double sheetPictureHeight = 82;
 
 // Paints the page; the painter's units are tenths of a millimetre from the paper's corner.
 void paintSheet(QPainter& painter, const SheetContent& content, const SheetPictures& pictures);

@@ -12,9 +12,10 @@
 namespace torvik {
 namespace {
 
-constexpr double margin = 34; // pixels of a screen round the piece, for sizes and jaws
+constexpr double margin = 28; // pixels of a screen round the piece, for jaws and zero point
 constexpr double jawWidth = 9;
 constexpr double jawGap = 3;
+constexpr double jawInset = 38; // so much shorter at each end: there stands X0 Y0
 
 QImage blank(QSize size) {
     QImage image(size, QImage::Format_RGB32);
@@ -22,21 +23,35 @@ QImage blank(QSize size) {
     return image;
 }
 
-// Bars beside the two sides, as the jaws of a vice lie there.
-void paintJaws(QPainter& painter, const CutView& view, const CutBillet& billet, Clamping clamping) {
-    if (clamping.sides == Clamping::Sides::none)
-        return;
+// The billet's edge; its sizes stand in words below.
+QRectF paintEdge(QPainter& painter, const CutView& view, const CutBillet& billet) {
     const QRectF edge(view.toPixels({billet.lowX, billet.lowY + billet.width}),
                       view.toPixels({billet.lowX + billet.length, billet.lowY}));
+    painter.setPen(QPen(QColor(0x30, 0x30, 0x30), 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(edge);
+    return edge;
+}
+
+// Bars beside the two sides, as the jaws of a vice lie there.
+void paintJaws(QPainter& painter, const QRectF& edge, Clamping::Sides sides) {
+    if (sides == Clamping::Sides::none)
+        return;
+    const QColor steel(0x60, 0x60, 0x60);
+    painter.setPen(QPen(steel, 1));
+    painter.setBrush(QBrush(steel, Qt::BDiagPattern));
     const double in = jawGap + jawWidth;
-    painter.setPen(QPen(QColor(0x60, 0x60, 0x60), 1));
-    painter.setBrush(QBrush(QColor(0x60, 0x60, 0x60), Qt::BDiagPattern));
-    if (clamping.sides == Clamping::Sides::leftAndRight) {
-        painter.drawRect(QRectF(edge.left() - in, edge.top(), jawWidth, edge.height()));
-        painter.drawRect(QRectF(edge.right() + jawGap, edge.top(), jawWidth, edge.height()));
+    const auto jaw = [&](double x, double y, double width, double height) {
+        painter.drawRect(QRectF(x, y, width, height));
+    };
+    if (sides == Clamping::Sides::leftAndRight) {
+        const double inset = std::min(jawInset, edge.height() / 4);
+        jaw(edge.left() - in, edge.top() + inset, jawWidth, edge.height() - 2 * inset);
+        jaw(edge.right() + jawGap, edge.top() + inset, jawWidth, edge.height() - 2 * inset);
     } else {
-        painter.drawRect(QRectF(edge.left(), edge.top() - in, edge.width(), jawWidth));
-        painter.drawRect(QRectF(edge.left(), edge.bottom() + jawGap, edge.width(), jawWidth));
+        const double inset = std::min(jawInset, edge.width() / 4);
+        jaw(edge.left() + inset, edge.top() - in, edge.width() - 2 * inset, jawWidth);
+        jaw(edge.left() + inset, edge.bottom() + jawGap, edge.width() - 2 * inset, jawWidth);
     }
 }
 
@@ -97,9 +112,8 @@ QImage cutPicture(const CutPiece& piece, const Clamping& clamping, PictureSize s
     font.setPixelSize(11);
     painter.setFont(font);
     CutPainting over(painter, view);
-    paintJaws(painter, view, billet, clamping);
     if (billet.isKnown())
-        over.billet(billet);
+        paintJaws(painter, paintEdge(painter, view, billet), clamping.sides);
     over.zeroPoint();
     return image;
 }

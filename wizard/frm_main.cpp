@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/frm_main.h"
 
+#include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/help_key.h"
 #include "prepare/dialog/dragged_source.h"
 #include "preview/preview_widget.h"
+#include "sheet/dialog/job_sheet_dialog.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/globals_page.h"
 #include "wizard/header_page.h"
@@ -221,6 +223,25 @@ void FrmMain::ReadFileWhenFree(const std::filesystem::path& drawing) {
 
 void FrmMain::PrepareDrawing(const std::filesystem::path& source) {
     m_skipped->PrepareDrawing(source);
+}
+
+bool FrmMain::isReadyForSheet() {
+    bool isReady = false;
+    withQuietErrorTrap(m_workshop.logger, {"isReadyForSheet", "frmMain"}, [&] {
+        isReady = torvik::isReadyForSheet(m_workshop.job, m_workshop.tools);
+    });
+    return isReady;
+}
+
+void FrmMain::showJobSheet() {
+    if (isReadyForSheet())
+        torvik::showJobSheet(m_workshop, m_controls.output->target(), *this);
+    else
+        m_workshop.messages.intStdMsgBox(
+            tr("A job sheet is made when every pen that is milled has its answers and a tool,\n"
+               "and the order of the pens is set.")
+                .toStdString(),
+            styleExclamation, usualTitle);
 }
 
 void FrmMain::showHelpFor(const QWidget* control) {

@@ -40,6 +40,9 @@ public:
     // (dropped) or else the drawing that is open, and afterwards the drawing that was saved there,
     // where the user wants it.
     void PrepareDrawing(const std::filesystem::path& source = {});
+    // Whether the job says all that a job sheet needs, and the dialog that saves or prints one.
+    bool isReadyForSheet();
+    void showJobSheet();
     // Ends the program, after a question where a program has not been written yet. False where
     // the user stays.
     bool CheckClose();

@@ -29,6 +29,17 @@ void MainMenu::buildFile() {
         file->addAction(tr("&Prepare a Drawing…"), QKeySequence(tr("Ctrl+P")), this,
                         [this] { later(m_window, [this] { m_window.PrepareDrawing(); }); });
     prepare->setObjectName(QStringLiteral("mnuFilePrepare"));
+    auto* const sheet =
+        file->addAction(tr("&Job Sheet…"), QKeySequence(tr("Ctrl+J")), this,
+                        [this] { later(m_window, [this] { m_window.showJobSheet(); }); });
+    sheet->setObjectName(QStringLiteral("mnuSheet"));
+    // Closed only while the menu is seen: the key says what is missing.
+    connect(file, &QMenu::aboutToShow, sheet,
+            [this, sheet] { sheet->setEnabled(m_window.isReadyForSheet()); });
+    connect(file, &QMenu::aboutToHide, sheet, [sheet] {
+        QMetaObject::invokeMethod(
+            sheet, [sheet] { sheet->setEnabled(true); }, Qt::QueuedConnection);
+    });
     m_recent = file->addMenu(tr("&Recent drawings"));
     m_recent->setObjectName(QStringLiteral("mnuFileRecent"));
     m_recent->setToolTipsVisible(true);
