@@ -40,7 +40,7 @@ CutCanvas::CutCanvas(QWidget* parent)
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_nothing->setPalette(quietPaper());
-    m_nothing->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_nothing->setAttribute(Qt::WA_TransparentForMouseEvents, true);
 }
 
 void CutCanvas::setWork(std::shared_ptr<CutWork> work) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/cut_shades.h"
 
-#include "forms/colour.h"
 #include "preview/depths.h"
 
 #include <QCoreApplication>
@@ -13,10 +12,18 @@ namespace torvik {
 namespace {
 
 constexpr double darkRim = 0.4;
+constexpr int lightest = 208;        // the greys of the depths
+constexpr int darkest = 80;          // so that the rim is seen in every one
 constexpr std::size_t mostRows = 40; // of the legend: more depths are shown by some of them
 
 float millimetres(std::uint16_t depth) {
     return static_cast<float>(depth) / sweep::depthsPerMm;
+}
+
+QRgb greyOf(float depth, float shallowest, float deepest) {
+    const float part = deepest > shallowest ? (depth - shallowest) / (deepest - shallowest) : 0;
+    const auto grey = static_cast<int>(std::lround(lightest + part * (darkest - lightest)));
+    return qRgb(grey, grey, grey);
 }
 
 std::int32_t plain(QRgb colour) { // 0x00BBGGRR
@@ -56,8 +63,7 @@ void CutShades::fillColours(const sweep::Cuts& cuts) {
     m_colours.resize(deepest + std::size_t{1});
     for (std::size_t depth = 0; depth < m_colours.size(); ++depth) {
         const float shown = millimetres(std::max(static_cast<std::uint16_t>(depth), shallowest));
-        m_colours[depth] =
-            colourOf(lngPlotColour(shown, millimetres(shallowest), millimetres(deepest))).rgb();
+        m_colours[depth] = greyOf(shown, millimetres(shallowest), millimetres(deepest));
     }
 }
 

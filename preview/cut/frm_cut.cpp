@@ -58,6 +58,7 @@ FrmCut::FrmCut(std::shared_ptr<CutWork> work, QWidget* parent)
     connect(m_list, &ProgramList::lineChosen, this, &FrmCut::goToLine);
     connect(m_play, &PlayBar::moved, this, &FrmCut::showAt);
     m_list->setText(m_work->piece().program);
+    m_list->setEnabled(false); // there is no moment to go to yet
     if (m_work->state() == CutWork::State::sweeping)
         connect(m_work.get(), &CutWork::ended, this, &FrmCut::workEnded);
     else

@@ -122,6 +122,11 @@ void PlayBar::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
+void PlayBar::hideEvent(QHideEvent* event) {
+    play(false);
+    QWidget::hideEvent(event);
+}
+
 void PlayBar::goTo(double seconds) {
     showAt(std::clamp(seconds, 0.0, m_length));
     emit moved(m_now);

@@ -29,6 +29,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 signals:
     void moved(double seconds);

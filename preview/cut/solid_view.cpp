@@ -123,10 +123,10 @@ void SolidView::wheelEvent(QWheelEvent* event) {
 void SolidView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Left:
-        m_camera.turnBy(-keyTurn, 0);
+        m_camera.turnBy(keyTurn, 0);
         break;
     case Qt::Key_Right:
-        m_camera.turnBy(keyTurn, 0);
+        m_camera.turnBy(-keyTurn, 0);
         break;
     case Qt::Key_Up:
         m_camera.turnBy(0, keyTurn);

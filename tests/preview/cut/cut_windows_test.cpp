@@ -126,6 +126,7 @@ TEST(CutWorkTest, EndingItStopsTheSweep) {
     const auto work = std::make_unique<CutWork>(std::move(piece));
     FrmCut early(std::make_shared<CutWork>(pieceOfProgram(badgeProgram)));
     EXPECT_FALSE(early.findChild<PlayBar*>()->isEnabled()) << "not ready yet";
+    EXPECT_FALSE(early.findChild<ProgramList*>()->isEnabled());
 }
 
 TEST(CutWorkTest, AProgramThatNoControlKnowsShowsAnEmptyBillet) {
