@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "check/check.h"
 
-#include "check/finders.h"
 #include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
 
 namespace torvik::check {
 
-Report checkProgram(std::string_view program, std::string_view sideText, const Target* target) {
+Report checkProgram(std::string_view program, std::string_view sideText, const Target* target,
+                    const FindPlan& findPlan) {
     Report report;
     Findings& findings = report.findings;
     report.target = target == nullptr ? recogniseTarget(program) : target;
@@ -22,9 +22,15 @@ Report checkProgram(std::string_view program, std::string_view sideText, const T
     const Moves moves = walk(read);
     findStructure(read, findings);
     const Walked walked{read, moves, learnHeights(moves)};
-    for (const auto find : {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs,
-                            findBillet, findPasses, findHoles})
+    for (const auto find :
+         {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs, findBillet})
         find(walked, findings);
+    if (findPlan) {
+        findPlan(walked, findings);
+    } else {
+        findPasses(walked, findings);
+        findHoles(walked, findings);
+    }
     report.summary = summaryOf(moves);
     return report;
 }

@@ -2,10 +2,11 @@
 // The check of one written program from its text alone.
 #pragma once
 
+#include "check/finders.h"
 #include "check/findings.h"
-#include "check/program.h"
 #include "check/summary.h"
 
+#include <functional>
 #include <string_view>
 
 namespace torvik::check {
@@ -17,8 +18,11 @@ struct Report {
 };
 
 // `sideText` is the text beside a diskette program, empty where there is none. Without a target the
-// text's own beginning tells it. Raises nothing for any bytes.
+// text's own beginning tells it. `findPlan`, where one is given, lays the program beside a job;
+// that takes the place of what only guesses at passes and holes. Raises nothing of its own for any
+// bytes.
+using FindPlan = std::function<void(const Walked& walked, Findings& findings)>;
 Report checkProgram(std::string_view program, std::string_view sideText = {},
-                    const Target* target = nullptr);
+                    const Target* target = nullptr, const FindPlan& findPlan = {});
 
 } // namespace torvik::check

@@ -95,6 +95,44 @@ constexpr std::array kindRows{
             "Start and end of the arc lie in one direction from its centre. The machine may cut a "
             "full circle or nothing."},
 
+    // against what the job asks for
+    KindRow{Kind::elementLost, "element-lost", Level::wrong, "{1} missing here. {2}."},
+    KindRow{Kind::elementTwice, "element-twice", Level::wrong,
+            "{1} done before: the job asks for it once only."},
+    KindRow{Kind::elementOrder, "element-order", Level::wrong,
+            "{1} done at another time than the job asks for."},
+    KindRow{Kind::notAsked, "not-asked", Level::wrong, "{1} no part of the job."},
+    KindRow{Kind::groupOrder, "group-order", Level::wrong,
+            "The machining order is another one: {1} come later than the job asks for."},
+    KindRow{Kind::place, "place", Level::wrong, "{1} should be at {2}, here it is at {3}."},
+    KindRow{Kind::shapeDiffers, "shape-differs", Level::wrong,
+            "The job asks for {1} here, the program has {2}."},
+    KindRow{Kind::deeperThanAsked, "deeper-than-asked", Level::danger,
+            "The tool is at Z{1} here. That is too deep: for {2} the job asks for Z{3}.{4}"},
+    KindRow{Kind::shallowerThanAsked, "shallower-than-asked", Level::wrong,
+            "The tool is at Z{1} here. That is not deep enough: for {2} the job asks for Z{3}."},
+    KindRow{Kind::wayDiffers, "way-differs", Level::wrong,
+            "The tool gets here on another way than it should: {1}."},
+    KindRow{Kind::toolDiffers, "tool-differs", Level::danger,
+            "For {1} the job asks for {2}, the program takes {3}."},
+    KindRow{Kind::speedDiffers, "speed-differs", Level::wrong,
+            "For {1} the job asks for a spindle speed of {2}, the program has {3}."},
+    KindRow{Kind::feedDiffers, "feed-differs", Level::wrong,
+            "The job asks for a feed of {1} mm/min here, the program has {2}."},
+    KindRow{Kind::dwellDiffers, "dwell-differs", Level::wrong,
+            "The job asks the tool to wait {1} here, in the program it waits {2}."},
+    KindRow{Kind::peckDiffers, "peck-differs", Level::wrong,
+            "The hole is not drilled in the steps that the job asks for: {1}."},
+    KindRow{Kind::sweepCircle, "sweep-circle", Level::wrong,
+            "A full circle is cut here. The drawing has an arc of {1} mm only, so short that its "
+            "end is written like its start."},
+    KindRow{Kind::circleLost, "circle-lost", Level::wrong,
+            "The drawing has a full circle here, but its end is written a little behind its start: "
+            "only {1} mm of it are cut."},
+    KindRow{Kind::clampedArc, "clamped-arc", Level::look,
+            "The arc starts almost level with its centre and is read as if it started exactly "
+            "there. It becomes {1} mm {2} than it is drawn."},
+
     // billet
     KindRow{Kind::tooDeep, "too-deep", Level::danger,
             "The tool goes {1} mm deep, but the billet is {2} mm thick. It would cut the table."},

@@ -57,6 +57,24 @@ enum class Kind : std::uint8_t {
     arcNoRadius,
     arcCollapsed,
     arcOneAngle,
+    elementLost,
+    elementTwice,
+    elementOrder,
+    notAsked,
+    groupOrder,
+    place,
+    shapeDiffers,
+    deeperThanAsked,
+    shallowerThanAsked,
+    wayDiffers,
+    toolDiffers,
+    speedDiffers,
+    feedDiffers,
+    dwellDiffers,
+    peckDiffers,
+    sweepCircle,
+    circleLost,
+    clampedArc,
     tooDeep,
     through,
     outside,
@@ -88,7 +106,7 @@ struct KindRow {
     Kind kind;
     std::string_view name;
     Level level;
-    std::string_view sentence; // {1} to {3} stand for the values of a finding
+    std::string_view sentence; // {1} to {4} stand for the values of a finding
 };
 
 // All kinds, in the order of the enumeration.

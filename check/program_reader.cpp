@@ -15,8 +15,11 @@ constexpr int lastLineNumber = 9999; // 1 comes next
 
 class ProgramReader {
 public:
-    ProgramReader(const Target& target, Findings& findings) : m_findings(findings) {
+    ProgramReader(const Target& target, std::size_t bytes, Findings& findings)
+        : m_findings(findings) {
+        constexpr std::size_t usualBytes = 24; // of a line
         m_program.target = &target;
+        m_program.statements.reserve(bytes / usualBytes);
     }
 
     void take(const Line& line) {
@@ -141,7 +144,7 @@ private:
 } // namespace
 
 Program readProgram(const Target& target, std::string_view text, Findings& findings) {
-    ProgramReader reader(target, findings);
+    ProgramReader reader(target, text.size(), findings);
     visitLines(text, [&](const Line& line) { reader.take(line); });
     return reader.finish();
 }

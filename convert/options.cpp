@@ -24,6 +24,7 @@ enum OptionCode : int {
     optionDate,
     optionForce,
     optionQuiet,
+    optionStrict,
     optionShow,
     optionHelp = 'h',
     optionVersion = 'v',
@@ -45,6 +46,8 @@ const std::vector<OptionRow>& rows() {
         {"date", optionDate, "TEXT", "the date of the header where the answers have none"},
         {"force", optionForce, nullptr, "overwrite files that exist"},
         {"quiet", optionQuiet, nullptr, "say nothing but what went wrong"},
+        {"strict", optionStrict, nullptr,
+         "leave no program in which something dangerous or wrong\nis found"},
         {"show", optionShow, nullptr, "print what the drawings hold instead of converting"},
         {"help", optionHelp, nullptr, "print this text"},
         {"version", optionVersion, nullptr, "print the version"},
@@ -81,6 +84,9 @@ void take(ConvertOptions& options, std::string& target, std::string& number, int
         break;
     case optionQuiet:
         options.quiet = true;
+        break;
+    case optionStrict:
+        options.strict = true;
         break;
     case optionShow:
         options.action = ConvertOptions::Action::show;
@@ -196,7 +202,10 @@ std::string helpText() {
            "answers saved for each drawing and the workshop's tools.\n\n" +
            optionLines(rows()) +
            "\nExit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the\n"
-           "answers do not belong to the drawing; 4 the job cannot be written as it is.\n";
+           "answers do not belong to the drawing; 4 the job cannot be written as it is; 5 with\n"
+           "--strict, something dangerous or wrong was found in the program.\n\n"
+           "Each program is checked as by torvik-check; what is dangerous or wrong is printed on\n"
+           "the standard error as FILE:LINE: KIND: SENTENCE.\n";
 }
 
 } // namespace torvik

@@ -26,6 +26,7 @@ struct ConvertOptions {
     std::string date;
     bool force = false;
     bool quiet = false;
+    bool strict = false;
 
     // Where the program of drawing i goes (from 0).
     std::filesystem::path outputPath(std::size_t i) const;

@@ -5,6 +5,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <string_view>
 
 namespace torvik {
 
@@ -19,11 +21,15 @@ enum class Overwriting : std::uint8_t {
     everything,
 };
 
+// Sees a program that is written before it takes its name, with the text beside it, which is empty
+// where the target has none. What it raises leaves the files as they were.
+using ProgramCheck = std::function<void(std::string_view program, std::string_view sideText)>;
+
 // Raises FileError where a file exists that may not be overwritten, or cannot be written. False
 // where the job cannot be written as it stands; the logger has been told why. In both cases no
 // file of this name has changed.
 bool writeProgramFiles(const Job& job, const ToolList& tools, const Dialect& dialect,
                        std::int16_t number, const std::filesystem::path& program,
-                       Overwriting overwriting, Logger& logger);
+                       Overwriting overwriting, Logger& logger, const ProgramCheck& check = {});
 
 } // namespace torvik

@@ -5,11 +5,14 @@
 #include "check/command/options.h"
 #include "check/command/program_files.h"
 #include "check/command/report_text.h"
+#include "check/plan/plan.h"
 #include "commands/drawing_run.h"
+#include "commands/job/job_reader.h"
 #include "commands/program_run.h"
 #include "commands/waiting.h"
 
 #include <algorithm>
+#include <optional>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -24,10 +27,18 @@ constexpr std::string_view programName = "torvik-check";
 class Checker {
 public:
     Checker(const CheckOptions& options, std::ostream& out, std::ostream& err)
-        : m_options(options), m_out(out), m_err(err) {}
+        : m_options(options), m_out(out), m_err(err),
+          m_reader(programName, {options.answers, options.tools},
+                   [this](std::string_view message) { say(message); }) {}
 
     int run() {
         const auto say = [this](std::string_view message) { this->say(message); };
+        if (m_options.drawing) {
+            const int read = runEach(
+                {*m_options.drawing}, [this](std::size_t) { readJob(); }, say);
+            if (read != 0)
+                return static_cast<int>(ExitCode::file);
+        }
         const int named = runEach(
             m_options.files, [this](std::size_t i) { find(m_options.files[i]); }, say);
         begin();
@@ -42,6 +53,12 @@ public:
 
 private:
     void say(std::string_view message) { m_err << programName << ": " << message << '\n'; }
+
+    void readJob() {
+        m_job = m_reader.readJob(*m_options.drawing);
+        m_reader.requireTools(*m_job, *m_options.drawing);
+        m_reader.sayWarnings(utf8FromPath(*m_options.drawing) + ": ");
+    }
 
     void find(const fs::path& path) {
         for (const fs::path& program : programsOf(path))
@@ -62,7 +79,9 @@ private:
 
     void check(const fs::path& path) {
         const ProgramBytes bytes = read(path);
-        const Report report = checkProgram(bytes.program, bytes.sideText, m_options.target);
+        const Report report = m_job ? checkProgramOfJob(bytes.program, bytes.sideText, *m_job,
+                                                        m_reader.tools(), m_options.target)
+                                    : checkProgram(bytes.program, bytes.sideText, m_options.target);
         m_areGood = m_areGood && report.findings.isGood();
         print(utf8FromPath(path), report);
         m_out.flush();
@@ -87,6 +106,8 @@ private:
     const CheckOptions& m_options;
     std::ostream& m_out;
     std::ostream& m_err;
+    JobReader m_reader;
+    std::optional<Job> m_job;
     std::vector<fs::path> m_programs;
     std::size_t m_width = std::string_view("program").size();
     bool m_areGood = true;

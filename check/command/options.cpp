@@ -10,6 +10,9 @@ namespace {
 
 enum OptionCode : int {
     optionTarget = 256,
+    optionDrawing,
+    optionAnswers,
+    optionTools,
     optionQuiet,
     optionTable,
     optionJson,
@@ -22,6 +25,12 @@ const std::vector<OptionRow>& rows() {
         {"target", optionTarget, "NAME",
          "the control that the programs are for (default: each\nprogram's beginning tells it): " +
              targetNames(targets())},
+        {"drawing", optionDrawing, "FILE.plt",
+         "the drawing that the programs are made from: what they\ndo is held against what the job "
+         "asks for"},
+        {"answers", optionAnswers, "FILE.plx",
+         "the answers for the drawing (default: those saved for\nit)"},
+        {"tools", optionTools, "FILE.ini", "the tool library (default: the workshop's)"},
         {"quiet", optionQuiet, nullptr, "print what is dangerous or wrong, and nothing else"},
         {"table", optionTable, nullptr, "print one line for each program"},
         {"json", optionJson, nullptr, "print everything as JSON, for other programs"},
@@ -41,6 +50,15 @@ void take(CheckOptions& options, int code, const char* value) {
     switch (code) {
     case optionTarget:
         options.target = &targetNamed(targets(), value);
+        break;
+    case optionDrawing:
+        options.drawing = namedPath(value, "the value of --drawing");
+        break;
+    case optionAnswers:
+        options.answers = namedPath(value, "the value of --answers");
+        break;
+    case optionTools:
+        options.tools = namedPath(value, "the value of --tools");
         break;
     case optionQuiet:
         options.quiet = true;
@@ -73,6 +91,8 @@ CheckOptions parse(std::vector<std::string> arguments) {
         options.files.push_back(namedPath(name, "a program"));
     if (options.action == CheckOptions::Action::check && options.files.empty())
         throw UsageError("no program is named");
+    if (!options.drawing && (options.answers || options.tools))
+        throw UsageError("--answers and --tools go with --drawing");
     return options;
 }
 
@@ -103,11 +123,17 @@ std::string helpText() {
            "Examples:\n"
            "  torvik-check gear.iso                   one program\n"
            "  torvik-check --table class-9b           a whole class, one line each\n"
-           "  torvik-check gear.iso && cp gear.iso /media/stick\n\n"
+           "  torvik-check gear.iso && cp gear.iso /media/stick\n"
+           "  torvik-check gear.iso --drawing gear.plt\n"
+           "                                          is it what the drawing and its answers ask "
+           "for?\n\n"
            "The header of a diskette program is read from the text beside it, FILE.txt.\n"
+           "With a drawing, every group, cut, hole, feed and speed is compared with the job, and\n"
+           "nothing may be missing, doubled or added.\n"
            "The time is counted at the written feeds, without tool changes.\n\n"
            "Exit codes: 0 nothing dangerous or wrong was found; 1 wrong usage; 2 a file cannot be\n"
-           "read; 5 something dangerous or wrong was found.\n";
+           "read, or the drawing and its answers make no job; 5 something dangerous or wrong was "
+           "found.\n";
 }
 
 } // namespace torvik::check

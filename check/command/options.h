@@ -20,6 +20,10 @@ struct CheckOptions {
     std::vector<std::filesystem::path> files; // programs, and folders of them
     const Target* target = nullptr;           // nullptr: each program tells its own
     bool quiet = false;
+    // What the programs are made from, where that is named.
+    std::optional<std::filesystem::path> drawing;
+    std::optional<std::filesystem::path> answers; // default: those saved for the drawing
+    std::optional<std::filesystem::path> tools;   // default: the workshop's own list
 };
 
 // Reads the arguments (UTF-8), the program's name first. Where they are wrong, `usageError` says in

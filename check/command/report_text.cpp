@@ -2,6 +2,7 @@
 #include "check/command/report_text.h"
 
 #include "base/picture.h"
+#include "check/finding_lines.h"
 
 #include <algorithm>
 #include <array>
@@ -13,10 +14,6 @@ constexpr std::array levels{Level::danger, Level::wrong, Level::look, Level::not
 
 std::string countText(std::size_t count) {
     return formatInteger(static_cast<long>(count));
-}
-
-bool isShown(Kind kind, bool quiet) {
-    return !quiet || rowOf(kind).level >= Level::wrong;
 }
 
 std::string minutesText(double minutes) {
@@ -78,17 +75,7 @@ constexpr std::array<std::string_view, 8> columns{"control", "danger", "wrong", 
 } // namespace
 
 std::string reportText(std::string_view file, const Report& report, bool quiet) {
-    std::string text;
-    const std::string name(file);
-    for (const Finding& finding : report.findings.byLine())
-        if (isShown(finding.kind, quiet))
-            text += name + ":" + formatInteger(static_cast<long>(finding.line)) + ": " +
-                    std::string(rowOf(finding.kind).name) + ": " + sentenceOf(finding) + "\n";
-    for (const KindRow& row : kinds())
-        if (const auto count = report.findings.count(row.kind);
-            count > Findings::keptOfKind && isShown(row.kind, quiet))
-            text += name + ": " + std::string(row.name) + ": " +
-                    countText(count - Findings::keptOfKind) + " more of this kind\n";
+    const std::string text = findingLines(file, report.findings, quiet);
     return quiet ? text : text + summaryLine(file, report);
 }
 

@@ -116,7 +116,11 @@ TEST(Check, EachKindIsFoundAtItsLine) {
         EXPECT_EQ(shown(report, Level::danger).size(), own) << testing::PrintToString(found);
         seen.insert(row.kind);
     }
-    EXPECT_EQ(seen.size(), static_cast<std::size_t>(Kind::holeTwice) + 1) << "a kind has no row";
+    // Those of the plan, and of the job's sense, have their own tests.
+    for (const KindRow& row : kinds().first(static_cast<std::size_t>(Kind::holeTwice) + 1))
+        if (row.kind < Kind::elementLost || row.kind > Kind::clampedArc) {
+            EXPECT_TRUE(seen.contains(row.kind)) << row.name << " has no row";
+        }
 }
 
 TEST(Check, WithoutToolAndList) {

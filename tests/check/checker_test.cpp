@@ -90,5 +90,32 @@ TEST(Checker, WhatCannotBeReadIsNamedAndTheRestIsChecked) {
     EXPECT_EQ(run({"--help"}).code, 0);
 }
 
+TEST(Checker, AProgramIsLaidBesideItsJob) {
+    const TemporaryFolder folder;
+    const std::string job = TORVIK_GOLDEN "/drilled_job/";
+    std::string program = readWholeFile(job + "expected.mxc", 1 << 20);
+    const std::vector<std::string> sources{"--drawing", job + "drawing.plt",
+                                           "--answers", job + "drawing.plx",
+                                           "--tools",   job + "Maskor.ini"};
+    const auto runBeside = [&](std::vector<std::string> arguments) {
+        arguments.insert(arguments.end(), sources.begin(), sources.end());
+        return run(std::move(arguments));
+    };
+    const std::string good = folder.file("good.mxc", program).string();
+    EXPECT_EQ(runBeside({good, "--quiet"}).code, 0);
+    program.replace(program.find("S1800"), 5, "S2800");
+    const std::string bad = folder.file("bad.mxc", program).string();
+    EXPECT_EQ(run({bad, "--quiet"}).code, 0);
+    const CheckRun found = runBeside({bad, "--quiet"});
+    EXPECT_EQ(found.code, 5);
+    EXPECT_NE(found.out.find(": speed-differs: "), std::string::npos) << found.out;
+
+    const CheckRun other = run({good, "--drawing", job + "drawing.plt", "--answers",
+                                TORVIK_GOLDEN "/cut_job/drawing.plx", "--tools", sources[5]});
+    EXPECT_EQ(other.code, 2);
+    EXPECT_NE(other.err.find("belong to another drawing"), std::string::npos) << other.err;
+    EXPECT_EQ(run({good, "--tools", sources[5]}).code, 1);
+}
+
 } // namespace
 } // namespace torvik::check

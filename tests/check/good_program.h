@@ -5,6 +5,7 @@
 
 #include "check/check.h"
 
+#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -95,17 +96,17 @@ M30
 %
 )";
 
-// The good program with the line `at` replaced by `text`, which may be several lines or none
-// (""), and everything numbered that bears no number of its own.
-inline std::string changedProgram(std::size_t at, const std::string& text) {
+// The good program with some lines, by their numbers, replaced by a text, which may be several
+// lines or none (""), and everything numbered that bears no number of its own.
+inline std::string changedProgram(const std::map<std::size_t, std::string>& changes) {
     std::istringstream good(goodProgram);
     std::string changed;
     std::size_t number = 0;
-    for (std::string line; std::getline(good, line);)
-        if (++number != at)
-            changed += line + "\n";
-        else
-            changed += text.empty() ? "" : text + "\n";
+    for (std::string line; std::getline(good, line);) {
+        const auto change = changes.find(++number);
+        const std::string& text = change == changes.end() ? line : change->second;
+        changed += text.empty() ? "" : text + "\n";
+    }
     std::istringstream lines(changed);
     std::string program;
     int block = 0;
@@ -115,6 +116,10 @@ inline std::string changedProgram(std::size_t at, const std::string& text) {
         program += line + "\r\n";
     }
     return program;
+}
+
+inline std::string changedProgram(std::size_t at, const std::string& text) {
+    return changedProgram({{at, text}});
 }
 
 // The findings as "KIND LINE", by line.

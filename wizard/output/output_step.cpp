@@ -12,7 +12,7 @@
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
-#include "gcode/tool_check.h"
+#include "answers/tool_check.h"
 #include "wizard/host/group_name.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"

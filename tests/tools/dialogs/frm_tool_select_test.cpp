@@ -195,8 +195,9 @@ TEST_F(FrmToolSelectTest, AToolThatCannotBeReadIsMendedOrDeletedButNotChosen) {
     registry.RegistryValuePut("ToolCount", "1");
     registry.RegistryValuePut("Tool01", "3|Reamer|9.000|0.000");
     press(*form, "cmdOk");
-    EXPECT_EQ(messages.take(), "Torvik|48|Another copy of Torvik has changed the same tools "
-                               "meanwhile:\nTool no. 3\nThey are saved as they are in this copy.");
+    EXPECT_EQ(messages.take(),
+              "Torvik|48|Another copy of Torvik has changed or deleted the same tools "
+              "meanwhile:\nTool no. 3\nThey are saved as they are in this copy.");
     EXPECT_EQ(registry.strRegistryValueGet("Tool01", ""), "2|Reamer|4.000|-2000.000");
     EXPECT_EQ(registry.strRegistryValueGet("Tool02", ""), "3|Drill|3.000|-2000.000");
 }

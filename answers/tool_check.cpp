@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "gcode/tool_check.h"
+#include "answers/tool_check.h"
 
 #include "tools/tool_list.h"
 

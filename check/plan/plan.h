@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// A program laid beside what its job asks for: every group in its order with its tool, speed and
+// feeds, every element at every height once, every hole with its pecks, and nothing else.
+#pragma once
+
+#include "check/check.h"
+#include "check/finders.h"
+
+namespace torvik {
+struct Job;
+struct ToolList;
+} // namespace torvik
+
+namespace torvik::check {
+
+// Raises SubscriptOutOfRange where the job's order names a pen above 8.
+void findPlan(const Walked& walked, const Job& job, const ToolList& tools, Findings& findings);
+
+// The check of a program from its text, and against the job that it is made from.
+Report checkProgramOfJob(std::string_view program, std::string_view sideText, const Job& job,
+                         const ToolList& tools, const Target* target = nullptr);
+
+} // namespace torvik::check
