@@ -11,8 +11,8 @@
 namespace torvik {
 
 struct WrittenJob {
-    WrittenJob(unsigned seed, const Dialect& control, bool hasBillet = false)
-        : made(seed), dialect(control) {
+    WrittenJob(unsigned start, const Dialect& control, bool hasBillet = false)
+        : seed(start), made(seed), dialect(control) {
         if (hasBillet)
             made.takeBillet();
         Logger muted;
@@ -26,6 +26,7 @@ struct WrittenJob {
         }
     }
 
+    unsigned seed;
     RandomJob made;
     const Dialect& dialect;
     std::string program;

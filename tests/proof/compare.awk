@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Holds the moves of the check (first file: LINE KIND NUMBERS..., "?" for what is not known) against
-# what LinuxCNC's interpreter did (second file). `refused` names the lines that it did not take: of
-# those only the end counts. Says each difference, then the figures in one line; 1 where any differs.
+# what LinuxCNC's interpreter did (second file). `refused` names the lines that it did not take: of a
+# move only the end counts, of others nothing. Says each difference, then the figures in one line; 1 where any differs.
 
 function differ(line, text) {
   print "line " line ": " text > "/dev/stderr"
@@ -19,19 +19,19 @@ function dropStop(line) {
   if (done && at[done] == line && step[done] == "off") --done
 }
 
-function compare(i, n, m, k, a, b, most, off) {
-  n = split(asked[i], a, " ")
+function compare(i, j, n, m, k, a, b, most, off) {
+  n = split(asked[j], a, " ")
   m = split(step[i], b, " ")
-  if (askedAt[i] != at[i]) return differ(askedAt[i], "the check has \"" asked[i] "\", the interpreter \"" step[i] "\" in line " at[i])
+  if (askedAt[j] != at[i]) return differ(askedAt[j], "the check has \"" asked[j] "\", the interpreter \"" step[i] "\" in line " at[i])
   if (at[i] in isRefused) m = n = 4
-  else if (n != m || a[1] != b[1]) return differ(at[i], "the check has \"" asked[i] "\", the interpreter \"" step[i] "\"")
+  else if (n != m || a[1] != b[1]) return differ(at[i], "the check has \"" asked[j] "\", the interpreter \"" step[i] "\"")
   ++count[a[1]]
   for (k = 2; k <= n; ++k) {
     if (a[k] == "?") continue
     off = a[k] - b[k]
     if (off < 0) off = -off
     if (off > farthest) farthest = off
-    if (off > 0.00101) return differ(at[i], "the check has \"" asked[i] "\", the interpreter \"" step[i] "\"")
+    if (off > 0.00101) return differ(at[i], "the check has \"" asked[j] "\", the interpreter \"" step[i] "\"")
   }
 }
 
@@ -61,8 +61,11 @@ $2 ~ /^N[0-9]+$/ {
 }
 
 END {
-  for (i = 1; i <= wanted && i <= done; ++i) compare(i)
-  if (wanted != done) differ(askedAt[wanted], "the check has " wanted " steps, the interpreter " done)
+  for (i = 1; i <= done; ++i) isSeen[at[i]] = 1
+  i = 0
+  for (j = 1; j <= wanted; ++j)
+    if (!(askedAt[j] in isRefused) || askedAt[j] in isSeen) compare(++i, j)
+  if (i != done) differ(at[done], "the check has " i " steps, the interpreter " done)
   printf "%d %d %d %d %d %d %.5f\n", count["rapid"], count["line"], count["cw"] + count["ccw"], count["tool"], count["speed"] + count["off"], count["dwell"], farthest
   exit differences > 0
 }
