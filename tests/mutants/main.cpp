@@ -229,5 +229,10 @@ int run(int wanted, unsigned firstSeed, bool onlyGood) {
 int main(int argc, char** argv) {
     const int wanted = argc > 1 ? std::atoi(argv[1]) : 100;
     const int firstSeed = argc > 2 ? std::atoi(argv[2]) : 1;
-    return torvik::run(wanted, static_cast<unsigned>(firstSeed), argc > 3);
+    try {
+        return torvik::run(wanted, static_cast<unsigned>(firstSeed), argc > 3);
+    } catch (const std::exception& error) {
+        std::cerr << "mutants: " << error.what() << '\n';
+        return 2;
+    }
 }
