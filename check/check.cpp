@@ -19,7 +19,8 @@ Report checkProgram(std::string_view program, std::string_view sideText, const T
     Program read = readProgram(*report.target, program, findings);
     if (report.target->commentOpener == 0)
         read.header = readSideText(sideText);
-    const Moves moves = walk(read);
+    report.moves = walk(read);
+    const Moves& moves = report.moves;
     findStructure(read, findings);
     const Walked walked{read, moves, learnHeights(moves)};
     for (const auto find :

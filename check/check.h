@@ -4,6 +4,7 @@
 
 #include "check/finders.h"
 #include "check/findings.h"
+#include "check/move.h"
 #include "check/summary.h"
 
 #include <functional>
@@ -15,6 +16,7 @@ struct Report {
     const Target* target = nullptr; // nullptr where the text is a program of none
     Findings findings;
     Summary summary;
+    Moves moves; // what the machine does
 };
 
 // `sideText` is the text beside a diskette program, empty where there is none. Without a target the

@@ -13,6 +13,11 @@ void Findings::add(Kind kind, std::uint32_t line, std::vector<std::string> value
         m_kept.push_back({kind, line, std::move(values), group});
 }
 
+void Findings::forget(Kind kind) {
+    std::erase_if(m_kept, [&](const Finding& finding) { return finding.kind == kind; });
+    m_counts[static_cast<std::size_t>(kind)] = 0;
+}
+
 std::vector<Finding> Findings::byLine() const {
     std::vector<Finding> sorted = m_kept;
     std::stable_sort(sorted.begin(), sorted.end(),

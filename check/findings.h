@@ -36,6 +36,9 @@ public:
     void add(Kind kind, std::uint32_t line, std::vector<std::string> values = {},
              PenGroup group = {});
 
+    // As if none of the kind had been added.
+    void forget(Kind kind);
+
     // By line, those of one line in the order in which they were found.
     std::vector<Finding> byLine() const;
     // How many there are, kept or not.

@@ -53,6 +53,7 @@ public:
         end();
         m_group = group;
         m_linesBefore = m_size.lines;
+        m_size.groups.push_back({group, m_size.lines + 1, 0});
     }
     // The group that is counted ends.
     void end() {
@@ -61,7 +62,10 @@ public:
         m_mostLines = m_size.lines - m_linesBefore;
         m_size.longest = m_group;
     }
-    void step() { ++m_size.steps; }
+    void step() {
+        ++m_size.steps;
+        ++m_size.groups.back().steps;
+    }
     void put(std::string_view statement, const StatementValues& /*values*/) {
         if (!statement.empty())
             count(static_cast<std::int64_t>(statement.size()) + numberBytes);

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace torvik {
 
@@ -18,6 +19,13 @@ inline constexpr std::int64_t manyLines = 200'000;
 // Above this none is written.
 inline constexpr std::int64_t mostLines = 20'000'000;
 
+// Where a group begins in a program.
+struct GroupSize {
+    MachinedGroup group;
+    std::int64_t firstLine; // from 1
+    std::int64_t steps;     // its depth passes, or the pecks of all its holes
+};
+
 struct ProgramSize {
     // Exact up to mostLines; the counting ends with the line behind. Where an error will end the
     // writing, the lines before it.
@@ -25,6 +33,7 @@ struct ProgramSize {
     std::int64_t bytes = 0;               // about
     std::int64_t steps = 0;               // depth passes and pecks
     std::optional<MachinedGroup> longest; // the group with the most lines
+    std::vector<GroupSize> groups;        // in machining order
 
     bool isLong() const { return lines > manyLines; }
     bool isTooLong() const { return lines > mostLines; }

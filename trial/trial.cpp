@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "trial/trial.h"
+
+#include "base/byte_sink.h"
+#include "base/error_trap.h"
+#include "check/plan/plan.h"
+#include "check/sense/sense.h"
+#include "check/targets.h"
+#include "check/time/pace_settings.h"
+#include "check/time/program_time.h"
+#include "gcode/dialects.h"
+#include "gcode/output_file.h"
+#include "gcode/program_size.h"
+#include "trial/tried_groups.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace torvik {
+namespace {
+
+// Keeps the bytes until it is stopped.
+class StoppableSink final : public ByteSink {
+public:
+    StoppableSink(std::string& bytes, const std::stop_token& stop) : m_bytes(bytes), m_stop(stop) {}
+
+    void write(std::string_view bytes) override {
+        if (m_stop.stop_requested())
+            throw Cancelled();
+        m_bytes += bytes;
+    }
+
+private:
+    std::string& m_bytes;
+    const std::stop_token& m_stop;
+};
+
+const check::Target* targetOf(const Dialect& dialect) {
+    const auto targets = check::targets();
+    const auto found = std::find_if(targets.begin(), targets.end(), [&](const auto& target) {
+        return target.optionName == dialect.optionName;
+    });
+    return found == targets.end() ? nullptr : &*found;
+}
+
+// What both the text and the job tell is kept as the job tells it: that names the pen.
+void leaveOutTwins(check::Findings& findings) {
+    using check::Kind;
+    struct Twins {
+        Kind ofJob;
+        Kind ofText;
+    };
+    constexpr std::array twins{
+        Twins{Kind::billetDepth, Kind::tooDeep},   Twins{Kind::billetOutside, Kind::outside},
+        Twins{Kind::billetOutside, Kind::tooWide}, Twins{Kind::feedHigh, Kind::feedOdd},
+        Twins{Kind::feedUnits, Kind::feedOdd},     Twins{Kind::dwellLong, Kind::dwellOdd}};
+    for (const Twins& twin : twins)
+        if (findings.count(twin.ofJob) > 0)
+            findings.forget(twin.ofText);
+}
+
+bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const Dialect& dialect,
+               std::int16_t number, Logger& logger, const std::stop_token& stop) {
+    StoppableSink program(tried.program, stop);
+    StoppableSink sideText(tried.sideText, stop);
+    return writeProgram(job, tools, dialect, number, program, logger) &&
+           (!dialect.needsNumber() ||
+            writeSideText(job, tools, proposedFileName(dialect, {}, number), sideText, logger));
+}
+
+void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
+                  const Dialect& dialect) {
+    check::Report report =
+        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, targetOf(dialect));
+    check::findSense(job, tools, report.findings);
+    leaveOutTwins(report.findings);
+    tried.findings = std::move(report.findings);
+    tried.moves = std::move(report.moves);
+    tried.summary = std::move(report.summary);
+}
+
+} // namespace
+
+TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
+                        std::int16_t number, Logger& logger, const std::stop_token& stop) {
+    TriedProgram tried;
+    bool isWhole = false;
+    withErrorTrap(logger, {"tryProgram", "trial"}, [&] {
+        const ProgramSize size = programSize(job, tools, dialect);
+        tried.lines = size.lines;
+        if (size.lines > mostTriedLines ||
+            !writeInto(tried, job, tools, dialect, number, logger, stop) || stop.stop_requested())
+            return;
+        const auto& header = job.answers.gstrHeader;
+        tried.billet =
+            check::billetOf(header[headerBilletX], header[headerBilletY], header[headerBilletZ]);
+        readAndCheck(tried, job, tools, dialect);
+        if (const check::Target* const target = targetOf(dialect))
+            tried.pace = check::paceOf(*target);
+        tried.groups =
+            triedGroups(job, tools, size, tried.moves, check::moveTimes(tried.moves, tried.pace));
+        tried.minutes = check::programTime(tried.moves, tried.pace).minutes;
+        isWhole = true;
+    });
+    using State = TriedProgram::State;
+    if (stop.stop_requested())
+        tried.state = State::cancelled;
+    else if (tried.lines > mostTriedLines)
+        tried.state = State::tooLong;
+    else
+        tried.state = isWhole ? State::tried : State::failed;
+    return tried;
+}
+
+} // namespace torvik
