@@ -67,12 +67,14 @@ bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const
             writeSideText(job, tools, proposedFileName(dialect, {}, number), sideText, logger));
 }
 
+// Without a table of its own a control's programs are not read.
 void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
                   const Dialect& dialect) {
+    const check::Target* const target = targetOf(dialect);
+    if (target == nullptr)
+        return;
     check::Report report =
-        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, targetOf(dialect));
-    check::findSense(job, tools, report.findings);
-    leaveOutTwins(report.findings);
+        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, target);
     tried.findings = std::move(report.findings);
     tried.moves = std::move(report.moves);
     tried.summary = std::move(report.summary);
@@ -93,18 +95,20 @@ TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& di
     TriedProgram tried;
     bool isWhole = false;
     withErrorTrap(logger, {"tryProgram", "trial"}, [&] {
-        const ProgramSize size = programSize(job, tools, dialect);
-        tried.lines = size.lines;
-        if (size.lines > mostTriedLines ||
-            !writeInto(tried, job, tools, dialect, number, logger, stop) || stop.stop_requested())
-            return;
         const auto& header = job.answers.gstrHeader;
         tried.billet =
             check::billetOf(header[headerBilletX], header[headerBilletY], header[headerBilletZ]);
-        readAndCheck(tried, job, tools, dialect);
+        const ProgramSize size = programSize(job, tools, dialect);
+        tried.lines = size.lines;
+        isWhole = size.lines <= mostTriedLines &&
+                  writeInto(tried, job, tools, dialect, number, logger, stop) &&
+                  !stop.stop_requested();
+        if (isWhole)
+            readAndCheck(tried, job, tools, dialect);
+        check::findSense(job, tools, tried.findings);
+        leaveOutTwins(tried.findings);
         tried.groups = triedGroups(job, tools, size, tried.moves);
         tried.minutes = minutesOf(tried.moves);
-        isWhole = true;
     });
     using State = TriedProgram::State;
     if (stop.stop_requested())
