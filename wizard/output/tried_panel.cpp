@@ -39,7 +39,7 @@ QString passesText(const TriedGroup& group) {
         return passes == 1 ? TriedPanel::tr("1 pass") : TriedPanel::tr("%1 passes").arg(passes);
     const QString holes =
         group.holes == 1 ? TriedPanel::tr("1 hole") : TriedPanel::tr("%1 holes").arg(group.holes);
-    return passes == 1 ? holes : TriedPanel::tr("%1 in %2 steps").arg(holes).arg(passes);
+    return passes == 1 ? holes : TriedPanel::tr("%1, each in %2 steps").arg(holes).arg(passes);
 }
 
 // "T1 6.0 mm Slot drill – 5.2 mm deep – 3 passes"; a narrow page breaks it between the parts only.

@@ -39,11 +39,11 @@ private:
     void showGroups(const std::vector<TriedGroup>& groups, bool isTimed);
 
     QLabel* m_busy;
-    QWidget* m_facts;
     QLabel* m_part = nullptr;
     QLabel* m_billet = nullptr;
     QLabel* m_minutes = nullptr;
     QLabel* m_changes = nullptr;
+    QWidget* m_facts;
     QuietLine* m_findings;
     QVBoxLayout* m_groupsPlace;
     QWidget* m_groups = nullptr;
