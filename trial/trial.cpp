@@ -11,7 +11,6 @@
 #include "gcode/program_size.h"
 #include "trial/tried_groups.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -33,14 +32,6 @@ private:
     std::string& m_bytes;
     const std::stop_token& m_stop;
 };
-
-const check::Target* targetOf(const Dialect& dialect) {
-    const auto targets = check::targets();
-    const auto found = std::find_if(targets.begin(), targets.end(), [&](const auto& target) {
-        return target.optionName == dialect.optionName;
-    });
-    return found == targets.end() ? nullptr : &*found;
-}
 
 // What both the text and the job tell is kept as the job tells it: that names the pen.
 void leaveOutTwins(check::Findings& findings) {
@@ -70,7 +61,7 @@ bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const
 // Without a table of its own a control's programs are not read.
 void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
                   const Dialect& dialect) {
-    const check::Target* const target = targetOf(dialect);
+    const check::Target* const target = check::findTarget(dialect.optionName);
     if (target == nullptr)
         return;
     check::Report report =
