@@ -186,6 +186,13 @@ std::span<const Target> targets() {
     return targetRows;
 }
 
+const Target* findTarget(std::string_view optionName) {
+    for (const Target& target : targets())
+        if (target.optionName == optionName)
+            return &target;
+    return nullptr;
+}
+
 std::span<const StatementForm> commonForms() {
     return common;
 }

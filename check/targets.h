@@ -66,6 +66,8 @@ struct Target {
 };
 
 std::span<const Target> targets();
+// By its option name; nullptr where the check does not know the control.
+const Target* findTarget(std::string_view optionName);
 
 // The statements that all controls have.
 std::span<const StatementForm> commonForms();

@@ -103,10 +103,12 @@ private:
             m_reader.report(tooLong);
             return {};
         }
-        return [this, &job, output](std::string_view program, std::string_view sideText) {
-            const check::Report report = check::checkProgramOfJob(
-                program, sideText, job, m_reader.tools(),
-                &targetNamed(check::targets(), std::string(m_options.dialect->optionName)));
+        const check::Target* const target = check::findTarget(m_options.dialect->optionName);
+        if (target == nullptr)
+            return {}; // a control that the check does not know yet
+        return [this, &job, output, target](std::string_view program, std::string_view sideText) {
+            const check::Report report =
+                check::checkProgramOfJob(program, sideText, job, m_reader.tools(), target);
             const std::string file = utf8FromPath(output);
             m_err << check::findingLines(file, report.findings, true);
             if (m_options.strict && !report.findings.isGood())

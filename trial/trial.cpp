@@ -13,7 +13,6 @@
 #include "gcode/program_size.h"
 #include "trial/tried_groups.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -35,14 +34,6 @@ private:
     std::string& m_bytes;
     const std::stop_token& m_stop;
 };
-
-const check::Target* targetOf(const Dialect& dialect) {
-    const auto targets = check::targets();
-    const auto found = std::find_if(targets.begin(), targets.end(), [&](const auto& target) {
-        return target.optionName == dialect.optionName;
-    });
-    return found == targets.end() ? nullptr : &*found;
-}
 
 // What both the text and the job tell is kept as the job tells it: that names the pen.
 void leaveOutTwins(check::Findings& findings) {
@@ -69,12 +60,14 @@ bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const
             writeSideText(job, tools, proposedFileName(dialect, {}, number), sideText, logger));
 }
 
+// Without a table of its own a control's programs are not read.
 void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
                   const Dialect& dialect) {
+    const check::Target* const target = check::findTarget(dialect.optionName);
+    if (target == nullptr)
+        return;
     check::Report report =
-        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, targetOf(dialect));
-    check::findSense(job, tools, report.findings);
-    leaveOutTwins(report.findings);
+        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, target);
     tried.findings = std::move(report.findings);
     tried.moves = std::move(report.moves);
     tried.summary = std::move(report.summary);
@@ -87,21 +80,23 @@ TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& di
     TriedProgram tried;
     bool isWhole = false;
     withErrorTrap(logger, {"tryProgram", "trial"}, [&] {
-        const ProgramSize size = programSize(job, tools, dialect);
-        tried.lines = size.lines;
-        if (size.lines > mostTriedLines ||
-            !writeInto(tried, job, tools, dialect, number, logger, stop) || stop.stop_requested())
-            return;
         const auto& header = job.answers.gstrHeader;
         tried.billet =
             check::billetOf(header[headerBilletX], header[headerBilletY], header[headerBilletZ]);
-        readAndCheck(tried, job, tools, dialect);
-        if (const check::Target* const target = targetOf(dialect))
+        const ProgramSize size = programSize(job, tools, dialect);
+        tried.lines = size.lines;
+        isWhole = size.lines <= mostTriedLines &&
+                  writeInto(tried, job, tools, dialect, number, logger, stop) &&
+                  !stop.stop_requested();
+        if (isWhole)
+            readAndCheck(tried, job, tools, dialect);
+        check::findSense(job, tools, tried.findings);
+        leaveOutTwins(tried.findings);
+        if (const check::Target* const target = check::findTarget(dialect.optionName))
             tried.pace = check::paceOf(*target);
         tried.groups =
             triedGroups(job, tools, size, tried.moves, check::moveTimes(tried.moves, tried.pace));
         tried.minutes = check::programTime(tried.moves, tried.pace).minutes;
-        isWhole = true;
     });
     using State = TriedProgram::State;
     if (stop.stop_requested())

@@ -38,8 +38,8 @@ struct TriedGroup {
 struct TriedProgram {
     enum class State : std::uint8_t {
         tried,
-        tooLong,   // only lines is told
-        failed,    // an error ended the writing; the logger has reported it
+        tooLong,   // only what can be seen of the job alone is found
+        failed,    // the same: an error, which the logger has reported, ended the writing
         cancelled, // by the stop token
     };
 

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "forms/help_key.h"
 #include "prepare/dialog/dragged_source.h"
+#include "preview/cut/cut_picture.h"
 #include "preview/preview_widget.h"
 #include "sheet/dialog/job_sheet_dialog.h"
 #include "wizard/colour_tree_view.h"
@@ -125,7 +126,8 @@ void FrmMain::buildWindow() {
     m_controls.pens = new PenPage(m_workshop, m_driver);
     m_controls.order = new OrderPage(m_workshop);
     m_controls.header = new HeaderPage(m_workshop);
-    m_controls.output = new OutputPage(m_workshop);
+    auto* const piece = new CutPicture;
+    m_controls.output = new OutputPage(m_workshop, *piece);
     m_controls.pages = new QStackedWidget;
     m_controls.pages->setObjectName(QStringLiteral("picPages"));
     m_controls.opening = new StartPage;
@@ -138,11 +140,14 @@ void FrmMain::buildWindow() {
         m_controls.pages->addWidget(scrolling(page));
 
     m_controls.preview = new PreviewWidget(m_workshop.job, m_workshop.tools, m_workshop.logger);
+    m_controls.pictures = new QStackedWidget;
+    m_controls.pictures->addWidget(m_controls.preview);
+    m_controls.pictures->addWidget(piece);
     auto* const split = new QSplitter(Qt::Horizontal);
     split->setObjectName(QStringLiteral("splMain"));
     split->addWidget(buildSide());
     split->addWidget(m_controls.pages);
-    split->addWidget(m_controls.preview);
+    split->addWidget(m_controls.pictures);
     split->setChildrenCollapsible(false);
     split->setStretchFactor(0, 0);
     split->setStretchFactor(1, 0);

@@ -30,6 +30,7 @@ struct MainControls {
     OrderPage* order = nullptr;
     HeaderPage* header = nullptr;
     OutputPage* output = nullptr;
+    QStackedWidget* pictures = nullptr; // the preview, and the piece of step 6
     PreviewWidget* preview = nullptr;
     QPushButton* back = nullptr;
     QPushButton* next = nullptr;

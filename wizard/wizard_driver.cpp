@@ -147,7 +147,8 @@ void WizardDriver::fromStep6(std::int16_t direction) {
 
 void WizardDriver::writeOutput() {
     m_controls.output->rememberTarget();
-    switch (OutputStep(m_workshop, m_window).run(m_controls.output->target())) {
+    switch (OutputStep(m_workshop, m_controls.output->trial(), m_window)
+                .run(m_controls.output->target())) {
     case AfterOutput::openOther:
         returnToStart();
         break;
@@ -215,6 +216,9 @@ void WizardDriver::showStep(std::int16_t step) {
     m_workshop.job.gintWizardStep = step;
     m_controls.steps->showStep(step);
     m_controls.pages->setCurrentIndex(step - 1);
+    m_controls.pictures->setCurrentIndex(step == 6 ? 1 : 0);
+    if (step != 6)
+        m_controls.output->leave();
     m_controls.back->setVisible(step > 1);
     m_controls.next->setVisible(step > 1);
     m_controls.start->setVisible(step == 1);

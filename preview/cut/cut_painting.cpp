@@ -17,6 +17,7 @@ const QColor quietInk{0x70, 0x70, 0x70};
 const QColor uncutInk{0x6A, 0x3F, 0xA0};
 const QColor chosenInk{0xD0, 0x5A, 0x00};
 const QColor toolInk{0x0B, 0x62, 0xC4};
+const QString zeroText = QStringLiteral("X0 Y0");
 constexpr double zeroRadius = 7; // pixels
 constexpr double textGap = 6;
 constexpr double chordTurn = 0.05; // radians
@@ -78,9 +79,11 @@ void CutPainting::sizes(const QRectF& edge, const CutBillet& billet) {
     if (billet.depth > 0)
         length = QCoreApplication::translate("FrmCut", "%1, %2 thick")
                      .arg(length, lengthText(billet.depth));
-    m_painter.drawText(QPointF(edge.center().x() - metrics.horizontalAdvance(length) / 2,
-                               edge.bottom() + textGap + metrics.ascent()),
-                       length);
+    QPointF at(edge.center().x() - metrics.horizontalAdvance(length) / 2,
+               edge.bottom() + textGap + metrics.ascent());
+    if (at.x() < m_view.toPixels({0, 0}).x() + metrics.horizontalAdvance(zeroText))
+        at.ry() += zeroRadius + metrics.height(); // a small billet: below the zero point's text
+    m_painter.drawText(at, length);
     const QString width = lengthText(billet.width);
     m_painter.save();
     m_painter.translate(edge.left() - textGap - metrics.descent(), edge.center().y());
@@ -101,8 +104,7 @@ void CutPainting::zeroPoint() {
     m_painter.drawPie(circle, 180 * 16, 90 * 16);
     const QFontMetricsF metrics(m_painter.font());
     m_painter.drawText(
-        QPointF(at.x() - zeroRadius, at.y() + zeroRadius + textGap + metrics.ascent()),
-        QStringLiteral("X0 Y0"));
+        QPointF(at.x() - zeroRadius, at.y() + zeroRadius + textGap + metrics.ascent()), zeroText);
 }
 
 void CutPainting::uncut(const std::vector<QPolygonF>& paths) {

@@ -33,7 +33,8 @@ CutPicture::CutPicture(QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
     grid->addWidget(m_canvas, 0, 0);
-    grid->addWidget(makeStrip(), 0, 1);
+    m_strip = makeStrip();
+    grid->addWidget(m_strip, 0, 1);
     grid->addWidget(m_place, 1, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(0, 1);
@@ -86,6 +87,11 @@ QWidget* CutPicture::makeZoomButtons() {
         });
     }
     return buttons;
+}
+
+void CutPicture::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    m_strip->setVisible(width() >= m_canvas->minimumSizeHint().width() + m_strip->width());
 }
 
 void CutPicture::showLegend() {

@@ -4,8 +4,10 @@
 #include "forms/dialog_places.h"
 #include "forms/form_fields.h"
 
+#include <QDesktopServices>
 #include <QLabel>
 #include <QPushButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <array>
@@ -25,14 +27,28 @@ constexpr std::array<Choice, 3> choices{{
     {"cmdClose", "&Close Torvik", "Close"},
 }};
 
+// The menu stays open behind the folder's window.
+QPushButton* makeFolderButton(const QString& folder) {
+    auto* const button = new QPushButton(FrmMenu::tr("Open the &folder"));
+    button->setObjectName(QStringLiteral("cmdFolder"));
+    button->setToolTip(FrmMenu::tr("Show where the program was written to"));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+    return button;
+}
+
 } // namespace
 
-FrmMenu::FrmMenu(const QString& writtenFile, QWidget* parent) : QDialog(parent) {
+FrmMenu::FrmMenu(const QString& writtenFile, const QString& minutes, const QString& folder,
+                 QWidget* parent)
+    : QDialog(parent) {
     setObjectName(QStringLiteral("frmMenu"));
     setWindowTitle(QStringLiteral("Torvik"));
-    auto* const label =
-        new QLabel(tr("The program has been written to\n%1\n\nWhat would you like to do next?")
-                       .arg(breakablePath(writtenFile)));
+    auto* const label = new QLabel(
+        tr("The program has been written to\n%1\n\n").arg(breakablePath(writtenFile)) +
+        (minutes.isEmpty() ? QString() : tr("It will take %1 on the machine.\n\n").arg(minutes)) +
+        tr("What would you like to do next?"));
     label->setObjectName(QStringLiteral("lblMenu"));
     label->setWordWrap(true);
     label->setMinimumWidth(360);
@@ -49,6 +65,8 @@ FrmMenu::FrmMenu(const QString& writtenFile, QWidget* parent) : QDialog(parent) 
         });
         layout->addWidget(button);
     }
+    layout->addSpacing(8);
+    layout->addWidget(makeFolderButton(folder), 0, Qt::AlignLeft);
 }
 
 std::string FrmMenu::tag() const {

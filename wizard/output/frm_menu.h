@@ -12,7 +12,9 @@ class FrmMenu : public QDialog {
     Q_OBJECT
 
 public:
-    explicit FrmMenu(const QString& writtenFile, QWidget* parent = nullptr);
+    // minutes: "about 12 min", empty where it is not known. folder: where the file stands.
+    FrmMenu(const QString& writtenFile, const QString& minutes, const QString& folder,
+            QWidget* parent = nullptr);
 
     // "Open", "Save", "Close", or empty where the menu was closed without a choice.
     std::string tag() const;

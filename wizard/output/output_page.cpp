@@ -7,10 +7,14 @@
 #include "forms/help_key.h"
 #include "gcode/comment_check.h"
 #include "gcode/dialects.h"
+#include "preview/cut/cut_picture.h"
+#include "preview/cut/frm_cut.h"
 #include "tools/settings_file_reader.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/own_settings.h"
+#include "wizard/output/tried_panel.h"
+#include "wizard/output/tried_piece.h"
 
 #include <QButtonGroup>
 #include <QDir>
@@ -68,8 +72,8 @@ QString faultText(const CommentFault& fault) {
 
 } // namespace
 
-OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
-    : QWidget(parent), m_workshop(workshop) {
+OutputPage::OutputPage(Workshop& workshop, CutPicture& picture, QWidget* parent)
+    : QWidget(parent), m_workshop(workshop), m_picture(picture), m_panel(new TriedPanel) {
     setObjectName(QStringLiteral("picOutput"));
     setProperty(helpContextProperty, helpOutput);
     auto* const box = new QGroupBox(tr("Write the program for"));
@@ -100,10 +104,45 @@ OutputPage::OutputPage(Workshop& workshop, QWidget* parent)
     layout->addWidget(box);
     m_comments = makeWarning(QStringLiteral("lblComments"));
     layout->addWidget(m_comments);
+    layout->addWidget(m_panel);
     layout->addWidget(buildDrive());
     layout->addStretch(1);
-    connect(m_targets, &QButtonGroup::idClicked, this, [this] { warnOfComments(); });
+    connect(m_targets, &QButtonGroup::idClicked, this, [this] {
+        warnOfComments();
+        if (m_trial.target() != target())
+            beginTrial();
+    });
+    connect(&m_trial, &TrialRun::ended, this, &OutputPage::trialEnded);
+    connect(
+        m_panel, &TriedPanel::lookWanted, this, [this] { look(); }, Qt::QueuedConnection);
     showDrive();
+}
+
+OutputPage::~OutputPage() = default;
+
+void OutputPage::beginTrial() {
+    m_panel->showBusy();
+    m_picture.setWork(nullptr);
+    m_work.reset();
+    m_trial.begin(m_workshop.job, m_workshop.tools, target());
+}
+
+void OutputPage::trialEnded() {
+    withErrorTrap(m_workshop.logger, {"trialEnded", "frmMain"}, [&] {
+        TriedProgram& tried = *m_trial.tried();
+        m_panel->showTried(tried, m_workshop.job.answers.gstrHeader[headerPartName],
+                           m_trial.cause());
+        if (tried.moves.empty())
+            return;
+        m_work = std::make_shared<CutWork>(pieceOf(tried, m_workshop.job, m_workshop.tools));
+        m_picture.setWork(m_work);
+        m_panel->setPieceShown(true);
+    });
+}
+
+void OutputPage::look() {
+    if (m_work)
+        FrmCut(m_work, this).exec();
 }
 
 QWidget* OutputPage::buildDrive() {
@@ -188,7 +227,14 @@ void OutputPage::rememberTarget() {
 void OutputPage::enter() {
     showDrive();
     warnOfComments();
+    beginTrial();
     m_targets->checkedButton()->setFocus();
+}
+
+void OutputPage::leave() {
+    m_trial.cancel();
+    m_picture.setWork(nullptr);
+    m_work.reset();
 }
 
 } // namespace torvik

@@ -4,21 +4,25 @@
 #include "answers/job_checks.h"
 #include "answers/program_folder.h"
 #include "answers/put_saved_data.h"
+#include "answers/tool_check.h"
 #include "base/error_trap.h"
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "check/time/program_time.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
-#include "answers/tool_check.h"
 #include "wizard/host/group_name.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/file_dialogs.h"
+#include "wizard/output/finding_rows.h"
+#include "wizard/output/frm_danger.h"
 #include "wizard/output/frm_menu.h"
 #include "wizard/output/frm_output.h"
+#include "wizard/output/trial_run.h"
 #include "wizard/output/writing_dialog.h"
 
 #include <QGuiApplication>
@@ -57,7 +61,7 @@ AfterOutput OutputStep::run(std::int16_t target) {
             return;
         const Dialect& dialect = dialectFor(target);
         const ProgramSize size = programSize(m_workshop.job, m_workshop.tools, dialect);
-        if (!agreesToSize(size))
+        if (!agreesToSize(size) || !agreesToFindings(target))
             return;
         m_lines = size.lines;
         if (!dialect.needsNumber()) {
@@ -101,6 +105,15 @@ bool OutputStep::agreesToSize(const ProgramSize& size) {
                    .arg(mostOfIt)
                    .toStdString(),
                styleQuestionDefaultNo, usualTitle) == buttonYes;
+}
+
+bool OutputStep::agreesToFindings(std::int16_t target) {
+    if (m_trial.target() != target)
+        m_trial.begin(m_workshop.job, m_workshop.tools, target);
+    if (!m_trial.finish(m_window))
+        return false;
+    const QStringList texts = namedTexts(m_trial.tried()->findings);
+    return texts.isEmpty() || FrmDanger(texts, &m_window).exec() == QDialog::Accepted;
 }
 
 std::int16_t OutputStep::askForNumber(const Dialect& dialect) {
@@ -168,7 +181,7 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
             return;
         PutSavedData(m_workshop.job, m_workshop.tools, savedSettingsFolder(), m_workshop.logger);
         m_workshop.job.output.gblnUnsaved = false;
-        after = showMenu(dialect.needsNumber() ? "a:\\" + proposed : utf8FromPath(file));
+        after = showMenu(dialect.needsNumber() ? "a:\\" + proposed : utf8FromPath(file), file);
     });
     return after;
 }
@@ -194,8 +207,14 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
     }
 }
 
-AfterOutput OutputStep::showMenu(const std::string& writtenFile) {
-    FrmMenu menu(QString::fromStdString(writtenFile), &m_window);
+AfterOutput OutputStep::showMenu(const std::string& writtenFile,
+                                 const std::filesystem::path& file) {
+    const TriedProgram* const tried = m_trial.tried();
+    const QString minutes = tried != nullptr && tried->isTried()
+                                ? QString::fromStdString(check::timeText(tried->minutes))
+                                : QString();
+    FrmMenu menu(QString::fromStdString(writtenFile), minutes,
+                 QString::fromStdString(utf8FromPath(file.parent_path())), &m_window);
     menu.exec();
     const std::string word = menu.tag();
     if (word == "Open")

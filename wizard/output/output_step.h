@@ -15,6 +15,7 @@ namespace torvik {
 
 struct Dialect;
 struct ProgramSize;
+class TrialRun;
 struct Workshop;
 
 // What the user wants after the output.
@@ -32,8 +33,9 @@ class OutputStep {
     Q_DECLARE_TR_FUNCTIONS(OutputStep)
 
 public:
-    // Dialogs are shown over the window.
-    OutputStep(Workshop& workshop, QWidget& window) : m_workshop(workshop), m_window(window) {}
+    // Dialogs are shown over the window. The trial is finished before anything is written.
+    OutputStep(Workshop& workshop, TrialRun& trial, QWidget& window)
+        : m_workshop(workshop), m_trial(trial), m_window(window) {}
 
     // Asks what the target needs to know and calls WriteFile. gblnUnsaved becomes False only when
     // a file was really written.
@@ -49,15 +51,19 @@ public:
 private:
     // Whether the program's size is no hindrance: what is very long is asked about.
     bool agreesToSize(const ProgramSize& size);
+    // Whether nothing dangerous is found in the program, or the user wants it all the same.
+    bool agreesToFindings(std::int16_t target);
     // The program number, 0 where the user cancelled.
     std::int16_t askForNumber(const Dialect& dialect);
     bool waitForDiskette();
     bool mayOverwrite(const std::string& name);
     // False where the user gave up or the writing failed.
     bool write(std::int16_t target, std::int16_t number, const std::filesystem::path& file);
-    AfterOutput showMenu(const std::string& writtenFile);
+    // The file as the user knows it, and where it really is.
+    AfterOutput showMenu(const std::string& writtenFile, const std::filesystem::path& file);
 
     Workshop& m_workshop;
+    TrialRun& m_trial;
     QWidget& m_window;
     std::int64_t m_lines = 0; // of the program that is written
 };

@@ -57,7 +57,8 @@ TEST_F(OutputTest, ANumberedProgramGoesToTheDisketteWithItsText) {
             DialogAnswers::number(row.number)(dialog);
         });
         answers.expect("frmMenu", [&](QDialog& dialog) {
-            EXPECT_TRUE(dialog.findChild<QLabel*>("lblMenu")->text().contains(row.name));
+            const QString text = dialog.findChild<QLabel*>("lblMenu")->text();
+            EXPECT_TRUE(text.contains(row.name) && text.contains(" min on the machine."));
             DialogAnswers::press("cmdSave")(dialog);
         });
         click("cmdNext");
@@ -198,6 +199,40 @@ TEST_F(OutputTest, ALongProgramIsAskedAboutAndCanBeCancelled) {
     messages.take();
     EXPECT_TRUE(std::filesystem::is_empty(drive));
     expectNothingWritten();
+}
+
+TEST_F(OutputTest, WhatIsDangerousIsShownAndNamedBeforeItIsWritten) {
+    const auto found = [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return find<QWidget>("cmdLook").isEnabled(); }));
+        return find<QWidget>("lblFindings").accessibleName().toStdString();
+    };
+    EXPECT_TRUE(found().starts_with("Nothing dangerous or wrong is found in it."));
+    Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
+    settings.sngDepth = 600;
+    settings.sngDepthPerPass = 50;
+    job.answers.gsngSafeHeight = -10;
+    choose(2);
+    const auto asked = [](const char* button) -> DialogAnswers::Answer {
+        return [button](QDialog& dialog) {
+            const QString named = dialog.findChild<QLabel*>("lblDanger")->text();
+            for (const char* part : {"The Safe Height for Rapids must be above 0",
+                                     "The depth of the Black lines is 600.00 mm", "\nand "})
+                EXPECT_TRUE(named.contains(part)) << named.toStdString();
+            EXPECT_EQ(dialog.focusWidget()->objectName(), "cmdGoBack");
+            button != nullptr ? DialogAnswers::press(button)(dialog)
+                              : QTest::keyClick(&dialog, Qt::Key_Escape);
+        };
+    };
+    answers.expect("frmDanger", asked(nullptr)); // the trial may still be under way
+    click("cmdNext");
+    EXPECT_TRUE(std::filesystem::is_empty(drive));
+    expectNothingWritten();
+    EXPECT_NE(found().find("The Safe Height for Rapids must be above 0"), std::string::npos);
+    answers.expect("frmDanger", asked("cmdWrite"));
+    answers.expect("frmOutput", DialogAnswers::number("1"));
+    answers.expect("frmMenu", DialogAnswers::cancel);
+    click("cmdNext");
+    EXPECT_TRUE(std::filesystem::exists(drive / "oprg1"));
 }
 
 TEST_F(OutputTest, TextsThatACommentCannotHoldAreNamedForTheTargetsConcerned) {
