@@ -13,11 +13,7 @@ struct Summary {
     double deepest = 0;     // mm below the surface
     std::vector<int> tools; // in the order in which they are first taken
     int changes = 0;        // from one tool to the next
-    double minutes = 0;     // at the written feeds, without tool changes
 };
-
-// How long the move takes at its feed; a quick one as on a small mill. Unknown where it is not known.
-double minutesOf(const Move& move);
 
 Summary summaryOf(const Moves& moves);
 

@@ -90,6 +90,12 @@ constexpr std::array<Target, 4> targetRows{{
         .dwellDecimals = 2,
         .dwellFactor = 1,
         .stopsSpindle = true,
+        .pace = {.rapid = 2000,
+                 .rapidZ = 1500,
+                 .acceleration = 150,
+                 .toolChange = 60,
+                 .spindleStart = 3,
+                 .feedCap = 2000},
     },
     {
         .name = "WinNC",
@@ -111,6 +117,12 @@ constexpr std::array<Target, 4> targetRows{{
         .dwellDecimals = 2,
         .dwellFactor = 1,
         .stopsSpindle = true,
+        .pace = {.rapid = 3000,
+                 .rapidZ = 2000,
+                 .acceleration = 250,
+                 .toolChange = 60,
+                 .spindleStart = 3,
+                 .feedCap = 2000},
     },
     {
         .name = "Maskor",
@@ -132,6 +144,12 @@ constexpr std::array<Target, 4> targetRows{{
         .dwellDecimals = 2,
         .dwellFactor = 1,
         .stopsSpindle = false,
+        .pace = {.rapid = 1800,
+                 .rapidZ = 1200,
+                 .acceleration = 100,
+                 .toolChange = 90,
+                 .spindleStart = 4,
+                 .feedCap = 1800},
     },
     {
         .name = "Kestra",
@@ -153,6 +171,12 @@ constexpr std::array<Target, 4> targetRows{{
         .dwellDecimals = 0,
         .dwellFactor = 0.001, // written in ms
         .stopsSpindle = true,
+        .pace = {.rapid = 3600,
+                 .rapidZ = 1800,
+                 .acceleration = 300,
+                 .toolChange = 60,
+                 .spindleStart = 4,
+                 .feedCap = 3600},
     },
 }};
 

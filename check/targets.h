@@ -3,6 +3,8 @@
 // which control it is. It knows nothing of the writer, on purpose.
 #pragma once
 
+#include "check/pace.h"
+
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -60,6 +62,7 @@ struct Target {
     int dwellDecimals;
     double dwellFactor; // a written dwell times this is seconds
     bool stopsSpindle;  // it has a statement for that
+    Pace pace;          // of the machine behind it, as long as the workshop sets nothing
 };
 
 std::span<const Target> targets();

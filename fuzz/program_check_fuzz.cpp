@@ -22,7 +22,9 @@ void checkReport(const Report& report, std::uint32_t lines) {
         holds(!holdsControlCharacter(sentence), "a sentence can be printed");
     }
     const Summary& summary = report.summary;
-    holds(std::isfinite(summary.minutes) && summary.minutes >= 0, "the time is a number");
+    const ProgramTime time = timeOf(report);
+    holds(std::isfinite(time.minutes) && time.lookAhead >= 0, "the time is a number");
+    holds(time.lookAhead <= time.minutes * 1.000001, "to look ahead takes no longer");
     holds(std::isfinite(summary.deepest) && summary.deepest >= 0, "the depth is a number");
     holds(!(summary.extents.lowX > summary.extents.highX), "the extents have their order");
     holds(!reportText("f", report, false).empty(), "a report is never empty");

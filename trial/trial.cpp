@@ -6,6 +6,8 @@
 #include "check/plan/plan.h"
 #include "check/sense/sense.h"
 #include "check/targets.h"
+#include "check/time/pace_settings.h"
+#include "check/time/program_time.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
@@ -73,14 +75,6 @@ void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
 
 } // namespace
 
-double minutesOf(std::span<const check::Move> moves) {
-    double minutes = 0;
-    for (const check::Move& move : moves)
-        if (const double one = check::minutesOf(move); std::isfinite(one))
-            minutes += one;
-    return minutes;
-}
-
 TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                         std::int16_t number, Logger& logger, const std::stop_token& stop) {
     TriedProgram tried;
@@ -98,8 +92,11 @@ TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& di
             readAndCheck(tried, job, tools, dialect);
         check::findSense(job, tools, tried.findings);
         leaveOutTwins(tried.findings);
-        tried.groups = triedGroups(job, tools, size, tried.moves);
-        tried.minutes = minutesOf(tried.moves);
+        if (const check::Target* const target = check::findTarget(dialect.optionName))
+            tried.pace = check::paceOf(*target);
+        tried.groups =
+            triedGroups(job, tools, size, tried.moves, check::moveTimes(tried.moves, tried.pace));
+        tried.minutes = check::programTime(tried.moves, tried.pace).minutes;
     });
     using State = TriedProgram::State;
     if (stop.stop_requested())

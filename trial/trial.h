@@ -5,6 +5,7 @@
 
 #include "check/findings.h"
 #include "check/move.h"
+#include "check/pace.h"
 #include "check/program_header.h"
 #include "check/summary.h"
 #include "job/machined_groups.h"
@@ -52,7 +53,8 @@ struct TriedProgram {
     check::Moves moves;
     check::Summary summary;
     std::vector<TriedGroup> groups; // in machining order
-    double minutes = 0;             // on the machine
+    check::Pace pace;               // of the control's machine
+    double minutes = 0;             // on it, with a stop at the end of every move
 
     bool isTried() const { return state == State::tried; }
 };
@@ -60,8 +62,5 @@ struct TriedProgram {
 // `number` is the program number of the targets that have one. Raises nothing of its own.
 TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                         std::int16_t number, Logger& logger, const std::stop_token& stop = {});
-
-// How long the moves take on the machine: every figure of minutes comes from here.
-double minutesOf(std::span<const check::Move> moves);
 
 } // namespace torvik

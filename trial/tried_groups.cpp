@@ -2,6 +2,7 @@
 #include "trial/tried_groups.h"
 
 #include "base/picture.h"
+#include "check/time/program_time.h"
 #include "gcode/path_index.h"
 #include "gcode/program_size.h"
 #include "tools/tool_list.h"
@@ -25,21 +26,11 @@ std::string toolOf(const ToolList& tools, std::int16_t place) {
            tool.strType;
 }
 
-// The moves from one line to before another.
-std::span<const check::Move> movesOf(const check::Moves& moves, std::int64_t first,
-                                     std::int64_t end) {
-    const auto at = [&](std::int64_t line) {
-        return std::partition_point(moves.begin(), moves.end(), [line](const check::Move& move) {
-            return std::int64_t{move.line} < line;
-        });
-    };
-    return {at(first), at(end)};
-}
-
 } // namespace
 
 std::vector<TriedGroup> triedGroups(const Job& job, const ToolList& tools, const ProgramSize& size,
-                                    const check::Moves& moves) {
+                                    const check::Moves& moves,
+                                    const std::vector<check::MoveTime>& times) {
     std::vector<TriedGroup> groups;
     PathIndex paths(job);
     for (std::size_t i = 0; i < size.groups.size(); ++i) {
@@ -54,7 +45,8 @@ std::vector<TriedGroup> triedGroups(const Job& job, const ToolList& tools, const
         groups.push_back({group, nameOf(pen, group.radius), toolOf(tools, settings.intTool),
                           settings.sngDepth, steps / std::max<std::int64_t>(holes, 1), holes,
                           static_cast<std::uint32_t>(firstLine),
-                          minutesOf(movesOf(moves, firstLine, end))});
+                          check::minutesOfLines(moves, times, static_cast<std::uint32_t>(firstLine),
+                                                static_cast<std::uint32_t>(end))});
     }
     return groups;
 }

@@ -28,7 +28,7 @@ namespace torvik {
 namespace {
 
 constexpr int helpHeights = 2;
-constexpr int linesKept = 2;
+constexpr int heightLinesKept = 2;
 
 struct Height {
     const char* name;
@@ -106,7 +106,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
         m_units[static_cast<std::size_t>(i)] = option;
     }
 
-    m_quiet = new QuietLine(QStringLiteral("lblQuietHeights"), linesKept);
+    m_quiet = new QuietLine(QStringLiteral("lblQuietHeights"), heightLinesKept);
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->addWidget(makePageTitle(tr("Heights and units for the whole job")));

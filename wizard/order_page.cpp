@@ -28,7 +28,7 @@ namespace {
 
 constexpr int helpOrder = 4;
 constexpr int pictureSide = 24;
-constexpr int linesKept = 5;
+constexpr int orderLinesKept = 5;
 
 std::int16_t penOf(const QLabel& label) {
     return toInt16(leadingNumber(label.property(tagProperty).toString().toStdString()));
@@ -52,7 +52,7 @@ OrderPage::OrderPage(Workshop& workshop, QWidget* parent) : QWidget(parent), m_w
     layout->addWidget(makePageTitle(tr("Machining order")));
     layout->addWidget(explanation);
     layout->addLayout(middle, 1);
-    m_quiet = new QuietLine(QStringLiteral("lblQuietOrder"), linesKept);
+    m_quiet = new QuietLine(QStringLiteral("lblQuietOrder"), orderLinesKept);
     layout->addWidget(m_quiet);
 }
 

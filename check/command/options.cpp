@@ -130,7 +130,7 @@ std::string helpText() {
            "The header of a diskette program is read from the text beside it, FILE.txt.\n"
            "With a drawing, every group, cut, hole, feed and speed is compared with the job, and\n"
            "nothing may be missing, doubled or added.\n"
-           "The time is counted at the written feeds, without tool changes.\n\n"
+           "The time is an estimate with acceleration, dwell, tool changes and spindle starts.\n\n"
            "Exit codes: 0 nothing dangerous or wrong was found; 1 wrong usage; 2 a file cannot be\n"
            "read, or the drawing and its answers make no job; 5 something dangerous or wrong was "
            "found.\n";

@@ -48,7 +48,9 @@ std::string summaryJson(const Report& report) {
     putField(object, "deepest", numberText(summary.deepest, 2));
     putField(object, "tools", "[" + tools + "]");
     putField(object, "changes", formatInteger(summary.changes));
-    putField(object, "minutes", numberText(summary.minutes, 2));
+    const ProgramTime time = timeOf(report);
+    putField(object, "minutes", numberText(time.minutes, 2));
+    putField(object, "minutesLookingAhead", numberText(time.lookAhead, 2));
     for (const Level level : {Level::danger, Level::wrong, Level::look, Level::note})
         putField(object, levelName(level),
                  formatInteger(static_cast<long>(report.findings.count(level))));

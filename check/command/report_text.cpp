@@ -3,6 +3,7 @@
 
 #include "base/picture.h"
 #include "check/finding_lines.h"
+#include "check/time/pace_settings.h"
 
 #include <algorithm>
 #include <array>
@@ -14,10 +15,6 @@ constexpr std::array levels{Level::danger, Level::wrong, Level::look, Level::not
 
 std::string countText(std::size_t count) {
     return formatInteger(static_cast<long>(count));
-}
-
-std::string minutesText(double minutes) {
-    return minutes < 1 ? "less than 1 min" : "about " + formatFixed(minutes, 0) + " min";
 }
 
 std::string toolsText(const Summary& summary) {
@@ -44,7 +41,7 @@ std::string summaryLine(std::string_view file, const Report& report) {
         if (!summary.tools.empty())
             line += ", tools " + toolsText(summary) + ", " + formatInteger(summary.changes) +
                     (summary.changes == 1 ? " change" : " changes");
-        line += ", " + minutesText(summary.minutes);
+        line += ", " + timeText(timeOf(report).minutes);
     }
     std::string counts;
     for (const Level level : levels)
@@ -74,6 +71,11 @@ constexpr std::array<std::string_view, 8> columns{"control", "danger", "wrong", 
 
 } // namespace
 
+ProgramTime timeOf(const Report& report) {
+    return report.target == nullptr ? ProgramTime{}
+                                    : programTime(report.moves, paceOf(*report.target));
+}
+
 std::string reportText(std::string_view file, const Report& report, bool quiet) {
     const std::string text = findingLines(file, report.findings, quiet);
     return quiet ? text : text + summaryLine(file, report);
@@ -99,7 +101,7 @@ std::string tableLine(std::string_view file, const Report& report, std::size_t w
         countText(findings.count(Level::look)),
         countText(findings.count(Level::note)),
         isKnown ? heightText(report.summary.deepest) : "-",
-        isKnown ? formatFixed(report.summary.minutes, 0) : "-"};
+        isKnown ? formatFixed(roundedMinutes(timeOf(report).minutes), 0) : "-"};
     for (std::size_t i = 0; i < texts.size(); ++i)
         putPadded(line, texts[i], columns[i].size());
     return line.append(worstKind(findings)) + "\n";

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "check/check.h"
+#include "check/time/program_time.h"
 
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ std::string tableHead(std::size_t width);
 std::string tableLine(std::string_view file, const Report& report, std::size_t width);
 // How wide a name is, in characters.
 std::size_t widthOf(std::string_view name);
+
+// How long the program takes at the workshop's pace; nothing where its control is not known.
+ProgramTime timeOf(const Report& report);
 
 // One JSON object.
 std::string reportJson(std::string_view file, const Report& report, bool quiet);

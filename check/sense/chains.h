@@ -3,6 +3,7 @@
 // comes back to its start. Lengths are mm.
 #pragma once
 
+#include "check/move.h"
 #include "job/extents.h"
 #include "job/job.h"
 
@@ -10,11 +11,6 @@
 #include <vector>
 
 namespace torvik::check {
-
-struct Point {
-    double x;
-    double y;
-};
 
 struct Chain {
     std::span<const std::int16_t> paths; // subscripts of gudtPaths

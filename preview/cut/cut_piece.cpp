@@ -4,6 +4,7 @@
 #include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
+#include "check/time/pace_settings.h"
 
 #include <QCoreApplication>
 
@@ -58,6 +59,7 @@ CutPiece pieceOfProgram(std::string program, std::string_view sideText) {
     const check::Header header =
         target->commentOpener == 0 ? check::readSideText(sideText) : read.header;
     piece.moves = check::walk(read);
+    piece.pace = check::paceOf(*target);
     piece.billet.length = header.billet.length;
     piece.billet.width = header.billet.width;
     piece.billet.depth = header.billet.depth;

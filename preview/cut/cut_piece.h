@@ -4,6 +4,7 @@
 #pragma once
 
 #include "check/move.h"
+#include "check/pace.h"
 #include "sweep/cuts.h"
 
 #include <QPolygonF>
@@ -41,6 +42,7 @@ struct CutPiece {
     QString name;        // of the part or the file, for the window's title
     std::string program; // its bytes
     check::Moves moves;
+    check::Pace pace; // of the machine that it is for
     CutBillet billet;
     std::map<int, CutTool> tools; // by number
     std::vector<CutGroup> groups; // by line, ascending; may be empty

@@ -6,7 +6,7 @@
 namespace torvik {
 namespace {
 
-constexpr double margin = 36; // pixels round the whole, for its sizes
+constexpr double viewMargin = 36; // pixels round the whole, for its sizes
 
 } // namespace
 
@@ -22,7 +22,7 @@ void CutView::setWhole(const QRectF& whole) {
 
 double CutView::scale() const {
     const auto fitted = [](double pixels, double length) {
-        return std::max(pixels - 2 * margin, 16.0) / std::max(length, 1e-3);
+        return std::max(pixels - 2 * viewMargin, 16.0) / std::max(length, 1e-3);
     };
     return m_ratio * m_zoom *
            std::min(fitted(m_size.width(), m_whole.width()),
@@ -64,7 +64,7 @@ void CutView::showWhole() {
 void CutView::bringIntoSight(QPointF place) {
     const QPointF at = toPixels(place);
     const auto beyond = [](double pixel, double size) {
-        return pixel < margin ? margin - pixel : pixel > size - margin ? size - margin - pixel : 0;
+        return pixel < viewMargin ? viewMargin - pixel : pixel > size - viewMargin ? size - viewMargin - pixel : 0;
     };
     if (m_zoom > 1)
         moveBy({beyond(at.x(), m_size.width()), beyond(at.y(), m_size.height())});

@@ -15,7 +15,8 @@ sweep::Area areaOf(const CutBillet& billet) {
 } // namespace
 
 CutWork::CutWork(CutPiece piece)
-    : m_piece(std::move(piece)), m_timeline(m_piece.moves), m_thread([this] { sweepAll(); }) {}
+    : m_piece(std::move(piece)), m_timeline(m_piece.moves, m_piece.pace),
+      m_thread([this] { sweepAll(); }) {}
 
 CutWork::~CutWork() {
     m_cancel = true;

@@ -111,7 +111,8 @@ void PlayBar::play(bool on) {
 
 void PlayBar::showPlaying() {
     const bool on = isPlaying();
-    m_play->setIcon(playIcon(palette().color(QPalette::ButtonText), on, devicePixelRatioF()));
+    m_play->setIcon(
+        playIcon(palette().color(QPalette::Active, QPalette::ButtonText), on, devicePixelRatioF()));
     m_play->setToolTip(on ? tr("Pause (Space)") : tr("Play (Space)"));
     m_play->setAccessibleName(on ? tr("Pause") : tr("Play"));
 }

@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/timeline.h"
 
-#include "check/summary.h"
-
 #include <algorithm>
 
 namespace torvik {
 
-Timeline::Timeline(const check::Moves& moves) {
+Timeline::Timeline(const check::Moves& moves, check::Pace pace) {
+    pace.toolChange = pace.spindleStart = 0;
     m_ends.reserve(moves.size());
     double now = 0;
-    for (const check::Move& move : moves) {
-        const double seconds = 60 * check::minutesOf(move);
-        if (std::isfinite(seconds) && seconds > 0)
-            now += seconds;
-        m_ends.push_back(now);
-    }
+    for (const check::MoveTime& time : check::moveTimes(moves, pace))
+        m_ends.push_back(now += time.exactStop);
 }
 
 Moment Timeline::at(double seconds) const {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// When each move of a program is made. Seconds from its beginning, without tool changes.
+// When each move of a program is made. Seconds from its beginning, with a stop at the end of every
+// move; tool changes and spindle starts, in which nothing moves, are passed over.
 #pragma once
 
-#include "check/move.h"
+#include "check/time/move_times.h"
 
 #include <cstddef>
 #include <vector>
@@ -16,7 +17,7 @@ struct Moment {
 
 class Timeline {
 public:
-    explicit Timeline(const check::Moves& moves);
+    explicit Timeline(const check::Moves& moves, check::Pace pace = {});
 
     double seconds() const { return m_ends.empty() ? 0 : m_ends.back(); }
     Moment at(double seconds) const;

@@ -30,7 +30,7 @@ TEST(Checker, FindingsComeFirstAndASummaryLast) {
     const std::string good = folder.file("good.iso", changedProgram(0, "")).string();
     const std::string bad = folder.file("bad.iso", changedProgram(41, "")).string();
     const std::string summary = ": Kestra, cuts X10.000 to X65.000, Y10.000 to Y50.000, 4.00 mm "
-                                "deep, tools T3 T8, 1 change, about 1 min: ";
+                                "deep, tools T3 T8, 1 change, about 2 min: ";
     const CheckRun both = run({good, bad});
     EXPECT_EQ(both.code, 5);
     EXPECT_EQ(both.out, good + summary + "0 danger, 0 wrong, 0 look, 0 note\n" + bad +
@@ -59,7 +59,7 @@ TEST(Checker, AFolderIsWalkedAndBecomesATable) {
         "program" + pad + "  control  danger  wrong  look  note  deep  minutes  first\n" + name +
             "/%MPF7       WinCAM   0       2      0     0     0.00  0        opening\n" + name +
             "/9b/Ada.MXC  Maskor   1       1      0     0     0.00  0        rapid-down\n" + name +
-            "/renamed.nc  Kestra   0       0      0     0     4.00  1        -\n");
+            "/renamed.nc  Kestra   0       0      0     0     4.00  2        -\n");
 }
 
 TEST(Checker, JsonHoldsAllThatIsKnown) {
@@ -71,7 +71,8 @@ TEST(Checker, JsonHoldsAllThatIsKnown) {
                   "\"level\":\"wrong\",\"sentence\":\"\\\"\\\"\\\" is not a line that Maskor "
                   "programs have at this place.\"}],\"summary\":{\"lowX\":null,\"highX\":null,"
                   "\"lowY\":null,\"highY\":null,\"deepest\":0.00,\"tools\":[],\"changes\":0,"
-                  "\"minutes\":0.00,\"danger\":0,\"wrong\":1,\"look\":0,\"note\":0}}]\n");
+                  "\"minutes\":0.00,\"minutesLookingAhead\":0.00,\"danger\":0,\"wrong\":1,\"look\":"
+                  "0,\"note\":0}}]\n");
 }
 
 TEST(Checker, WhatCannotBeReadIsNamedAndTheRestIsChecked) {

@@ -44,6 +44,14 @@ public:
     // One time in so many.
     bool chance(int times) { return below(1, times) == 1; }
 
+    // A billet as large as the area in which the places lie, and as deep as the deepest cut;
+    // circles and arcs reach out of it.
+    void takeBillet() {
+        job.answers.gstrHeader[headerBilletX] = "200";
+        job.answers.gstrHeader[headerBilletY] = "150";
+        job.answers.gstrHeader[headerBilletZ] = "6";
+    }
+
     Job job;
     ToolList tools;
 

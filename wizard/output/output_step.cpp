@@ -10,11 +10,11 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "check/time/program_time.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
 #include "wizard/host/group_name.h"
-#include "wizard/host/minutes_text.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/file_dialogs.h"
@@ -210,8 +210,9 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
 AfterOutput OutputStep::showMenu(const std::string& writtenFile,
                                  const std::filesystem::path& file) {
     const TriedProgram* const tried = m_trial.tried();
-    const QString minutes =
-        tried != nullptr && tried->isTried() ? minutesText(tried->minutes) : QString();
+    const QString minutes = tried != nullptr && tried->isTried()
+                                ? QString::fromStdString(check::timeText(tried->minutes))
+                                : QString();
     FrmMenu menu(QString::fromStdString(writtenFile), minutes,
                  QString::fromStdString(utf8FromPath(file.parent_path())), &m_window);
     menu.exec();

@@ -2,9 +2,9 @@
 #include "wizard/output/tried_panel.h"
 
 #include "base/picture.h"
+#include "check/time/program_time.h"
 #include "forms/quiet_line.h"
 #include "trial/trial.h"
-#include "wizard/host/minutes_text.h"
 #include "wizard/output/finding_rows.h"
 
 #include <QGridLayout>
@@ -134,7 +134,8 @@ void TriedPanel::showTried(const TriedProgram& tried, const std::string& partNam
 void TriedPanel::showFacts(const TriedProgram& tried, const std::string& partName) {
     m_part->setText(QString::fromStdString(partName));
     m_billet->setText(billetText(tried.billet));
-    m_minutes->setText(tried.isTried() ? minutesText(tried.minutes) : tr("not known"));
+    m_minutes->setText(tried.isTried() ? QString::fromStdString(check::timeText(tried.minutes))
+                                       : tr("not known"));
     m_changes->setText(tried.isTried() ? QString::number(tried.summary.changes) : tr("not known"));
     m_facts->show();
 }
@@ -173,8 +174,8 @@ void TriedPanel::showGroups(const std::vector<TriedGroup>& groups, bool isTimed)
         grid->addWidget(boldLabel(QString::number(i + 1)), row, 0, Qt::AlignTop);
         grid->addWidget(boldLabel(QString::fromStdString(groups[i].name)), row, 1);
         if (isTimed)
-            grid->addWidget(new QLabel(minutesText(groups[i].minutes)), row, 2,
-                            Qt::AlignTop | Qt::AlignRight);
+            grid->addWidget(new QLabel(QString::fromStdString(check::timeText(groups[i].minutes))),
+                            row, 2, Qt::AlignTop | Qt::AlignRight);
         grid->addWidget(plainLabel(workText(groups[i])), row + 1, 1, 1, 2);
         row += 2;
     }
