@@ -93,8 +93,8 @@ TEST_F(CutPicturesTest, TheTimelineKnowsWhatIsMadeWhen) {
     const check::Moves& moves = work->piece().moves;
     const auto slot =
         static_cast<std::size_t>(std::find_if(moves.begin(), moves.end(), isSlot) - moves.begin());
-    EXPECT_NEAR(timeline.end(slot) - timeline.start(slot), 4.1, 1e-9);
-    const Moment half = timeline.at(timeline.start(slot) + 4.1 / 4);
+    EXPECT_NEAR(timeline.end(slot) - timeline.start(slot), 4 + 0.1, 1e-9);
+    const Moment half = timeline.at(timeline.start(slot) + (4 + 0.1) / 4);
     EXPECT_EQ(half.move, slot);
     EXPECT_NEAR(half.fraction, 0.25, 1e-9);
     EXPECT_EQ(timeline.at(timeline.seconds()).move, moves.size());
