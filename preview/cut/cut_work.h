@@ -23,6 +23,7 @@ public:
     // Begins the sweep.
     explicit CutWork(CutPiece piece);
     ~CutWork() override;
+    Q_DISABLE_COPY_MOVE(CutWork)
 
     const CutPiece& piece() const { return m_piece; }
     const Timeline& timeline() const { return m_timeline; }

@@ -520,6 +520,7 @@ TEST_F(FrmMainTest, EveryPageIsWalkedThroughWithoutTheMouse) {
         EXPECT_TRUE(window->width() <= 784 && window->height() <= 552);
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return row.step != 6 || find<QWidget>("cmdLook").isEnabled(); })); // tried
+        settle();
         expectReachable(*window);
         find<QWidget>(row.order.substr(0, row.order.find(' '))).setFocus();
         EXPECT_EQ(tabOrder(), row.order + "cmdBack cmdNext ");

@@ -118,8 +118,6 @@ OutputPage::OutputPage(Workshop& workshop, CutPicture& picture, QWidget* parent)
     showDrive();
 }
 
-OutputPage::~OutputPage() = default;
-
 void OutputPage::beginTrial() {
     m_panel->showBusy();
     m_picture.setWork(nullptr);

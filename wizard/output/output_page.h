@@ -26,7 +26,6 @@ class OutputPage : public QWidget {
 public:
     // The picture shows the piece as the program cuts it.
     OutputPage(Workshop& workshop, CutPicture& picture, QWidget* parent = nullptr);
-    ~OutputPage() override;
 
     // The code of the option button optOutput1 to optOutput4 that is set; one always is.
     std::int16_t target() const;

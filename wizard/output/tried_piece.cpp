@@ -16,7 +16,8 @@ constexpr double chordAngle = std::numbers::pi / 60; // radians
 
 QPolygonF pointsOf(const Path& path) {
     if (path.intType == straightLine)
-        return {{{path.sngStartX, path.sngStartY}, {path.sngEndX, path.sngEndY}}};
+        return QPolygonF(QList<QPointF>{QPointF(path.sngStartX, path.sngStartY),
+                                        QPointF(path.sngEndX, path.sngEndY)});
     double sweep = double{path.sngAngleTo} - path.sngAngleFrom;
     if (sweep <= 0)
         sweep += 2 * std::numbers::pi;
