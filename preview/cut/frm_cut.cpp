@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -20,7 +21,8 @@
 namespace torvik {
 namespace {
 
-constexpr int listWidth = 360; // pixels
+constexpr int listWidth = 360;        // pixels
+constexpr QSize roomForFrame(16, 48); // what the window manager puts round the window
 
 } // namespace
 
@@ -50,7 +52,7 @@ FrmCut::FrmCut(std::shared_ptr<CutWork> work, QWidget* parent)
     column->addWidget(split, 1);
     column->addWidget(m_play);
     column->addWidget(buttons);
-    resize(1120, 700);
+    resize(QSize(1120, 700).boundedTo(screen()->availableSize() - roomForFrame));
 
     m_picture->canvas().showMoment(true);
     m_solid->showMoment(true);
