@@ -9,6 +9,8 @@
 #include <QThread>
 #include <QUrl>
 
+#include <utility>
+
 #ifdef Q_OS_WIN
 #include "base/whole_file.h"
 
@@ -81,8 +83,8 @@ bool connectTo(QLocalSocket& socket, const std::filesystem::path& folder) {
 
 } // namespace
 
-SingleInstance::SingleInstance(const std::filesystem::path& folder, QObject* parent)
-    : QObject(parent), m_folder(folder) {
+SingleInstance::SingleInstance(std::filesystem::path folder, QObject* parent)
+    : QObject(parent), m_folder(std::move(folder)) {
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 

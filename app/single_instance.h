@@ -19,7 +19,7 @@ class SingleInstance : public QObject {
 
 public:
     // `folder` may be empty.
-    explicit SingleInstance(const std::filesystem::path& folder, QObject* parent = nullptr);
+    explicit SingleInstance(std::filesystem::path folder, QObject* parent = nullptr);
 
     // True where this copy is the only one; it then listens for others. What a copy that crashed
     // has left behind does not count. Where nothing can be locked, each copy is the only one.

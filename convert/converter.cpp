@@ -86,7 +86,7 @@ private:
 
     // A file that no control can take is not begun.
     ProgramSize requireWritable(const Job& job, const std::filesystem::path& drawing) {
-        const ProgramSize size = programSize(job, m_reader.tools(), *m_options.dialect);
+        ProgramSize size = programSize(job, m_reader.tools(), *m_options.dialect);
         if (size.isTooLong())
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + tooLongText(job, size)};
         return size;

@@ -64,7 +64,9 @@ void CutView::showWhole() {
 void CutView::bringIntoSight(QPointF place) {
     const QPointF at = toPixels(place);
     const auto beyond = [](double pixel, double size) {
-        return pixel < viewMargin ? viewMargin - pixel : pixel > size - viewMargin ? size - viewMargin - pixel : 0;
+        return pixel < viewMargin          ? viewMargin - pixel
+               : pixel > size - viewMargin ? size - viewMargin - pixel
+                                           : 0;
     };
     if (m_zoom > 1)
         moveBy({beyond(at.x(), m_size.width()), beyond(at.y(), m_size.height())});

@@ -86,16 +86,15 @@ TEST_F(CutPicturesTest, FromAboveTheSolidShowsSurfaceFloorsAndThroughTheHole) {
     EXPECT_EQ(solid, again);
 }
 
-// 10 mm/s for 40 mm are 4 seconds; up and down again costs as much as 10 mm/s take once.
+// 600 mm/min for 40 mm are 4 seconds, and the acceleration of 100 mm/s² costs 1/10 of one.
 TEST_F(CutPicturesTest, TheTimelineKnowsWhatIsMadeWhen) {
     const Timeline& timeline = work->timeline();
     const auto isSlot = [](const check::Move& move) { return move.line == 13; };
     const check::Moves& moves = work->piece().moves;
     const auto slot =
         static_cast<std::size_t>(std::find_if(moves.begin(), moves.end(), isSlot) - moves.begin());
-    const double seconds = 4 + 10 / work->piece().pace.acceleration;
-    EXPECT_NEAR(timeline.end(slot) - timeline.start(slot), seconds, 1e-9);
-    const Moment half = timeline.at(timeline.start(slot) + seconds / 4);
+    EXPECT_NEAR(timeline.end(slot) - timeline.start(slot), 4 + 0.1, 1e-9);
+    const Moment half = timeline.at(timeline.start(slot) + (4 + 0.1) / 4);
     EXPECT_EQ(half.move, slot);
     EXPECT_NEAR(half.fraction, 0.25, 1e-9);
     EXPECT_EQ(timeline.at(timeline.seconds()).move, moves.size());
