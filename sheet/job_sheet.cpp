@@ -35,7 +35,8 @@ bool isReadyForSheet(const Job& job, const ToolList& tools) {
     bool hasGroup = false;
     const auto look = [&](const MachinedGroup& group) {
         hasGroup = true;
-        isReady = isReady && job.answers.gudtSettings[group.settings].blnComplete;
+        const Settings& settings = job.answers.gudtSettings[group.settings];
+        isReady = isReady && settings.blnComplete && settings.sngDepth > 0;
     };
     visitMachinedGroups(job, look);
     return isReady && hasGroup && !groupWithoutTool(job, tools);

@@ -37,13 +37,13 @@ struct Column {
 };
 
 constexpr std::array<Column, 9> orderColumns{{{45, Qt::AlignLeft},
-                                              {300, Qt::AlignLeft},
-                                              {345, Qt::AlignLeft},
+                                              {290, Qt::AlignLeft},
+                                              {375, Qt::AlignLeft},
                                               {160, Qt::AlignRight},
                                               {195, Qt::AlignRight},
                                               {190, Qt::AlignRight},
                                               {115, Qt::AlignRight},
-                                              {290, Qt::AlignRight},
+                                              {270, Qt::AlignRight},
                                               {220, Qt::AlignRight}}};
 constexpr std::array<Column, 3> toolColumns{
     {{50, Qt::AlignLeft}, {700, Qt::AlignLeft}, {220, Qt::AlignLeft}}};

@@ -239,11 +239,12 @@ bool FrmMain::isReadyForSheet() {
 }
 
 void FrmMain::showJobSheet() {
+    m_driver.savePage();
     if (isReadyForSheet())
         torvik::showJobSheet(m_workshop, m_controls.output->target(), *this);
     else
         m_workshop.messages.intStdMsgBox(
-            tr("A job sheet is made when every pen that is milled has its answers and a tool,\n"
+            tr("A job sheet is made when every pen that is milled has its answers and a tool, "
                "and the order of the pens is set.")
                 .toStdString(),
             styleExclamation, usualTitle);

@@ -26,7 +26,9 @@ public:
     void Wizard(std::int16_t intDirection);
     // Shows the page of a step (1 to 6) and its buttons.
     void showStep(std::int16_t step);
-    // What the page on show holds goes into the job, and the job's answers are kept in case the
+    // What the page on show holds goes into the job.
+    void savePage();
+    // The same, and the job's answers are kept in case the
     // import that follows is refused.
     void beforeImport();
     // Lays out step 2 for the drawing that was just imported, with the answers kept for it. damage:
@@ -66,7 +68,6 @@ signals:
     void endWanted();
 
 private:
-    void savePage();
     void fromStep2(std::int16_t direction);
     void fromStep3(std::int16_t direction);
     void fromStep4(std::int16_t direction);

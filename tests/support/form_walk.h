@@ -48,13 +48,14 @@ inline void expectReachable(QWidget& form) {
 // comes to one again.
 inline std::string tabOrder() {
     std::string order;
-    for (QString name = QApplication::focusWidget()->objectName();
-         (" " + order).find(" " + name.toStdString() + " ") == std::string::npos;
-         name = QApplication::focusWidget()->objectName()) {
-        order += name.toStdString() + " ";
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    while (QWidget* const focused = QApplication::focusWidget()) {
+        const std::string name = focused->objectName().toStdString() + " ";
+        if ((" " + order).find(" " + name) != std::string::npos)
+            return order;
+        order += name;
+        QTest::keyClick(focused, Qt::Key_Tab);
     }
-    return order;
+    return order + "(nothing)";
 }
 
 } // namespace torvik
