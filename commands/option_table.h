@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -31,6 +32,17 @@ public:
 std::vector<std::string> readArguments(std::vector<std::string> arguments,
                                        std::span<const OptionRow> rows,
                                        const std::function<bool(int, const char*)>& take);
+
+// What parse() makes of the command line; nothing where it raises UsageError, which then tells why.
+template <typename Parse>
+auto parsedOr(std::string& usageError, Parse parse) -> std::optional<decltype(parse())> {
+    try {
+        return parse();
+    } catch (const UsageError& error) {
+        usageError = error.what();
+        return {};
+    }
+}
 
 // The table as the help shows it.
 std::string optionLines(std::span<const OptionRow> rows);

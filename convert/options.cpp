@@ -187,12 +187,7 @@ std::int16_t ConvertOptions::outputNumber(std::size_t i) const {
 
 std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
                                            std::string& usageError) {
-    try {
-        return parse(std::move(arguments));
-    } catch (const UsageError& error) {
-        usageError = error.what();
-        return {};
-    }
+    return parsedOr(usageError, [&] { return parse(std::move(arguments)); });
 }
 
 std::string helpText() {

@@ -100,12 +100,7 @@ CheckOptions parse(std::vector<std::string> arguments) {
 
 std::optional<CheckOptions> parseOptions(std::vector<std::string> arguments,
                                          std::string& usageError) {
-    try {
-        return parse(std::move(arguments));
-    } catch (const UsageError& error) {
-        usageError = error.what();
-        return {};
-    }
+    return parsedOr(usageError, [&] { return parse(std::move(arguments)); });
 }
 
 std::string helpText() {

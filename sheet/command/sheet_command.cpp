@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <optional>
 #include <ostream>
 
 namespace torvik {
@@ -101,16 +100,6 @@ SheetOptions parse(std::vector<std::string> arguments) {
     return options;
 }
 
-std::optional<SheetOptions> parseOptions(std::vector<std::string> arguments,
-                                         std::string& usageError) {
-    try {
-        return parse(std::move(arguments));
-    } catch (const UsageError& error) {
-        usageError = error.what();
-        return {};
-    }
-}
-
 std::string helpText() {
     return "Usage: torvik [DRAWING.plt]\n"
            "       torvik --sheet OUT.pdf DRAWING.plt [OPTIONS]\n\n"
@@ -159,7 +148,7 @@ bool isSheetCommand(const std::vector<std::string>& arguments) {
 
 int runSheetCommand(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
     std::string usageError;
-    const auto options = parseOptions(std::move(arguments), usageError);
+    const auto options = parsedOr(usageError, [&] { return parse(std::move(arguments)); });
     const auto say = [&err](std::string_view message) {
         err << programName << ": " << message << '\n';
     };
