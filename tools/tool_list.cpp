@@ -7,6 +7,10 @@ bool isInList(const ToolList& tools, std::int16_t place) {
     return place >= 1 && place <= tools.gintToolCount && !tools.gudtTools[place].strUnreadable;
 }
 
+const Tool* findTool(const ToolList& tools, std::int16_t place) {
+    return isInList(tools, place) ? &tools.gudtTools[place] : nullptr;
+}
+
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number) {
     if (number == 0) // a place without a tool has it
         return 0;

@@ -50,6 +50,9 @@ inline constexpr std::array<std::string_view, 7> standardToolTypes{
 // not be read, holds none.
 bool isInList(const ToolList& tools, std::int16_t place);
 
+// The tool at the place, nullptr where none stands there.
+const Tool* findTool(const ToolList& tools, std::int16_t place);
+
 // The place of the first tool with that number, or 0; 0 for the number 0, which no tool has.
 std::int16_t intToolGetId(const ToolList& tools, std::int16_t number);
 

@@ -19,11 +19,11 @@ std::string nameOf(const Pen& pen, std::int16_t radius) {
 }
 
 std::string toolOf(const ToolList& tools, std::int16_t place) {
-    if (!isInList(tools, place))
+    const Tool* const tool = findTool(tools, place);
+    if (tool == nullptr)
         return {};
-    const Tool& tool = toolAt(tools, place);
-    return "T" + formatInteger(tool.intNumber) + " " + formatFixed(tool.sngDiameter, 1) + " mm " +
-           tool.strType;
+    return "T" + formatInteger(tool->intNumber) + " " + formatFixed(tool->sngDiameter, 1) + " mm " +
+           tool->strType;
 }
 
 } // namespace

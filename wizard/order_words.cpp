@@ -28,10 +28,10 @@ QString part(QString text) {
 }
 
 QString toolText(const ToolList& tools, std::int16_t place) {
-    if (!isInList(tools, place))
+    const Tool* const tool = findTool(tools, place);
+    if (tool == nullptr)
         return part(tr("no tool"));
-    const Tool& tool = toolAt(tools, place);
-    return part(tr("T%1 %2 mm")).arg(tool.intNumber).arg(shown(tool.sngDiameter));
+    return part(tr("T%1 %2 mm")).arg(tool->intNumber).arg(shown(tool->sngDiameter));
 }
 
 QString depthText(float shallowest, float deepest) {

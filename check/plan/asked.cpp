@@ -85,8 +85,8 @@ private:
         group.name = name;
         group.pen = &m_job.answers.gudtPens[name.pen];
         group.isDrilled = name.radius != 0;
-        if (isInList(m_tools, settings.intTool))
-            group.tool = toolAt(m_tools, settings.intTool).intNumber;
+        if (const Tool* const tool = findTool(m_tools, settings.intTool))
+            group.tool = tool->intNumber;
         group.speed = written(settings.sngSpindleSpeed, 0);
         group.feedDown = writtenFeed(settings.sngFeedVertical);
         group.dwell = writtenDwell(settings.sngDwell);

@@ -53,7 +53,7 @@ std::vector<std::int16_t> orderOf(const Answers& answers) {
 }
 
 const Tool* toolOf(const Settings& settings, const ToolList& tools) {
-    return isInList(tools, settings.intTool) ? &toolAt(tools, settings.intTool) : nullptr;
+    return findTool(tools, settings.intTool);
 }
 
 std::string nameOf(const Job& job, const MachinedGroup& group) {
