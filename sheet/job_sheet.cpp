@@ -3,6 +3,7 @@
 
 #include "answers/tool_check.h"
 #include "base/error_trap.h"
+#include "preview/cut/tried_piece.h"
 #include "sheet/sheet_pictures.h"
 #include "trial/trial.h"
 
@@ -45,12 +46,12 @@ bool isReadyForSheet(const Job& job, const ToolList& tools) {
 JobSheet::JobSheet(const Job& job, const ToolList& tools, const Dialect& dialect, Logger& logger) {
     m_failure = "the job sheet cannot be made";
     withErrorTrap(logger, {"JobSheet", "sheet"}, [&] {
-        const TriedProgram tried = tryProgram(job, tools, dialect, 1, logger);
+        TriedProgram tried = tryProgram(job, tools, dialect, 1, logger);
         m_failure = failureOf(tried);
         if (!m_failure.empty())
             return;
         m_failure = "the job sheet cannot be made";
-        const CutPiece piece = pieceOf(job, tools, tried);
+        const CutPiece piece = pieceOf(tried, job, tools);
         const Clamping clamping = clampingOf(piece);
         m_content = sheetContent(job, dialect, tried, clamping);
         m_pictures = {drawingPicture(job, pictureSize(), logger),

@@ -10,6 +10,7 @@ class QPagedPaintDevice;
 
 namespace torvik {
 
+struct ToolList;
 class Logger;
 
 // Whether the job says all that a sheet needs: something is machined, and each group of it has its

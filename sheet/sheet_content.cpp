@@ -7,7 +7,6 @@
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "preview/cut/cut_painting.h"
-#include "tools/tool_list.h"
 #include "trial/trial.h"
 
 #include <QCoreApplication>
@@ -89,15 +88,7 @@ std::vector<SheetField> setupOf(const Job& job, const TriedProgram& tried,
 // In the units in which it was given.
 QString feedText(const Answers& answers, double feed) {
     const bool isPerSecond = answers.gsngFeedFactor > 1;
-    QString text = numberText(isPerSecond ? feed / 60 : feed, isPerSecond ? 2 : 0);
-    if (isPerSecond)
-        while (text.endsWith(u'0') || text.endsWith(u'.')) {
-            const bool isPoint = text.endsWith(u'.');
-            text.chop(1);
-            if (isPoint)
-                break;
-        }
-    return text;
+    return isPerSecond ? shortNumber(feed / 60) : numberText(feed, 0);
 }
 
 QString passesText(const TriedGroup& tried) {
@@ -200,26 +191,6 @@ SheetContent sheetContent(const Job& job, const Dialect& dialect, const TriedPro
     content.findings = findingRows(tried.findings);
     content.more = countedOnly(tried.findings, content.findings.size());
     return content;
-}
-
-CutPiece pieceOf(const Job& job, const ToolList& tools, const TriedProgram& tried) {
-    CutPiece piece;
-    piece.name = QString::fromStdString(job.answers.gstrHeader[headerPartName]);
-    piece.program = tried.program;
-    piece.moves = tried.moves;
-    piece.pace = tried.pace;
-    piece.billet.length = tried.billet.length;
-    piece.billet.width = tried.billet.width;
-    piece.billet.depth = tried.billet.depth;
-    for (const TriedGroup& group : tried.groups) {
-        const std::int16_t place = job.answers.gudtSettings[group.group.settings].intTool;
-        if (isInList(tools, place)) {
-            const Tool& tool = toolAt(tools, place);
-            piece.tools[tool.intNumber] = {tool.sngDiameter, QString::fromStdString(tool.strType)};
-        }
-        piece.groups.push_back({group.firstLine, QString::fromStdString(group.name)});
-    }
-    return piece;
 }
 
 std::size_t rowsShown(std::size_t rows, std::size_t room) {

@@ -2,7 +2,6 @@
 // What stands on a job sheet, as texts: the same for the printer, the file and the tests.
 #pragma once
 
-#include "preview/cut/cut_piece.h"
 #include "sheet/clamping.h"
 
 #include <QString>
@@ -14,7 +13,6 @@ namespace torvik {
 
 struct Dialect;
 struct Job;
-struct ToolList;
 struct TriedProgram;
 
 struct SheetField {
@@ -44,9 +42,6 @@ struct SheetContent {
 // no settings.
 SheetContent sheetContent(const Job& job, const Dialect& dialect, const TriedProgram& tried,
                           const Clamping& clamping);
-
-// The piece that the program cuts, with the tools it takes.
-CutPiece pieceOf(const Job& job, const ToolList& tools, const TriedProgram& tried);
 
 // How many of so many rows are shown where there is room for `room`; the last line of the room then
 // says "and N more".

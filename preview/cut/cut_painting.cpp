@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/cut_painting.h"
 
+#include "base/picture.h"
 #include "sweep/cuts.h"
 
 #include <QCoreApplication>
@@ -41,13 +42,17 @@ QPolygonF wayOf(const check::Move& move) {
 
 } // namespace
 
-QString lengthText(double length) {
-    QString text = QString::number(length, 'f', 2);
+QString shortNumber(double number) {
+    QString text = QString::fromStdString(formatFixed(number, 2));
     while (text.endsWith(QLatin1Char('0')))
         text.chop(1);
     if (text.endsWith(QLatin1Char('.')))
         text.chop(1);
-    return text + QStringLiteral(" mm");
+    return text;
+}
+
+QString lengthText(double length) {
+    return shortNumber(length) + QStringLiteral(" mm");
 }
 
 CutPainting::CutPainting(QPainter& painter, const CutView& view)

@@ -15,6 +15,9 @@ struct CutToolPlace {
     double radius = 0; // mm
 };
 
+// "12.5": at most two decimals.
+QString shortNumber(double number);
+
 // Lengths and places as these windows say them: "12.5 mm".
 QString lengthText(double length);
 

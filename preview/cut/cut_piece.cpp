@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/cut_piece.h"
 
+#include "base/picture.h"
 #include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
@@ -38,7 +39,9 @@ QString CutPiece::toolText(int tool) const {
     if (found == tools.end())
         return QCoreApplication::translate("FrmCut", "T%1 (not in the list of tools)").arg(tool);
     const QString text = QStringLiteral("T%1 %2 mm %3").arg(tool);
-    return text.arg(QString::number(found->second.diameter, 'f', 1), found->second.name).trimmed();
+    return text
+        .arg(QString::fromStdString(formatFixed(found->second.diameter, 1)), found->second.name)
+        .trimmed();
 }
 
 QString CutPiece::groupAt(std::uint32_t line) const {

@@ -9,12 +9,12 @@
 #include "gcode/dialects.h"
 #include "preview/cut/cut_picture.h"
 #include "preview/cut/frm_cut.h"
+#include "preview/cut/tried_piece.h"
 #include "tools/settings_file_reader.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
 #include "wizard/output/own_settings.h"
 #include "wizard/output/tried_panel.h"
-#include "wizard/output/tried_piece.h"
 
 #include <QButtonGroup>
 #include <QDir>

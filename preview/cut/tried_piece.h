@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The piece of a tried program, for the windows that show it.
+// The piece of a tried program, for the windows and the sheet that show it.
 #pragma once
 
 #include "preview/cut/cut_piece.h"

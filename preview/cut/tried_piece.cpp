@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wizard/output/tried_piece.h"
+#include "preview/cut/tried_piece.h"
 
 #include "job/job.h"
 #include "job/pens.h"
@@ -38,14 +38,14 @@ CutPiece pieceOf(TriedProgram& tried, const Job& job, const ToolList& tools) {
     piece.name = QString::fromStdString(job.answers.gstrHeader[headerPartName]);
     piece.program = std::move(tried.program);
     piece.moves = std::move(tried.moves);
+    piece.pace = tried.pace;
     piece.billet.length = tried.billet.length;
     piece.billet.width = tried.billet.width;
     piece.billet.depth = tried.billet.depth;
     for (std::int16_t place = 1; place <= tools.gintToolCount; ++place)
-        if (isInList(tools, place)) {
-            const Tool& tool = toolAt(tools, place);
-            piece.tools[tool.intNumber] = {tool.sngDiameter, QString::fromStdString(tool.strType)};
-        }
+        if (const Tool* const tool = findTool(tools, place))
+            piece.tools[tool->intNumber] = {tool->sngDiameter,
+                                            QString::fromStdString(tool->strType)};
     for (const TriedGroup& group : tried.groups)
         piece.groups.push_back({group.firstLine, QString::fromStdString(group.name)});
     for (const Path& path : job.drawing.gudtPaths)
