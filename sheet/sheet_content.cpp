@@ -95,7 +95,7 @@ QString passesText(const TriedGroup& tried) {
     const QString count = QString::number(tried.passes);
     if (tried.holes == 0)
         return tried.passes == 1 ? tr("1 pass") : tr("%1 passes").arg(count);
-    const QString holes = tried.holes == 1 ? tr("1 hole") : tr("%1 holes").arg(tried.holes);
+    QString holes = tried.holes == 1 ? tr("1 hole") : tr("%1 holes").arg(tried.holes);
     if (tried.passes == 1)
         return holes;
     return (tried.holes == 1 ? tr("%1, %2 pecks") : tr("%1, %2 pecks each")).arg(holes, count);
@@ -130,6 +130,7 @@ std::vector<QStringList> toolRows(const TriedProgram& tried) {
         changes.back().minutes += group.minutes;
     }
     std::vector<QStringList> rows;
+    rows.reserve(changes.size());
     for (const Change& change : changes)
         rows.push_back({QString::number(rows.size() + 1), QString::fromStdString(change.tool),
                         timeOf(change.minutes)});

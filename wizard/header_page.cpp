@@ -95,7 +95,9 @@ void HeaderPage::sayBillet() {
         {tr("The cuts reach from X %1 to %2 mm and from Y %3 to %4 mm, and go %5 mm deep.")
              .arg(number(minX), number(maxX), number(minY), number(maxY),
                   number(m_reach.deepest))}};
-    const auto typed = [this](HeaderField field) { return m_boxes[field]->text().toStdString(); };
+    const auto typed = [this](HeaderField field) {
+        return m_boxes[static_cast<std::size_t>(field)]->text().toStdString();
+    };
     check::Findings findings;
     check::findBilletSense(
         m_workshop.job, m_reach,

@@ -111,8 +111,9 @@ TEST(Checker, AProgramIsLaidBesideItsJob) {
     EXPECT_EQ(found.code, 5);
     EXPECT_NE(found.out.find(": speed-differs: "), std::string::npos) << found.out;
 
-    const CheckRun other = run({good, "--drawing", job + "drawing.plt", "--answers",
-                                TORVIK_GOLDEN "/cut_job/drawing.plx", "--tools", sources[5]});
+    const std::string foreign = TORVIK_GOLDEN "/cut_job/drawing.plx";
+    const CheckRun other =
+        run({good, "--drawing", job + "drawing.plt", "--answers", foreign, "--tools", sources[5]});
     EXPECT_EQ(other.code, 2);
     EXPECT_NE(other.err.find("belong to another drawing"), std::string::npos) << other.err;
     EXPECT_EQ(run({good, "--tools", sources[5]}).code, 1);

@@ -63,7 +63,7 @@ auto place(Lines& lines, std::size_t i) {
     return lines.begin() + static_cast<std::ptrdiff_t>(i);
 }
 
-Fault edited(const char* name, Pick pick, Edit edit) {
+Fault edited(const char* name, const Pick& pick, const Edit& edit) {
     return {name, [=](Lines& lines, Random& random) {
                 const std::size_t i = chosen(lines, random, pick);
                 if (i == lines.size())
@@ -76,11 +76,11 @@ Fault edited(const char* name, Pick pick, Edit edit) {
             }};
 }
 
-Fault lost(const char* name, Pick pick) {
-    return edited(name, std::move(pick), [](const std::string&, Random&) { return ""; });
+Fault lost(const char* name, const Pick& pick) {
+    return edited(name, pick, [](const std::string&, Random&) { return ""; });
 }
 
-Fault doubled(const char* name, Pick pick) {
+Fault doubled(const char* name, const Pick& pick) {
     return {name, [=](Lines& lines, Random& random) {
                 const std::size_t i = chosen(lines, random, pick);
                 if (i < lines.size())
@@ -89,7 +89,7 @@ Fault doubled(const char* name, Pick pick) {
             }};
 }
 
-Fault exchanged(const char* name, Pick pick) {
+Fault exchanged(const char* name, const Pick& pick) {
     return {name, [=](Lines& lines, Random& random) {
                 const std::size_t i = chosen(lines, random, [&](const Lines& all, std::size_t k) {
                     return k + 1 < all.size() && pick(all, k) && pick(all, k + 1) &&
@@ -102,7 +102,7 @@ Fault exchanged(const char* name, Pick pick) {
 }
 
 // The lines from one that is picked to before the next one, left out or brought twice.
-Fault stretch(const char* name, Pick pick, bool isLost) {
+Fault stretch(const char* name, const Pick& pick, bool isLost) {
     return {name, [=](Lines& lines, Random& random) {
                 const std::size_t i = chosen(lines, random, pick);
                 std::size_t end = i + 1;
@@ -144,7 +144,7 @@ std::string withNumber(const std::string& line, Number number, const std::string
     return line.substr(0, number.at) + text + line.substr(number.at + number.size);
 }
 
-Edit changed(char letter, std::function<double(double)> change) {
+Edit changed(char letter, const std::function<double(double)>& change) {
     return [=](const std::string& line, Random&) {
         const Number number = numberOf(line, letter);
         const std::string text = line.substr(number.at, number.size);
