@@ -8,6 +8,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 option(TORVIK_WERROR "Treat warnings as errors" OFF)
 set(TORVIK_SANITIZE "" CACHE STRING "Sanitizers to build with, as in -fsanitize=")
 
+include(Hardening)
+include(Reproducible)
+
 add_library(torvik_options INTERFACE)
 # Contracted multiply-adds would change the last bit of computed coordinates.
 target_compile_options(torvik_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic
@@ -56,6 +59,7 @@ function(torvik_program name)
   target_compile_definitions(${name} PRIVATE TORVIK_VERSION="${PROJECT_VERSION}")
   target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+  set_property(GLOBAL APPEND PROPERTY TORVIK_PROGRAMS ${name})
 endfunction()
 
 # torvik_test(NAME SOURCES... [LINK LIBS...]): one GoogleTest program, its cases known to CTest.
@@ -63,12 +67,17 @@ function(torvik_test name)
   cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
   add_executable(${name} ${ARG_UNPARSED_ARGUMENTS})
   target_link_libraries(${name} PRIVATE torvik_options ${ARG_LINK} GTest::gtest_main)
+  if(TORVIK_SANITIZE)
+    # Half of the compiler's work for the tables of cases would go into making them fast.
+    target_compile_options(${name} PRIVATE -O0)
+  endif()
   if(WIN32)
     # One start of Wine for all cases of a program.
     target_link_options(${name} PRIVATE -static)
     add_test(NAME ${name} COMMAND wine $<TARGET_FILE:${name}>)
     return()
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-                       PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
+  # The user's own settings are nobody's business here.
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/no-settings")
 endfunction()

@@ -1,0 +1,15 @@
+# Clipper::Clipper: the system's, or for Windows built from its source.
+add_library(torvik_clipper INTERFACE)
+if(TORVIK_CLIPPER_SOURCE)
+  add_library(torvik_clipper_source STATIC "${TORVIK_CLIPPER_SOURCE}/cpp/clipper.cpp")
+  configure_file("${TORVIK_CLIPPER_SOURCE}/cpp/clipper.hpp"
+                 "${CMAKE_BINARY_DIR}/clipper/polyclipping/clipper.hpp" COPYONLY)
+  target_include_directories(torvik_clipper SYSTEM INTERFACE "${CMAKE_BINARY_DIR}/clipper")
+  target_link_libraries(torvik_clipper INTERFACE torvik_clipper_source)
+else()
+  find_path(TORVIK_CLIPPER_HEADER polyclipping/clipper.hpp REQUIRED)
+  find_library(TORVIK_CLIPPER_LIBRARY polyclipping REQUIRED)
+  target_include_directories(torvik_clipper SYSTEM INTERFACE "${TORVIK_CLIPPER_HEADER}")
+  target_link_libraries(torvik_clipper INTERFACE "${TORVIK_CLIPPER_LIBRARY}")
+endif()
+add_library(Clipper::Clipper ALIAS torvik_clipper)
