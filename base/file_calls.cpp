@@ -41,6 +41,15 @@ int sync(int descriptor) {
     return _commit(descriptor);
 }
 
+// The folder's entry goes with the file.
+int syncName(const fs::path& file) {
+    const int descriptor = _wopen(file.c_str(), _O_WRONLY | _O_BINARY | _O_NOINHERIT);
+    if (descriptor < 0)
+        return -1;
+    const int result = _commit(descriptor);
+    return _close(descriptor) == 0 ? result : -1;
+}
+
 int shut(int descriptor) {
     return _close(descriptor);
 }
@@ -57,6 +66,20 @@ namespace {
 
 constexpr mode_t forAll = 0666; // less what the user's mask takes
 
+// A disk that interrupts for ever is left all the same.
+template <typename Call>
+auto uninterrupted(Call call) {
+    constexpr int mostTimes = 1000;
+    auto result = call();
+    for (int i = 0; i < mostTimes && result < 0 && errno == EINTR; ++i)
+        result = call();
+    return result;
+}
+
+int openPlace(const fs::path& place, int flags) {
+    return uninterrupted([&] { return ::open(place.c_str(), flags | O_CLOEXEC, forAll); });
+}
+
 #ifdef O_TMPFILE
 std::string openFileName(int descriptor) {
     return "/proc/self/fd/" + std::to_string(descriptor);
@@ -66,14 +89,13 @@ std::string openFileName(int descriptor) {
 } // namespace
 
 int createNew(const fs::path& file) {
-    return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, forAll);
+    return openPlace(file, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
 }
 
 #ifdef O_TMPFILE
 
 int createNameless(const fs::path& folder) {
-    const fs::path place = folder.empty() ? fs::path(".") : folder;
-    const int descriptor = ::open(place.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, forAll);
+    const int descriptor = openPlace(folder.empty() ? "." : folder, O_WRONLY | O_TMPFILE);
     // The name is given by way of this one, which not every system has.
     if (descriptor >= 0 && ::access(openFileName(descriptor).c_str(), F_OK) != 0) {
         ::close(descriptor);
@@ -100,16 +122,28 @@ int giveName(int, const fs::path&) {
 #endif
 
 long put(int descriptor, const char* bytes, std::size_t size) {
-    return ::write(descriptor, bytes, size);
+    return uninterrupted([&] { return ::write(descriptor, bytes, size); });
 }
 
 int sync(int descriptor) {
-    const int result = ::fsync(descriptor);
+    const int result = uninterrupted([&] { return ::fsync(descriptor); });
     return result != 0 && (errno == EINVAL || errno == ENOTSUP || errno == ENOSYS) ? 0 : result;
 }
 
+int syncName(const fs::path& file) {
+    const int folder = openPlace(file.parent_path(), O_RDONLY | O_DIRECTORY);
+    if (folder < 0)
+        return -1;
+    const int result = sync(folder);
+    const int cause = errno;
+    ::close(folder); // nothing was written by way of it
+    errno = cause;
+    return result;
+}
+
 int shut(int descriptor) {
-    return ::close(descriptor);
+    const int result = ::close(descriptor);
+    return result != 0 && errno == EINTR ? 0 : result; // it is closed all the same
 }
 
 bool mayBeReplaced(const fs::path& file) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The system's own calls that the saving of a file takes. Each answers as the system does (-1 for a
-// failure); errno then says why.
+// failure); errno then says why. What a signal interrupts is done again.
 #pragma once
 
 #include <cstddef>
@@ -17,6 +17,8 @@ int giveName(int descriptor, const std::filesystem::path& file);
 long put(int descriptor, const char* bytes, std::size_t size);
 // Waits until the bytes are on the disk, where the disk knows how to say so.
 int sync(int descriptor);
+// The same for the name that a file has in its folder.
+int syncName(const std::filesystem::path& file);
 int shut(int descriptor);
 // Whether the file may be written. One that all are kept from writing is protected from the
 // system's administrator, too.

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 namespace torvik {
 namespace {
@@ -37,29 +38,50 @@ char* putDigits(char* out, std::uint64_t value, int atLeast) {
     return std::copy(static_cast<const char*>(digits.data()), end, out);
 }
 
-template <std::uint64_t Power>
+// The numbers below a thousand with three digits each.
+constexpr auto threeDigits = [] {
+    std::array<std::array<char, 3>, 1000> texts{};
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = {static_cast<char>('0' + i / 100), static_cast<char>('0' + i / 10 % 10),
+                    static_cast<char>('0' + i % 10)};
+    return texts;
+}();
+
+// The last digits of a number below a thousand.
+template <std::size_t Count>
+char* putLast(char* out, std::size_t number) {
+    std::memcpy(out, threeDigits[number].data() + 3 - Count, Count);
+    return out + Count;
+}
+
+char* putWhole(char* out, std::uint64_t whole) {
+    if (whole < 10)
+        return putLast<1>(out, whole);
+    if (whole < 100)
+        return putLast<2>(out, whole);
+    if (whole < 1000)
+        return putLast<3>(out, whole);
+    return std::to_chars(out, out + 20, whole).ptr;
+}
+
+template <std::size_t Decimals, std::uint64_t Power>
 char* putScaled(char* out, std::uint64_t scaled) {
-    out = std::to_chars(out, out + 20, scaled / Power).ptr;
+    out = putWhole(out, scaled / Power);
     *out++ = '.';
-    auto rest = static_cast<std::uint32_t>(scaled % Power);
-    for (auto unit = static_cast<std::uint32_t>(Power / 10); unit > 0; unit /= 10) {
-        *out++ = static_cast<char>('0' + rest / unit);
-        rest %= unit;
-    }
-    return out;
+    return putLast<Decimals>(out, scaled % Power);
 }
 
 // Divisions by constants: most of a program's text is made here.
 char* putDecimals(char* out, std::uint64_t scaled, int decimals) {
     switch (decimals) {
     case 0:
-        return std::to_chars(out, out + 20, scaled).ptr;
+        return putWhole(out, scaled);
     case 1:
-        return putScaled<10>(out, scaled);
+        return putScaled<1, 10>(out, scaled);
     case 2:
-        return putScaled<100>(out, scaled);
+        return putScaled<2, 100>(out, scaled);
     default:
-        return putScaled<1000>(out, scaled);
+        return putScaled<3, 1000>(out, scaled);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace torvik {
@@ -34,10 +35,6 @@ CodePoint firstCodePoint(std::string_view text) {
     return {value, length};
 }
 
-bool isControl(std::uint32_t value) {
-    return value < 0x20 || (value >= 0x7F && value < 0xA0);
-}
-
 } // namespace
 
 std::string_view trimBlanks(std::string_view text) {
@@ -45,6 +42,44 @@ std::string_view trimBlanks(std::string_view text) {
     if (first == std::string_view::npos)
         return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string lowered(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return result;
+}
+
+char32_t takeLetter(std::string_view& utf8) {
+    const CodePoint point = firstCodePoint(utf8);
+    utf8.remove_prefix(point.length);
+    return point.value;
+}
+
+bool isControlLetter(char32_t letter) {
+    return letter < 0x20 || (letter >= 0x7F && letter < 0xA0);
+}
+
+void appendLetter(std::string& utf8, char32_t letter) {
+    const auto put = [&](char32_t bits) { utf8 += static_cast<char>(bits); };
+    const auto putRest = [&](int shift) { put(0x80u | (letter >> shift & 0x3Fu)); };
+    if (letter < 0x80) {
+        put(letter);
+    } else if (letter < 0x800) {
+        put(0xC0u | letter >> 6);
+        putRest(0);
+    } else if (letter < 0x10000) {
+        put(0xE0u | letter >> 12);
+        putRest(6);
+        putRest(0);
+    } else {
+        put(0xF0u | (letter >> 18 & 0x07u));
+        putRest(12);
+        putRest(6);
+        putRest(0);
+    }
 }
 
 std::string latin1Line(std::string_view utf8) {
@@ -55,7 +90,7 @@ std::string latin1Line(std::string_view utf8) {
         if (utf8.substr(0, 2) == "\r\n")
             point.length = 2; // one line break, one blank
         utf8.remove_prefix(point.length);
-        if (isControl(point.value))
+        if (isControlLetter(point.value))
             line += ' ';
         else
             line += point.value < 0x100 ? static_cast<char>(point.value) : '?';

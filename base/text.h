@@ -10,6 +10,19 @@ namespace torvik {
 // Without the blanks (U+0020 only) at both ends.
 std::string_view trimBlanks(std::string_view text);
 
+// With the small letters of ASCII in place of the capital ones.
+std::string lowered(std::string_view text);
+
+// Takes the first letter of a text that is not empty. A byte that belongs to none is taken alone,
+// as U+FFFD.
+char32_t takeLetter(std::string_view& utf8);
+
+// A letter that draws nothing and takes no room: a line break, for one.
+bool isControlLetter(char32_t letter);
+
+// Adds a letter, below 0x110000.
+void appendLetter(std::string& utf8, char32_t letter);
+
 // The text in ISO 8859-1 on one line: "?" for each code point (or broken byte) outside it, one
 // blank for a line break or any other control character.
 std::string latin1Line(std::string_view utf8);

@@ -71,8 +71,6 @@ void WholeFile::write(std::string_view bytes) {
     while (!bytes.empty()) {
         errno = 0;
         const long written = calls::put(m_descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
         if (written <= 0)
             fail("the file cannot be written: " + systemErrorText());
         bytes.remove_prefix(static_cast<std::size_t>(written));
@@ -159,6 +157,16 @@ void commitBoth(WholeFile& first, WholeFile& second) {
         throw;
     }
     first.m_old.reset();
+}
+
+void makeDurable(const fs::path& saved) {
+    std::error_code error;
+    const fs::path real = fs::canonical(saved, error);
+    errno = error.value();
+    if (error || calls::syncName(real) != 0)
+        throw FileError(utf8FromPath(saved), "the file is written, but it may not be safe on the "
+                                             "disk yet: " +
+                                                 systemErrorText());
 }
 
 void saveWhole(const fs::path& target, std::string_view bytes) {

@@ -55,4 +55,9 @@ void commitBoth(WholeFile& first, WholeFile& second);
 // The bytes as the whole content of the file. Raises FileError.
 void saveWhole(const std::filesystem::path& target, std::string_view bytes);
 
+// The name of a file that was saved is on the disk, as its bytes are already: neither the end of
+// the power nor a stick that is taken out undoes the save. Raises FileError; the file is then
+// there, but may not last.
+void makeDurable(const std::filesystem::path& saved);
+
 } // namespace torvik
