@@ -2,7 +2,7 @@
 #include "job/extents.h"
 
 #include "job/arc_geometry.h"
-#include "job/records.h"
+#include "job/job.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,6 +47,13 @@ void includePath(Extents& extents, const Path& path, double margin) {
         if (passes(path, i * quarterTurn))
             includePoint(extents, path.sngCentreX + double{path.sngRadius} * directions[i][0],
                          path.sngCentreY + double{path.sngRadius} * directions[i][1], margin);
+}
+
+Extents extentsOf(const Drawing& drawing) {
+    Extents extents = noExtents();
+    for (const Path& path : drawing.gudtPaths)
+        includePath(extents, path);
+    return extents;
 }
 
 bool isFullTurn(const Path& arc) {

@@ -4,6 +4,7 @@
 
 namespace torvik {
 
+struct Drawing;
 struct Path;
 
 struct Extents {
@@ -24,6 +25,9 @@ Extents noExtents();
 // with a margin (half the tool's width) all round.
 void includePoint(Extents& extents, double x, double y, double margin = 0);
 void includePath(Extents& extents, const Path& path, double margin = 0);
+
+// What all paths of the drawing fill; empty where there is none.
+Extents extentsOf(const Drawing& drawing);
 
 // Whether an arc's two angles coincide, or differ by a whole turn, within 0.01 radian: such an arc
 // is a full circle.

@@ -12,9 +12,9 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <numeric>
 #include <set>
 #include <string_view>
+#include <vector>
 
 namespace torvik {
 namespace {
@@ -56,26 +56,41 @@ bool hasSize(const std::set<float>& sizes, float radius) {
            (next != sizes.begin() && isSameSize(*std::prev(next), radius));
 }
 
-// Makes the pen's circles full turns and puts their sizes into `sizes`, until a path of the pen is
-// no circle; false where there is one.
-bool collectSizes(Drawing& drawing, std::int16_t number, std::set<float>& sizes) {
+// Makes the pen's circles full turns and adds their radii, until a path of the pen is no circle;
+// false where there is one.
+bool collectRadii(Drawing& drawing, std::int16_t number, std::vector<float>& radii) {
     for (Path& path : drawing.gudtPaths) {
         if (path.intPen != number)
             continue;
         if (!isClosedCircle(path))
             return false;
         path.sngAngleTo = path.sngAngleFrom;
-        if (!hasSize(sizes, path.sngRadius))
-            sizes.insert(path.sngRadius);
+        radii.push_back(path.sngRadius);
     }
     return true;
 }
 
+// The radii without those of the size of one before, ascending.
+std::vector<float> distinctSizes(const std::vector<float>& radii) {
+    std::vector<float> different = radii;
+    std::sort(different.begin(), different.end());
+    different.erase(std::unique(different.begin(), different.end()), different.end());
+    if (std::adjacent_find(different.begin(), different.end(), isSameSize) == different.end())
+        return different;
+    // Where some are nearly alike it counts which one comes first.
+    std::set<float> sizes;
+    for (const float radius : radii)
+        if (!hasSize(sizes, radius))
+            sizes.insert(radius);
+    return {sizes.begin(), sizes.end()};
+}
+
 void checkForCircles(Job& job, std::int16_t number) {
     Pen& pen = job.answers.gudtPens[number];
-    std::set<float> sizes(pen.sngRadii.begin(), pen.sngRadii.end());
-    const std::size_t before = sizes.size();
-    pen.blnCircles = collectSizes(job.drawing, number, sizes);
+    std::vector<float> radii(pen.sngRadii.begin(), pen.sngRadii.end());
+    const std::size_t before = radii.size();
+    pen.blnCircles = collectRadii(job.drawing, number, radii);
+    const std::vector<float> sizes = distinctSizes(radii);
     pen.sngRadii.erase();
     if (pen.blnCircles)
         for (const float size : sizes)
@@ -126,14 +141,6 @@ bool SetUpPens(Job& job, Logger& logger) {
 bool CheckForCircles(Job& job, std::int16_t intPen, Logger& logger) {
     return withErrorTrap(logger, {"CheckForCircles", "modHpgl"},
                          [&] { checkForCircles(job, intPen); });
-}
-
-std::vector<std::size_t> SortPaths(std::span<const float> keys) {
-    std::vector<std::size_t> order(keys.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
-    return order;
 }
 
 void rebuildOrder(Job& job) {

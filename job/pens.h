@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Pens, circles and order after an import: which pens are used, which hold nothing but circles,
-// which circle sizes there are, and in which order paths are drawn and pens machined.
+// which circle sizes there are, and in which order pens are machined.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <span>
-#include <vector>
 
 namespace torvik {
 
@@ -26,9 +23,6 @@ bool SetUpPens(Job& job, Logger& logger);
 // Finds whether the pen, 1 to 8, holds closed circles only, and its distinct radii.
 // False after a trapped error.
 bool CheckForCircles(Job& job, std::int16_t intPen, Logger& logger);
-
-// The places of the keys, from 0, in drawing order: ascending by key, equal keys as they came.
-std::vector<std::size_t> SortPaths(std::span<const float> keys);
 
 // Rebuilds gintOrder and gintOrderCount from the pens that are machined, in pen order.
 void rebuildOrder(Job& job);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sweep/sweep.h"
 
+#include "base/threads.h"
 #include "sweep/shape.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 #include <mutex>
 #include <numeric>
 #include <optional>
-#include <thread>
 
 namespace torvik::sweep {
 namespace {
@@ -119,34 +119,23 @@ public:
           m_bands((field.grid.rows + bandRows - 1) / bandRows) {}
 
     bool run() {
-        {
-            std::vector<std::jthread> others;
-            for (int i = 1; i < std::min(m_control.threads, m_bands); ++i)
-                others.emplace_back([this] { work(); });
-            work();
-        }
+        inThreads(m_bands, std::min(m_control.threads, m_bands),
+                  [this](int number) { sweepBand(number); });
         return !m_control.isCancelled();
     }
 
 private:
-    void work() {
-        for (int band = m_next++; band < m_bands; band = m_next++)
-            if (!sweepBand(band))
-                return;
-    }
-
-    bool sweepBand(int number) {
+    void sweepBand(int number) {
         const int first = number * bandRows;
         Band band(m_field, {first, std::min(first + bandRows, m_field.grid.rows) - 1});
         for (std::size_t i = 0; i < m_cuts.size(); i += cutsAtATime) {
             if (m_control.isCancelled())
-                return false;
+                return;
             const std::size_t end = std::min(i + cutsAtATime, m_cuts.size());
             for (std::size_t k = i; k < end; ++k)
                 band.paint(m_moves[m_cuts[k].move], m_cuts[k]);
             tell(end - i);
         }
-        return true;
     }
 
     void tell(std::size_t cuts) {
@@ -162,7 +151,6 @@ private:
     const std::vector<Cut> m_cuts;
     const Control& m_control;
     const int m_bands;
-    std::atomic<int> m_next = 0;
     std::mutex m_telling;
     double m_done = 0;
 };
