@@ -16,9 +16,9 @@ public:
         m_drawing = {job.drawing.gstrPlotFile, job.drawing.gstrDigest};
         m_answers = job.answers;
     }
-    // Puts them into a job just imported, if it is the same drawing. Whatever drawing it is, they
-    // are then forgotten.
-    void giveBack(Job& job);
+    // Puts them into a job just imported, if it is the same drawing; True where it is. Whatever
+    // drawing it is, they are then forgotten.
+    bool giveBack(Job& job);
 
 private:
     // By name and content.

@@ -90,6 +90,20 @@ bool isHolePage(const Job& job) {
     return currentPen(job).blnDrill && job.position.gintCurrentRadius > 0;
 }
 
+PenPlace penPlace(const Job& job) {
+    PenPlace place;
+    for (std::int16_t pen = 1; pen <= penCount; ++pen) {
+        const int used = job.answers.gudtPens[pen].blnUsed ? 1 : 0;
+        place.pens += used;
+        place.pen += pen <= job.position.gintCurrentPen ? used : 0;
+    }
+    if (isHolePage(job)) {
+        place.size = job.position.gintCurrentRadius;
+        place.sizes = currentPen(job).intRadiusCount;
+    }
+    return place;
+}
+
 float holeDiameter(const Job& job) {
     return 2 * currentPen(job).sngRadii[job.position.gintCurrentRadius];
 }

@@ -32,6 +32,18 @@ bool isOwnPageOfDrilledPen(const Job& job);
 // The page about one hole size of a drilled pen.
 bool isHolePage(const Job& job);
 
+// How far the pages have come: the page's place among the used pens, and that of its hole size
+// within the pen (0 of 0 on any other page).
+struct PenPlace {
+    int pen = 0;
+    int pens = 0;
+    int size = 0;
+    int sizes = 0;
+
+    bool operator==(const PenPlace&) const = default;
+};
+PenPlace penPlace(const Job& job);
+
 // Whether a tool's diameter differs from the current hole's by more than 0.01 mm; False where the
 // page is about no hole.
 bool toolMissesHole(const Job& job, float toolDiameter);

@@ -76,6 +76,14 @@ fs::path savedSettingsFolder() {
     return dataFolder() / "PlotSave";
 }
 
+fs::path sampleFolder() {
+    fs::path own = programFolder() / "Sample files";
+    std::error_code ignored;
+    if (fs::is_directory(own, ignored))
+        return own;
+    return executableFolder().parent_path() / "share" / "torvik" / "samples";
+}
+
 fs::path logFile(std::string_view programName) {
     return dataFolder() / pathFromUtf8(std::string(programName).append(".log"));
 }

@@ -22,6 +22,10 @@ std::filesystem::path dataFolderFor(const std::filesystem::path& executableFolde
 // The folder "PlotSave" of the data folder.
 std::filesystem::path savedSettingsFolder();
 
+// Where drawings to try are: "Sample files" of the program's own folder, or the folder of an
+// installed program. It need not exist.
+std::filesystem::path sampleFolder();
+
 // The program's name with ".log" in the data folder.
 std::filesystem::path logFile(std::string_view programName);
 

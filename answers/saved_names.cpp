@@ -9,6 +9,10 @@ std::string savedFileName(std::string_view plotFile) {
     return replaceLastThree(fileNameOf(plotFile), "plx");
 }
 
+std::filesystem::path unfinishedFile(const std::filesystem::path& savedFile) {
+    return std::filesystem::path(savedFile) += ".unfinished";
+}
+
 std::string proposedPartName(std::string_view plotFile) {
     const std::string_view name = fileNameOf(plotFile);
     const auto dot = name.rfind('.');

@@ -34,6 +34,8 @@ public:
     // Nothing but blank lines may follow.
     void finish();
     void require(bool holds, std::string_view cause) const;
+    // What is not read yet.
+    std::string_view rest() const { return m_rest; }
 
 private:
     [[noreturn]] void fail(long line, std::string_view cause) const;
