@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "base/numbers.h"
 #include "base/picture.h"
+#include "gcode/cut_words.h"
 #include "gcode/dialects.h"
 #include "gcode/path_index.h"
 #include "job/machined_groups.h"
@@ -22,7 +23,7 @@ namespace torvik {
 //   put(statement, values)    a statement of the dialect, which may be empty
 //   putLine(text)             a line of the dialect without a block number
 //   rapidToHeight(z), feedToHeight(z, feed), rapidTo(x, y)
-//   cut(words, cut)           along a path
+//   cut(words, run)           along paths without a gap between them
 template <typename Statements>
 class BodyWalk {
 public:
@@ -162,21 +163,19 @@ private:
     }
 
     void cutPass(const Words& words, float z, float feedDown) {
-        const auto& cuts = words.cuts();
-        for (const auto& cut : cuts) {
-            if (!cut.connected) {
-                const Path& path = m_job.drawing.gudtPaths[cut.path];
-                if (&cut != &cuts.front() || !isAt(path.sngStartX, path.sngStartY))
-                    rapidAbove(path.sngStartX, path.sngStartY);
-            }
+        const auto& runs = words.runs();
+        for (const auto& run : runs) {
+            const Path& first = m_job.drawing.gudtPaths[run.firstPath];
+            if (&run != &runs.front() || !isAt(first.sngStartX, first.sngStartY))
+                rapidAbove(first.sngStartX, first.sngStartY);
             if (m_z > m_job.answers.gsngRapidDownTo)
                 rapidToHeight(m_job.answers.gsngRapidDownTo);
             if (m_z > z)
                 feedToHeight(z, feedDown);
-            m_statements.cut(words, cut);
+            m_statements.cut(words, run);
         }
-        if (!cuts.empty()) {
-            const Path& last = m_job.drawing.gudtPaths[cuts.back().path];
+        if (!runs.empty()) {
+            const Path& last = m_job.drawing.gudtPaths[runs.back().lastPath];
             m_x = last.sngEndX;
             m_y = last.sngEndY;
         }

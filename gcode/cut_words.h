@@ -5,9 +5,10 @@
 
 #include "base/numbers.h"
 #include "gcode/path_index.h"
+#include "gcode/program_output.h"
 
+#include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace torvik {
@@ -33,16 +34,31 @@ void visitCuts(const Drawing& drawing, const PathSubscripts& paths, Visit visit)
     }
 }
 
+// Cuts that follow one another without a gap.
+struct CutRun {
+    std::uint32_t first = 0;
+    std::uint32_t end = 0;
+    std::int16_t firstPath = 0; // subscripts of gudtPaths
+    std::int16_t lastPath = 0;
+};
+
+// Adds a cut to the runs, and returns the one that it belongs to.
+template <typename Run>
+Run& addCut(std::vector<Run>& runs, std::int16_t path, bool connected) {
+    const std::uint32_t cut = runs.empty() ? 0 : runs.back().end;
+    if (!connected) {
+        Run& begun = runs.emplace_back();
+        begun.first = cut;
+        begun.firstPath = path;
+    }
+    Run& run = runs.back();
+    run.end = cut + 1;
+    run.lastPath = path;
+    return run;
+}
+
 class CutWords {
 public:
-    // One path that is cut.
-    struct Cut {
-        std::uint32_t text; // where its statement starts
-        std::uint16_t textSize;
-        std::int16_t path; // subscript of gudtPaths
-        bool connected;    // it starts where the cut before it ends
-    };
-
     // Takes the lines and arcs among the paths. The feed is mm/min.
     CutWords(const Drawing& drawing, const PathSubscripts& paths, const Dialect& dialect,
              float feed);
@@ -50,16 +66,18 @@ public:
     // Puts another feed at the end of every statement.
     void changeFeed(const Dialect& dialect, float feed);
 
-    const std::vector<Cut>& cuts() const { return m_cuts; }
+    const std::vector<CutRun>& runs() const { return m_runs; }
     // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ..." with its line end.
-    std::string_view text(const Cut& cut) const {
-        return std::string_view(m_text).substr(cut.text, cut.textSize);
+    PaddedLine line(std::uint32_t cut) const {
+        const std::uint32_t start = m_starts[cut];
+        return {m_text.data() + start, m_starts[cut + 1] - start};
     }
 
 private:
-    std::vector<Cut> m_cuts;
-    std::string m_text;
-    std::string m_tail; // the feed and the line end
+    std::vector<CutRun> m_runs;
+    std::vector<std::uint32_t> m_starts; // of each cut's line in the text, and where the last ends
+    std::string m_text;                  // padded
+    std::string m_tail;                  // the feed and the line end
 };
 
 } // namespace torvik

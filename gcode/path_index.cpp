@@ -2,6 +2,7 @@
 #include "gcode/path_index.h"
 
 #include "job/hole_sizes.h"
+#include "job/sort_paths.h"
 
 #include <algorithm>
 
@@ -23,14 +24,18 @@ PathSubscripts PathIndex::ofRadius(std::int16_t pen, float radius) {
     const auto radiusOf = [this](std::int16_t i) { return m_job.drawing.gudtPaths[i].sngRadius; };
     auto& sorted = m_byRadius[static_cast<std::size_t>(pen)];
     if (sorted.empty()) {
-        sorted = ofPen(pen);
-        std::sort(sorted.begin(), sorted.end(),
-                  [&](std::int16_t a, std::int16_t b) { return radiusOf(a) < radiusOf(b); });
+        const PathSubscripts& paths = ofPen(pen);
+        std::vector<float> radii(paths.size());
+        std::transform(paths.begin(), paths.end(), radii.begin(), radiusOf);
+        sorted.reserve(paths.size());
+        for (const std::size_t place : SortPaths(radii))
+            sorted.push_back(paths[place]);
     }
     const auto [first, last] =
         rangeOfSize(sorted.begin(), sorted.end(), radius, isDrilledAt, radiusOf);
     PathSubscripts found(first, last);
-    std::sort(found.begin(), found.end());
+    if (!std::is_sorted(found.begin(), found.end())) // sizes that are nearly alike
+        std::sort(found.begin(), found.end());
     return found;
 }
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstring>
 
 namespace torvik {
@@ -26,31 +25,21 @@ std::int64_t lineEndsIn(std::string_view bytes) {
     return std::count(bytes.begin(), bytes.end(), lineEnd.back());
 }
 
-char* BlockNumber::put(char* out, std::int16_t number) {
-    if (number == m_number + 1 && m_number != m_lastOfTen) {
-        m_characters += m_lastDigit;
-    } else {
-        std::array<char, maxSize> text{'N'};
-        char* const end = putInteger(text.data() + 1, number);
-        *end = ' ';
-        m_size = static_cast<std::size_t>(end + 1 - text.data());
-        m_characters = 0;
-        for (std::size_t i = 0; i < m_size; ++i)
-            m_characters |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
-        m_lastDigit = std::uint64_t{1} << (8 * (m_size - 2));
-        m_lastOfTen = number - number % 10 + 9;
-    }
-    m_number = number;
-    if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(out, &m_characters, maxSize);
-    } else {
-        for (std::size_t i = 0; i < maxSize; ++i)
-            out[i] = static_cast<char>(m_characters >> (8 * i));
-    }
-    return out + m_size;
+void BlockNumber::format(std::int16_t number) {
+    std::array<char, maxSize> text{'N'};
+    char* const end = putInteger(text.data() + 1, number);
+    *end = ' ';
+    m_size = static_cast<std::size_t>(end + 1 - text.data());
+    m_characters = 0;
+    for (std::size_t i = 0; i < m_size; ++i)
+        m_characters |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
+    m_lastDigit = std::uint64_t{1} << (8 * (m_size - 2));
+    m_lastOfTen = number - number % 10 + 9;
 }
 
-ProgramOutput::ProgramOutput(ByteSink& sink) : m_sink(sink), m_buffer(bufferBytes, '\0') {}
+ProgramOutput::ProgramOutput(ByteSink& sink)
+    : m_sink(sink), m_buffer(std::make_unique_for_overwrite<char[]>(bufferBytes)),
+      m_size(bufferBytes) {}
 
 void ProgramOutput::WriteLine(std::string_view text, bool withLineEnd) {
     char* out = put(room(text.size() + lineEnd.size()), text);
@@ -62,16 +51,27 @@ void ProgramOutput::CommandLine(std::string_view text) {
     WriteLine({});
 }
 
-void ProgramOutput::writeBlock(std::string_view line) {
+char* ProgramOutput::putNumber(char* out) {
+    if (m_gintLineNumber == lastBlockNumber)
+        m_gintLineNumber = 0;
     ++m_gintLineNumber;
-    if (m_gintLineNumber > lastBlockNumber)
-        m_gintLineNumber = 1;
-    char* const out = room(BlockNumber::maxSize + line.size());
-    use(put(m_blockNumber.put(out, m_gintLineNumber), line));
+    return m_blockNumber.put(out, m_gintLineNumber);
+}
+
+void ProgramOutput::writeBlock(std::string_view line) {
+    use(put(putNumber(room(BlockNumber::maxSize + line.size())), line));
+}
+
+void ProgramOutput::writeBlock(PaddedLine line) {
+    constexpr std::size_t piece = PaddedLine::padding;
+    char* const out = putNumber(room(BlockNumber::maxSize + line.size + piece));
+    for (std::size_t at = 0; at < line.size; at += piece)
+        std::memcpy(out + at, line.text + at, piece);
+    use(out + line.size);
 }
 
 void ProgramOutput::flush() {
-    const auto gathered = std::string_view(m_buffer).substr(0, m_used);
+    const auto gathered = std::string_view(m_buffer.get(), m_used);
     m_used = 0;
     if (m_failed)
         return;
@@ -80,13 +80,12 @@ void ProgramOutput::flush() {
     m_failed = false;
 }
 
-char* ProgramOutput::room(std::size_t bytes) {
-    if (m_buffer.size() - m_used < bytes) {
-        flush();
-        if (m_buffer.size() < bytes)
-            m_buffer.resize(bytes);
+void ProgramOutput::makeRoom(std::size_t bytes) {
+    flush();
+    if (m_size < bytes) {
+        m_buffer = std::make_unique_for_overwrite<char[]>(bytes);
+        m_size = bytes;
     }
-    return m_buffer.data() + m_used;
 }
 
 } // namespace torvik

@@ -7,6 +7,7 @@
 #include "gcode/output_file.h"
 #include "gcode/program_output.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace torvik {
@@ -23,24 +24,22 @@ constexpr std::int64_t arcBytes = 41 + numberBytes;
 // A pen's paths without their words.
 class CountedWords {
 public:
-    struct Cut {
-        std::int64_t bytes;
-        std::int16_t path;
-        bool connected;
+    struct Run : CutRun {
+        std::int64_t bytes = 0;
     };
 
     CountedWords(const Drawing& drawing, const PathSubscripts& paths, const Dialect& /*dialect*/,
                  float /*feed*/) {
         visitCuts(drawing, paths, [&](std::int16_t path, bool connected) {
-            m_cuts.push_back(
-                {isArc(drawing.gudtPaths[path]) ? arcBytes : lineBytes, path, connected});
+            addCut(m_runs, path, connected).bytes +=
+                isArc(drawing.gudtPaths[path]) ? arcBytes : lineBytes;
         });
     }
     void changeFeed(const Dialect& /*dialect*/, float /*feed*/) {}
-    const std::vector<Cut>& cuts() const { return m_cuts; }
+    const std::vector<Run>& runs() const { return m_runs; }
 
 private:
-    std::vector<Cut> m_cuts;
+    std::vector<Run> m_runs;
 };
 
 class CountedStatements {
@@ -74,12 +73,15 @@ public:
     void rapidToHeight(float /*z*/) { count(heightBytes); }
     void feedToHeight(float /*z*/, float /*feed*/) { count(feedBytes); }
     void rapidTo(float /*x*/, float /*y*/) { count(rapidBytes); }
-    void cut(const CountedWords& /*words*/, const CountedWords::Cut& cut) { count(cut.bytes); }
+    void cut(const CountedWords& /*words*/, const CountedWords::Run& run) {
+        count(run.bytes, run.end - run.first);
+    }
 
 private:
-    void count(std::int64_t bytes) {
+    void count(std::int64_t bytes, std::int64_t lines = 1) {
         m_size.bytes += bytes;
-        if (++m_size.lines > mostLines)
+        m_size.lines = std::min(m_size.lines + lines, mostLines + 1);
+        if (m_size.lines > mostLines)
             throw Overflow("the program has more lines than any may have");
     }
 

@@ -41,8 +41,9 @@ public:
         m_output.CommandLine(StatementText("G0").position(" X", x).position(" Y", y));
     }
 
-    void cut(const CutWords& words, const CutWords::Cut& cut) {
-        m_output.writeBlock(words.text(cut));
+    void cut(const CutWords& words, const CutRun& run) {
+        for (std::uint32_t cut = run.first; cut < run.end; ++cut)
+            m_output.writeBlock(words.line(cut));
     }
 
 private:
