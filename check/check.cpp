@@ -1,39 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "check/check.h"
 
-#include "check/machine.h"
+#include "base/stopping.h"
 #include "check/opening_lines.h"
-#include "check/program_reader.h"
 
 namespace torvik::check {
 
-Report checkProgram(std::string_view program, std::string_view sideText, const Target* target,
-                    const FindPlan& findPlan) {
-    Report report;
-    Findings& findings = report.findings;
-    report.target = target == nullptr ? recogniseTarget(program) : target;
-    if (report.target == nullptr) {
-        findings.add(Kind::opening, 1, {"none of the controls knows it"});
-        return report;
-    }
-    Program read = readProgram(*report.target, program, findings);
-    if (report.target->commentOpener == 0)
+RunningCheck::RunningCheck(const Target& target, std::size_t lines, const std::stop_token& stop)
+    : m_stop(stop), m_reader(target, lines, m_report.findings, stop) {
+    m_report.target = &target;
+}
+
+Report RunningCheck::finish(std::string_view sideText, const FindPlan& findPlan) {
+    Program read = m_reader.finish();
+    Findings& findings = m_report.findings;
+    if (m_report.target->commentOpener == 0)
         read.header = readSideText(sideText);
-    report.moves = walk(read);
-    const Moves& moves = report.moves;
     findStructure(read, findings);
-    const Walked walked{read, moves, learnHeights(moves)};
+    const Walked walked{read, read.moves, learnHeights(read.moves)};
     for (const auto find :
-         {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs, findBillet})
+         {findMotion, findPlunges, findTools, findSpindle, findFeeds, findArcs, findBillet}) {
+        endIfStopped(m_stop);
         find(walked, findings);
+    }
+    endIfStopped(m_stop);
     if (findPlan) {
         findPlan(walked, findings);
     } else {
         findPasses(walked, findings);
         findHoles(walked, findings);
     }
-    report.summary = summaryOf(moves);
-    return report;
+    m_report.summary = summaryOf(read.moves);
+    m_report.moves = std::move(read.moves);
+    return std::move(m_report);
+}
+
+Report checkProgram(std::string_view program, std::string_view sideText, const Target* target,
+                    const FindPlan& findPlan, const std::stop_token& stop) {
+    if (target == nullptr)
+        target = recogniseTarget(program);
+    if (target == nullptr) {
+        Report none;
+        none.findings.add(Kind::opening, 1, {"none of the controls knows it"});
+        return none;
+    }
+    RunningCheck check(*target, linesIn(program), stop);
+    check.write(program);
+    return check.finish(sideText, findPlan);
 }
 
 } // namespace torvik::check

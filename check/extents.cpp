@@ -6,20 +6,6 @@
 
 namespace torvik::check {
 
-void Extents::add(double x, double y) {
-    if (!std::isfinite(x) || !std::isfinite(y))
-        return;
-    lowX = std::fmin(lowX, x);
-    lowY = std::fmin(lowY, y);
-    highX = std::fmax(highX, x);
-    highY = std::fmax(highY, y);
-}
-
-void Extents::add(const Extents& other) {
-    add(other.lowX, other.lowY);
-    add(other.highX, other.highY);
-}
-
 Extents extentsOf(const Move& move) {
     Extents extents;
     extents.add(move.from.x, move.from.y);

@@ -13,8 +13,19 @@ struct Extents {
     double highY = unknown;
 
     // A place that is not known is passed over.
-    void add(double x, double y);
-    void add(const Extents& other);
+    void add(double x, double y) {
+        if (!std::isfinite(x) || !std::isfinite(y))
+            return;
+        // An extent that is unknown is neither below nor above.
+        lowX = lowX < x ? lowX : x;
+        lowY = lowY < y ? lowY : y;
+        highX = highX > x ? highX : x;
+        highY = highY > y ? highY : y;
+    }
+    void add(const Extents& other) {
+        add(other.lowX, other.lowY);
+        add(other.highX, other.highY);
+    }
 };
 
 // Of one move, an arc's bulge included.

@@ -21,7 +21,7 @@ std::string findingLines(std::string_view file, const Findings& findings, bool q
     const std::string name(file);
     for (const Finding& finding : findings.byLine())
         if (isShown(finding.kind, quiet))
-            text += name + ":" + countText(finding.line) + ": " +
+            text += name + (finding.line > 0 ? ":" + countText(finding.line) : "") + ": " +
                     std::string(rowOf(finding.kind).name) + ": " + sentenceOf(finding) + "\n";
     for (const KindRow& row : kinds())
         if (const auto count = findings.count(row.kind);

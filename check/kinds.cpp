@@ -79,7 +79,7 @@ constexpr std::array kindRows{
     // feed and dwell
     KindRow{Kind::feedMissing, "feed-missing", Level::wrong, "This move has no feed (F)."},
     KindRow{Kind::feedZero, "feed-zero", Level::wrong,
-            "The feed is 0, the machine would stand still."},
+            "The feed is 0 or below, the machine would stand still."},
     KindRow{Kind::feedOdd, "feed-odd", Level::look, "A feed of {1} mm/min is unusual here."},
     KindRow{Kind::dwellOdd, "dwell-odd", Level::look,
             "The tool waits {1} s at Z{2}. That is unusual."},

@@ -2,7 +2,6 @@
 // A text line by line.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -14,25 +13,36 @@ struct Line {
     bool isEnded;          // by carriage return and line feed
 };
 
+// A line of a text; it may have its end still.
+inline Line lineOf(std::uint32_t number, std::string_view text) {
+    const bool hasFeed = text.ends_with('\n');
+    if (hasFeed)
+        text.remove_suffix(1);
+    const bool isEnded = hasFeed && text.ends_with('\r');
+    if (isEnded)
+        text.remove_suffix(1);
+    return {number, text, isEnded};
+}
+
 // Calls visit(line) for each line; what stands behind the last line feed is one, too.
 template <typename Visit>
 void visitLines(std::string_view text, Visit visit) {
     for (std::uint32_t number = 1; !text.empty(); ++number) {
         const auto feed = text.find('\n');
-        std::string_view line = text.substr(0, feed);
-        text.remove_prefix(feed == text.npos ? text.size() : feed + 1);
-        const bool isEnded = feed != text.npos && line.ends_with('\r');
-        if (isEnded)
-            line.remove_suffix(1);
-        visit(Line{number, line, isEnded});
+        const auto size = feed == text.npos ? text.size() : feed + 1;
+        visit(lineOf(number, text.substr(0, size)));
+        text.remove_prefix(size);
     }
 }
 
+// Looks at all of them: that is quicker than to stop at the first.
 inline bool holdsControlCharacter(std::string_view text) {
-    return std::any_of(text.begin(), text.end(), [](char c) {
+    unsigned found = 0;
+    for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        return byte < 0x20 || byte == 0x7F;
-    });
+        found |= static_cast<unsigned>(byte < 0x20) | static_cast<unsigned>(byte == 0x7F);
+    }
+    return found != 0;
 }
 
 } // namespace torvik::check

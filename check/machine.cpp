@@ -34,48 +34,35 @@ MoveKind kindOf(Meaning meaning) {
     }
 }
 
-class Machine {
-public:
-    explicit Machine(std::size_t statements) { m_moves.reserve(statements); }
-
-    void take(const Statement& statement) {
-        Move move;
-        move.line = statement.line;
-        move.kind = kindOf(statement.meaning);
-        move.from = m_at;
-        move.feed = statement.feed;
-        move.value = statement.value;
-        move.offset = statement.offset;
-        if (statement.meaning == Meaning::unknownMove)
-            m_at = {};
-        else if (move.kind == MoveKind::rapidHeight || move.kind == MoveKind::feedHeight)
-            m_at.z = statement.z;
-        else if (move.kind == MoveKind::rapidAcross || move.isCut())
-            m_at = {statement.x, statement.y, m_at.z};
-        move.to = m_at;
-        if (move.isArc())
-            move.centre = {move.from.x + statement.i, move.from.y + statement.j};
-        m_moves.push_back(move);
-        if (statement.meaning == Meaning::retract)
-            stopSpindle(statement.line);
-    }
-
-    Moves finish() { return std::move(m_moves); }
-
-private:
-    void stopSpindle(std::uint32_t line) {
-        Move stop;
-        stop.line = line;
-        stop.kind = MoveKind::spindleOff;
-        stop.from = stop.to = m_at;
-        m_moves.push_back(stop);
-    }
-
-    Moves m_moves;
-    Place m_at;
-};
-
 } // namespace
+
+void Machine::take(const Statement& statement) {
+    Move& move = m_moves.emplace_back();
+    move.line = statement.line;
+    move.kind = kindOf(statement.meaning);
+    move.from = m_at;
+    move.feed = statement.feed;
+    move.value = statement.value;
+    move.offset = statement.offset;
+    if (statement.meaning == Meaning::unknownMove)
+        m_at = {};
+    else if (move.kind == MoveKind::rapidHeight || move.kind == MoveKind::feedHeight)
+        m_at.z = statement.z;
+    else if (move.kind == MoveKind::rapidAcross || move.isCut())
+        m_at = {statement.x, statement.y, m_at.z};
+    move.to = m_at;
+    if (move.isArc())
+        move.centre = {move.from.x + statement.i, move.from.y + statement.j};
+    if (statement.meaning == Meaning::retract)
+        stopSpindle(statement.line);
+}
+
+void Machine::stopSpindle(std::uint32_t line) {
+    Move& stop = m_moves.emplace_back();
+    stop.line = line;
+    stop.kind = MoveKind::spindleOff;
+    stop.from = stop.to = m_at;
+}
 
 double Move::sweep() const {
     const double startX = from.x - centre.x;
@@ -86,13 +73,6 @@ double Move::sweep() const {
     const double wanted = kind == MoveKind::cutClockwise ? -turn : turn;
     const bool isFull = from.x == to.x && from.y == to.y;
     return isFull || wanted < 0 ? wanted + 2 * std::numbers::pi : wanted;
-}
-
-Moves walk(const Program& program) {
-    Machine machine(program.statements.size());
-    for (const Statement& statement : program.statements)
-        machine.take(statement);
-    return machine.finish();
 }
 
 } // namespace torvik::check

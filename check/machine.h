@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: MIT
-// The machine: walks the statements of a program and says what it does at each of them.
+// The machine: takes the statements of a program and says what it does at each of them.
 #pragma once
 
 #include "check/move.h"
-#include "check/program.h"
+
+#include <utility>
 
 namespace torvik::check {
 
-Moves walk(const Program& program);
+class Machine {
+public:
+    // Some statements are two moves. What is not used costs nothing.
+    explicit Machine(std::size_t statements) { m_moves.reserve(statements + statements / 8); }
+
+    void take(const Statement& statement);
+    Moves finish() { return std::move(m_moves); }
+
+private:
+    void stopSpindle(std::uint32_t line);
+
+    Moves m_moves;
+    Place m_at;
+};
 
 } // namespace torvik::check

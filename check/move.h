@@ -3,11 +3,11 @@
 // (NaN), and every comparison with it is false. Each step knows the line it comes from.
 #pragma once
 
+#include "base/large_pages.h"
 #include "check/statement.h"
 
 #include <cmath>
 #include <cstdint>
-#include <vector>
 
 namespace torvik::check {
 
@@ -57,7 +57,7 @@ struct Move {
     double sweep() const; // radians, above 0
 };
 
-using Moves = std::vector<Move>;
+using Moves = LongVector<Move>;
 
 inline constexpr double heightStep = 0.01;  // written heights lie apart by this or are the same
 inline constexpr double lengthStep = 0.001; // the same for places

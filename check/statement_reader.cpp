@@ -5,32 +5,32 @@
 #include "check/words.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace torvik::check {
 namespace {
 
-// The form's next word, taken off its front.
-std::string_view nextWord(std::string_view& pattern) {
-    const auto end = std::min(pattern.find(' '), pattern.size());
-    const std::string_view word = pattern.substr(0, end);
-    pattern.remove_prefix(std::min(end + 1, pattern.size()));
-    return word;
+bool isPlace(std::string_view expected) {
+    return expected.back() == '#';
 }
 
-bool matches(std::string_view pattern, std::span<const Word> words) {
-    for (const Word& word : words) {
-        const std::string_view expected = nextWord(pattern);
-        const bool isPlace = expected.ends_with('#');
-        if (expected.empty() || word.letter != expected[0] || (!isPlace && word.text != expected))
+// Whether the words are those of the form; a feed may be missing.
+bool matches(const StatementForm& form, std::span<const Word> words) {
+    const auto expected = form.words();
+    if (words.size() > expected.size())
+        return false;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        if (isPlace(expected[i]) ? words[i].letter() != expected[i][0]
+                                 : words[i].text != expected[i])
             return false;
-    }
-    return pattern.empty() || (pattern == "F#" && !words.empty());
+    const auto missing = expected.subspan(words.size());
+    return missing.empty() || (missing.size() == 1 && missing[0] == "F#");
 }
 
 const StatementForm* formOf(const Target& target, std::span<const Word> words) {
     for (const auto& forms : {commonForms(), target.forms})
         for (const StatementForm& form : forms)
-            if (matches(form.pattern, words))
+            if (matches(form, words))
                 return &form;
     return nullptr;
 }
@@ -76,22 +76,58 @@ void put(const Target& target, Statement& statement, char letter, double number)
 
 void readNumbers(const Target& target, const StatementForm& form, std::span<const Word> words,
                  Statement& statement, Findings& findings) {
-    std::string_view pattern = form.pattern;
-    for (const Word& word : words) {
-        if (!nextWord(pattern).ends_with('#'))
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (!isPlace(form.words()[i]))
             continue;
-        const int decimals = decimalsOf(target, form, word.letter);
-        const WrittenNumber number = readNumber(word.number, decimals);
+        const Word& word = words[i];
+        const int decimals = decimalsOf(target, form, word.letter());
+        const WrittenNumber number = readNumber(word.number(), decimals);
         if (!number.isClean)
             findings.add(Kind::number, statement.line,
                          {shownText(word.text), formatFixed(12.5, decimals)});
-        put(target, statement, word.letter, number.value);
+        put(target, statement, word.letter(), number.value);
     }
 }
 
+// Takes the letters off the text's front. They are so few that a call would take longer.
+bool take(std::string_view& text, std::string_view letters) {
+    if (text.size() < letters.size())
+        return false;
+    for (std::size_t i = 0; i < letters.size(); ++i)
+        if (text[i] != letters[i])
+            return false;
+    text.remove_prefix(letters.size());
+    return true;
+}
+
+// Reads a statement that is written just as the form says, as nearly all are; false for any other.
+bool readsAs(const StatementForm& form, const Target& target, std::string_view text,
+             Statement& statement) {
+    bool isFirst = true;
+    for (const std::string_view expected : form.words()) {
+        const bool holdsNumber = isPlace(expected);
+        if ((!isFirst && !take(text, " ")) ||
+            !take(text, expected.substr(0, expected.size() - (holdsNumber ? 1 : 0))))
+            return false;
+        if (isFirst) {
+            statement = {};
+            statement.meaning = form.meaning;
+            isFirst = false;
+        }
+        if (!holdsNumber)
+            continue;
+        const double number = takeCleanNumber(text, decimalsOf(target, form, expected[0]));
+        if (std::isnan(number))
+            return false;
+        put(target, statement, expected[0], number);
+    }
+    return text.empty();
+}
+
 bool movesAnAxis(std::span<const Word> words) {
-    return std::any_of(words.begin(), words.end(),
-                       [](const Word& word) { return word.letter >= 'X' && word.letter <= 'Z'; });
+    return std::any_of(words.begin(), words.end(), [](const Word& word) {
+        return word.letter() >= 'X' && word.letter() <= 'Z';
+    });
 }
 
 } // namespace
@@ -99,6 +135,13 @@ bool movesAnAxis(std::span<const Word> words) {
 Statement readStatement(const Target& target, std::string_view text, std::uint32_t line,
                         Findings& findings) {
     Statement statement;
+    for (const auto& forms : {commonForms(), target.forms})
+        for (const StatementForm& form : forms)
+            if (readsAs(form, target, text, statement)) {
+                statement.line = line;
+                return statement;
+            }
+    statement = {};
     statement.line = line;
     const Words read(text);
     const auto words = read.words();

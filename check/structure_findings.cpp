@@ -85,7 +85,7 @@ private:
         std::uint32_t line = 0;
         bool hasTool = false;
         for (std::size_t i = begin; i < end; ++i) {
-            const Statement& statement = m_statements[i];
+            const StatementMark& statement = m_statements[i];
             if (isChange(statement.meaning)) {
                 line = before.empty() ? statement.line : line;
                 before.push_back(statement.meaning);
@@ -114,7 +114,7 @@ private:
             m_findings.add(Kind::toolStop, line, {quoted(wanted)});
     }
 
-    void findOutOfPlace(const Statement& statement) {
+    void findOutOfPlace(const StatementMark& statement) {
         if (endsProgram(statement.meaning))
             m_findings.add(Kind::ending, statement.line, {"it ends here, but lines follow"});
         else if (isOneOf({{Meaning::coordinates, Meaning::feedMode, Meaning::zeroShift}},
@@ -128,7 +128,7 @@ private:
     }
 
     const Target& m_target;
-    const std::vector<Statement>& m_statements;
+    const LongVector<StatementMark>& m_statements;
     std::uint32_t m_lastLine;
     Findings& m_findings;
 };

@@ -5,6 +5,9 @@
 
 #include "check/pace.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -37,8 +40,24 @@ enum class Meaning : std::uint8_t {
 
 // A statement as it is written, "#" for a number.
 struct StatementForm {
+    constexpr StatementForm(std::string_view written, Meaning means)
+        : pattern(written), meaning(means) {
+        while (!written.empty()) {
+            const auto end = std::min(written.find(' '), written.size());
+            m_words[m_count++] = written.substr(0, end);
+            written.remove_prefix(std::min(end + 1, written.size()));
+        }
+    }
+
+    // Those of the pattern.
+    constexpr std::span<const std::string_view> words() const { return {m_words.data(), m_count}; }
+
     std::string_view pattern;
     Meaning meaning;
+
+private:
+    std::array<std::string_view, 6> m_words{};
+    std::size_t m_count = 0;
 };
 
 struct Target {

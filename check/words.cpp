@@ -3,13 +3,18 @@
 
 #include "base/digits.h"
 
-#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace torvik::check {
 namespace {
+
+constexpr std::int64_t mostValue = 1'000'000;
+constexpr std::ptrdiff_t mostWholeDigits = 7;
+constexpr double notRead = std::numeric_limits<double>::quiet_NaN();
 
 bool isCapital(char c) {
     return c >= 'A' && c <= 'Z';
@@ -17,18 +22,6 @@ bool isCapital(char c) {
 
 bool endsNumber(char c) {
     return c == ' ' || isCapital(c);
-}
-
-bool isWritten(std::string_view text, int decimals) {
-    const auto point = std::min(text.find('.'), text.size());
-    const std::string_view whole = text.substr(0, point);
-    const std::string_view part = text.substr(point);
-    if (whole.empty() || (whole.size() > 1 && whole[0] == '0'))
-        return false;
-    if (part.size() != (decimals == 0 ? 0 : static_cast<std::size_t>(decimals) + 1))
-        return false;
-    return std::all_of(whole.begin(), whole.end(), isDigit) &&
-           std::all_of(part.begin() + (part.empty() ? 0 : 1), part.end(), isDigit);
 }
 
 } // namespace
@@ -50,22 +43,50 @@ Words::Words(std::string_view text) {
         const std::size_t start = at++;
         while (at < text.size() && !endsNumber(text[at]))
             ++at;
-        m_words[m_count++] = {text[start], text.substr(start + 1, at - start - 1),
-                              text.substr(start, at - start)};
+        m_words[m_count++] = {text.substr(start, at - start)};
     }
 }
 
+double takeCleanNumber(std::string_view& text, int decimals) {
+    constexpr std::array<std::int64_t, 4> powersOfTen{1, 10, 100, 1000};
+    const std::int64_t power = powersOfTen[static_cast<std::size_t>(decimals)];
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    const bool isNegative = at != end && *at == '-';
+    at += isNegative ? 1 : 0;
+    const char* const first = at;
+    std::int64_t digits = 0;
+    for (; at != end && isDigit(*at) && at - first <= mostWholeDigits; ++at)
+        digits = digits * 10 + (*at - '0');
+    if (at == first || at - first > mostWholeDigits || (at - first > 1 && *first == '0'))
+        return notRead;
+    if (decimals > 0) {
+        if (end - at <= decimals || *at != '.')
+            return notRead;
+        const char* const last = ++at + decimals;
+        for (; at != last; ++at) {
+            if (!isDigit(*at))
+                return notRead;
+            digits = digits * 10 + (*at - '0');
+        }
+    }
+    if (digits > mostValue * power || (isNegative && digits == 0))
+        return notRead;
+    text.remove_prefix(static_cast<std::size_t>(at - text.data()));
+    // So few digits that the quotient is the double nearest to what is written.
+    const double value = static_cast<double>(digits) / static_cast<double>(power);
+    return isNegative ? -value : value;
+}
+
 WrittenNumber readNumber(std::string_view text, int decimals) {
-    constexpr double most = 1e6;
-    constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    double value = none;
+    std::string_view rest = text;
+    double value = takeCleanNumber(rest, decimals);
+    if (!std::isnan(value) && rest.empty())
+        return {value, true};
     const char* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-    if (read.ec != std::errc() || read.ptr != end || !(std::fabs(value) <= most))
-        return {none, false};
-    const bool isNegative = text[0] == '-';
-    const bool isZero = value == 0;
-    return {value, isWritten(text.substr(isNegative ? 1 : 0), decimals) && !(isNegative && isZero)};
+    const bool isRead = read.ec == std::errc() && read.ptr == end && std::fabs(value) <= mostValue;
+    return {isRead ? value : notRead, false};
 }
 
 } // namespace torvik::check

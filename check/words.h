@@ -10,9 +10,10 @@
 namespace torvik::check {
 
 struct Word {
-    char letter;
-    std::string_view number; // up to the next blank or capital letter
-    std::string_view text;   // both
+    std::string_view text; // up to the next blank or capital letter
+
+    char letter() const { return text[0]; }
+    std::string_view number() const { return text.substr(1); }
 };
 
 class Words {
@@ -36,6 +37,10 @@ struct WrittenNumber {
     double value; // NaN where it cannot be read, or is above a million
     bool isClean; // a sign at most for what is below 0, no leading zero, as many decimals as asked
 };
+
+// Takes a number that is written as it should be, as nearly all are, off the text's front. NaN, and
+// nothing taken, where none stands there. What follows may be more digits.
+double takeCleanNumber(std::string_view& text, int decimals);
 
 // Reads a written number that should have `decimals` decimals (0 to 3).
 WrittenNumber readNumber(std::string_view text, int decimals);

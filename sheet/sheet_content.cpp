@@ -3,10 +3,13 @@
 
 #include "base/files.h"
 #include "base/picture.h"
+#include "check/finding_rows.h"
 #include "check/time/program_time.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
+#include "languages/shown_text.h"
 #include "preview/cut/cut_painting.h"
+#include "preview/cut/tried_words.h"
 #include "trial/trial.h"
 
 #include <QCoreApplication>
@@ -30,20 +33,19 @@ QString numberText(double number, int decimals) {
 }
 
 QString timeOf(double minutes) {
-    return QString::fromStdString(check::timeText(minutes));
+    return shownText(check::timeText(minutes));
 }
 
 // The number of a program for the diskette is asked for when it is written.
 QString programText(const Job& job, const Dialect& dialect) {
     const QString name = QString::fromUtf8(dialect.name);
     if (dialect.needsNumber())
-        return tr("%1 ______  for %2")
+        return tr("%1 ______ for %2")
             .arg(QString::fromUtf8(dialect.diskettePrefix.data(),
                                    static_cast<qsizetype>(dialect.diskettePrefix.size())),
                  name);
     const std::string drawing = utf8FromPath(pathFromUtf8(job.drawing.gstrPlotFile).filename());
-    return tr("%1  for %2")
-        .arg(QString::fromStdString(proposedFileName(dialect, drawing, 0)), name);
+    return tr("%1 for %2").arg(QString::fromStdString(proposedFileName(dialect, drawing, 0)), name);
 }
 
 std::vector<SheetField> detailsOf(const Job& job) {
@@ -91,16 +93,6 @@ QString feedText(const Answers& answers, double feed) {
     return isPerSecond ? shortNumber(feed / 60) : numberText(feed, 0);
 }
 
-QString passesText(const TriedGroup& tried) {
-    const QString count = QString::number(tried.passes);
-    if (tried.holes == 0)
-        return tried.passes == 1 ? tr("1 pass") : tr("%1 passes").arg(count);
-    QString holes = tried.holes == 1 ? tr("1 hole") : tr("%1 holes").arg(tried.holes);
-    if (tried.passes == 1)
-        return holes;
-    return (tried.holes == 1 ? tr("%1, %2 pecks") : tr("%1, %2 pecks each")).arg(holes, count);
-}
-
 QStringList orderRow(const Answers& answers, const TriedGroup& tried, std::size_t number) {
     const Settings& settings = answers.gudtSettings[tried.group.settings];
     const bool isCut = tried.group.radius == 0;
@@ -108,7 +100,7 @@ QStringList orderRow(const Answers& answers, const TriedGroup& tried, std::size_
     if (isCut && settings.sngFinalPassDepth > 0)
         across = tr("%1, last %2").arg(across, feedText(answers, settings.sngFeedFinalPass));
     return {QString::number(number),
-            QString::fromStdString(tried.name),
+            shownText(tried.name),
             QString::fromStdString(tried.tool),
             numberText(settings.sngSpindleSpeed, 0),
             across,
@@ -137,32 +129,18 @@ std::vector<QStringList> toolRows(const TriedProgram& tried) {
     return rows;
 }
 
-std::vector<SheetFinding> findingRows(const check::Findings& findings) {
-    auto found = findings.byLine();
-    std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) {
-        return check::rowOf(a.kind).level > check::rowOf(b.kind).level;
-    });
-    std::vector<SheetFinding> rows;
-    for (const check::Finding& finding : found) {
-        const check::Level level = check::rowOf(finding.kind).level;
-        const std::string_view name = check::levelName(level);
-        QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-        text[0] = text[0].toUpper();
-        if (finding.line > 0)
-            text += tr(", line %1").arg(finding.line);
-        rows.push_back(
-            {level >= check::Level::wrong,
-             text + QStringLiteral(": ") + QString::fromStdString(check::sentenceOf(finding))});
+// "Danger, line 15 and 4 more: …".
+std::vector<SheetFinding> sheetFindings(const check::Findings& findings) {
+    std::vector<SheetFinding> shown;
+    for (const check::FindingRow& row : check::findingRows(findings)) {
+        QString line = shownText(check::levelName(row.level()));
+        if (row.line > 0)
+            line += QStringLiteral(", ") + shownText(row.where());
+        line += QStringLiteral(": ") + shownFilled(row.sentence, check::rowOf(row.kind).sentence);
+        line[0] = line[0].toUpper();
+        shown.push_back({row.level() >= check::Level::wrong, line});
     }
-    return rows;
-}
-
-QString countedOnly(const check::Findings& findings, std::size_t kept) {
-    std::size_t all = 0;
-    for (const check::Level level :
-         {check::Level::danger, check::Level::wrong, check::Level::look, check::Level::note})
-        all += findings.count(level);
-    return all > kept ? andMore(all, kept) : QString();
+    return shown;
 }
 
 } // namespace
@@ -189,8 +167,7 @@ SheetContent sheetContent(const Job& job, const Dialect& dialect, const TriedPro
     for (const TriedGroup& group : tried.groups)
         content.order.push_back(orderRow(job.answers, group, content.order.size() + 1));
     content.tools = toolRows(tried);
-    content.findings = findingRows(tried.findings);
-    content.more = countedOnly(tried.findings, content.findings.size());
+    content.findings = sheetFindings(tried.findings);
     return content;
 }
 

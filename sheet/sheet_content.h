@@ -35,7 +35,6 @@ struct SheetContent {
     std::vector<QStringList> order;     // a row for each group, in machining order
     std::vector<QStringList> tools;     // a row for each tool, in the order of the changes
     std::vector<SheetFinding> findings; // the worst first
-    QString more;                       // how many findings are counted but not kept, or nothing
 };
 
 // The program must have been tried to its end. Raises SubscriptOutOfRange where a group of it has

@@ -122,7 +122,7 @@ public:
             text(rowRect(), tr("Nothing dangerous, wrong or worth a look."), Qt::AlignLeft);
         for (std::size_t i = 0; i < all.size(); ++i) {
             const double height = heightOf(all[i].text);
-            const bool isLast = i + 1 == all.size() && content.more.isEmpty();
+            const bool isLast = i + 1 == all.size();
             if (m_y + height + (isLast ? 0 : rowHeight) > listsEnd) {
                 moreLine(andMore(all.size(), i));
                 return;
@@ -133,8 +133,6 @@ public:
             m_y += height;
         }
         m_painter.setPen(ink);
-        if (!content.more.isEmpty())
-            moreLine(content.more);
     }
 
     void sign() {

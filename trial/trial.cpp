@@ -3,6 +3,7 @@
 
 #include "base/byte_sink.h"
 #include "base/error_trap.h"
+#include "base/stopping.h"
 #include "check/plan/plan.h"
 #include "check/sense/sense.h"
 #include "check/targets.h"
@@ -13,7 +14,6 @@
 #include "gcode/program_size.h"
 #include "trial/tried_groups.h"
 
-#include <array>
 #include <cmath>
 
 namespace torvik {
@@ -25,8 +25,7 @@ public:
     StoppableSink(std::string& bytes, const std::stop_token& stop) : m_bytes(bytes), m_stop(stop) {}
 
     void write(std::string_view bytes) override {
-        if (m_stop.stop_requested())
-            throw Cancelled();
+        endIfStopped(m_stop);
         m_bytes += bytes;
     }
 
@@ -34,22 +33,6 @@ private:
     std::string& m_bytes;
     const std::stop_token& m_stop;
 };
-
-// What both the text and the job tell is kept as the job tells it: that names the pen.
-void leaveOutTwins(check::Findings& findings) {
-    using check::Kind;
-    struct Twins {
-        Kind ofJob;
-        Kind ofText;
-    };
-    constexpr std::array twins{
-        Twins{Kind::billetDepth, Kind::tooDeep},   Twins{Kind::billetOutside, Kind::outside},
-        Twins{Kind::billetOutside, Kind::tooWide}, Twins{Kind::feedHigh, Kind::feedOdd},
-        Twins{Kind::feedUnits, Kind::feedOdd},     Twins{Kind::dwellLong, Kind::dwellOdd}};
-    for (const Twins& twin : twins)
-        if (findings.count(twin.ofJob) > 0)
-            findings.forget(twin.ofText);
-}
 
 bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const Dialect& dialect,
                std::int16_t number, Logger& logger, const std::stop_token& stop) {
@@ -62,12 +45,12 @@ bool writeInto(TriedProgram& tried, const Job& job, const ToolList& tools, const
 
 // Without a table of its own a control's programs are not read.
 void readAndCheck(TriedProgram& tried, const Job& job, const ToolList& tools,
-                  const Dialect& dialect) {
+                  const Dialect& dialect, const std::stop_token& stop) {
     const check::Target* const target = check::findTarget(dialect.optionName);
     if (target == nullptr)
         return;
     check::Report report =
-        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, target);
+        check::checkProgramOfJob(tried.program, tried.sideText, job, tools, target, stop);
     tried.findings = std::move(report.findings);
     tried.moves = std::move(report.moves);
     tried.summary = std::move(report.summary);
@@ -86,12 +69,11 @@ TriedProgram tryProgram(const Job& job, const ToolList& tools, const Dialect& di
         const ProgramSize size = programSize(job, tools, dialect);
         tried.lines = size.lines;
         isWhole = size.lines <= mostTriedLines &&
-                  writeInto(tried, job, tools, dialect, number, logger, stop) &&
-                  !stop.stop_requested();
+                  writeInto(tried, job, tools, dialect, number, logger, stop);
         if (isWhole)
-            readAndCheck(tried, job, tools, dialect);
-        check::findSense(job, tools, tried.findings);
-        leaveOutTwins(tried.findings);
+            readAndCheck(tried, job, tools, dialect, stop);
+        endIfStopped(stop);
+        check::addSense(job, tools, tried.findings);
         if (const check::Target* const target = check::findTarget(dialect.optionName))
             tried.pace = check::paceOf(*target);
         tried.groups =

@@ -6,6 +6,7 @@
 #include "check/command/program_files.h"
 #include "check/command/report_text.h"
 #include "check/plan/plan.h"
+#include "check/sense/sense.h"
 #include "commands/drawing_run.h"
 #include "commands/job/job_reader.h"
 #include "commands/program_run.h"
@@ -77,11 +78,18 @@ private:
         return readProgramFile(path);
     }
 
+    Report checked(const ProgramBytes& bytes) {
+        if (!m_job)
+            return checkProgram(bytes.program, bytes.sideText, m_options.target);
+        Report report = checkProgramOfJob(bytes.program, bytes.sideText, *m_job, m_reader.tools(),
+                                          m_options.target);
+        addSense(*m_job, m_reader.tools(), report.findings);
+        return report;
+    }
+
     void check(const fs::path& path) {
         const ProgramBytes bytes = read(path);
-        const Report report = m_job ? checkProgramOfJob(bytes.program, bytes.sideText, *m_job,
-                                                        m_reader.tools(), m_options.target)
-                                    : checkProgram(bytes.program, bytes.sideText, m_options.target);
+        const Report report = checked(bytes);
         m_areGood = m_areGood && report.findings.isGood();
         print(utf8FromPath(path), report);
         m_out.flush();
@@ -119,7 +127,7 @@ private:
 int runChecker(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
     std::string usageError;
     const auto options = parseOptions(std::move(arguments), usageError);
-    return runProgram({programName, out, err}, options, usageError, helpText,
+    return runProgram({programName, out, err}, options, usageError, checkerGuide,
                       [&] { return Checker(*options, out, err).run(); });
 }
 

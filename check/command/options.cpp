@@ -23,19 +23,20 @@ enum OptionCode : int {
 const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
         {"target", optionTarget, "NAME",
-         "the control that the programs are for (default: each\nprogram's beginning tells it): " +
-             targetNames(targets())},
+         "the control that the programs are for (default: each program's beginning tells it): " +
+             targetNames(targets()),
+         targetChoices(targets())},
         {"drawing", optionDrawing, "FILE.plt",
-         "the drawing that the programs are made from: what they\ndo is held against what the job "
+         "the drawing that the programs are made from: what they do is held against what the job "
          "asks for"},
         {"answers", optionAnswers, "FILE.plx",
-         "the answers for the drawing (default: those saved for\nit)"},
+         "the answers for the drawing (default: those saved for it)"},
         {"tools", optionTools, "FILE.ini", "the tool library (default: the workshop's)"},
-        {"quiet", optionQuiet, nullptr, "print what is dangerous or wrong, and nothing else"},
-        {"table", optionTable, nullptr, "print one line for each program"},
-        {"json", optionJson, nullptr, "print everything as JSON, for other programs"},
-        {"help", optionHelp, nullptr, "print this text"},
-        {"version", optionVersion, nullptr, "print the version"},
+        {"quiet", optionQuiet, "", "print what is dangerous or wrong, and nothing else"},
+        {"table", optionTable, "", "print one line for each program"},
+        {"json", optionJson, "", "print everything as JSON, for other programs"},
+        {"help", optionHelp, "", "print this text"},
+        {"version", optionVersion, "", "print the version"},
     };
     return table;
 }
@@ -103,32 +104,41 @@ std::optional<CheckOptions> parseOptions(std::vector<std::string> arguments,
     return parsedOr(usageError, [&] { return parse(std::move(arguments)); });
 }
 
-std::string helpText() {
-    return "Usage: torvik-check FILE... [OPTIONS]\n\n"
-           "Reads programs for milling machines and says what is dangerous or wrong in them.\n"
-           "FILE is a program, or a folder whose programs are all read.\n\n" +
-           optionLines(rows()) +
-           "\nEach finding is one line, FILE:LINE: KIND: SENTENCE. Behind the findings of a\n"
-           "program stands what it cuts, how deep, with which tools and how long, and the\n"
-           "number of findings of each level:\n"
-           "  danger  tool, work or machine can break\n"
-           "  wrong   the machine will not do what was meant, or may refuse the program\n"
-           "  look    may be meant: have a look\n"
-           "  note    good to know\n\n"
-           "Examples:\n"
-           "  torvik-check gear.iso                   one program\n"
-           "  torvik-check --table class-9b           a whole class, one line each\n"
-           "  torvik-check gear.iso && cp gear.iso /media/stick\n"
-           "  torvik-check gear.iso --drawing gear.plt\n"
-           "                                          is it what the drawing and its answers ask "
-           "for?\n\n"
-           "The header of a diskette program is read from the text beside it, FILE.txt.\n"
-           "With a drawing, every group, cut, hole, feed and speed is compared with the job, and\n"
-           "nothing may be missing, doubled or added.\n"
-           "The time is an estimate with acceleration, dwell, tool changes and spindle starts.\n\n"
-           "Exit codes: 0 nothing dangerous or wrong was found; 1 wrong usage; 2 a file cannot be\n"
-           "read, or the drawing and its answers make no job; 5 something dangerous or wrong was "
-           "found.\n";
+ProgramGuide checkerGuide() {
+    return {
+        .name = "torvik-check",
+        .summary = "says what is dangerous or wrong in programs for milling machines",
+        .usages = {"FILE... [OPTIONS]"},
+        .description = "Reads programs for milling machines and says what is dangerous or wrong in "
+                       "them. FILE is a program, or a folder whose programs are all read.",
+        .options = rows(),
+        .notes =
+            {{"DIAGNOSTICS",
+              "Each finding is one line, FILE:LINE: KIND: SENTENCE. Behind the findings of a "
+              "program stands what it cuts, how deep, with which tools and how long, and the "
+              "number of findings of each level:",
+              {{"danger", "tool, work or machine can break"},
+               {"wrong", "the machine will not do what was meant, or may refuse the program"},
+               {"look", "may be meant: have a look"},
+               {"note", "good to know"}}},
+             {"EXAMPLES",
+              "Examples:",
+              {{"torvik-check gear.iso", "one program"},
+               {"torvik-check --table class-9b", "a whole class, one line each"},
+               {"torvik-check gear.iso && cp gear.iso /media/stick", "a copy of what is in order"},
+               {"torvik-check gear.iso --drawing gear.plt",
+                "is it what the drawing and its answers ask for?"}}},
+             {"NOTES", "The header of a diskette program is read from the text beside it, "
+                       "FILE.txt. With a drawing, every group, cut, hole, feed and speed is "
+                       "compared with the job, and nothing may be missing, doubled or added. The "
+                       "time is an estimate with acceleration, dwell, tool changes and spindle "
+                       "starts."}},
+        .exits = {{ExitCode::done, "nothing dangerous or wrong was found"},
+                  {ExitCode::usage, "wrong usage"},
+                  {ExitCode::file,
+                   "a file cannot be read, or the drawing and its answers make no job"},
+                  {ExitCode::findings, "something dangerous or wrong was found"}},
+    };
 }
 
 } // namespace torvik::check

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "check/targets.h"
+#include "commands/program_guide.h"
 
 #include <filesystem>
 #include <optional>
@@ -31,7 +32,7 @@ struct CheckOptions {
 std::optional<CheckOptions> parseOptions(std::vector<std::string> arguments,
                                          std::string& usageError);
 
-// The text of --help.
-std::string helpText();
+// What --help says.
+ProgramGuide checkerGuide();
 
 } // namespace torvik::check

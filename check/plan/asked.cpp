@@ -185,13 +185,14 @@ AskedItem Asked::at(std::size_t number) const {
     item.groupNumber = static_cast<std::size_t>(item.group - m_groups.data());
     const std::size_t place = number - item.group->first;
     const std::size_t count = item.group->elements.size();
-    item.element = &item.group->elements[item.group->isDrilled ? place : place % count];
+    const std::size_t pass = item.group->isDrilled ? 0 : place / count;
+    item.element = &item.group->elements[place - pass * count];
     item.isInFirstPass = place < count;
     item.beginsAtLast = item.isInFirstPass || item.element != &item.group->elements.front()
                             ? item.element->beginsAtLast
                             : item.group->isClosed;
     if (!item.group->isDrilled)
-        item.pass = &item.group->steps[place / count];
+        item.pass = &item.group->steps[pass];
     return item;
 }
 

@@ -62,11 +62,12 @@ void AskedWay::prepare(const PlanGroup& group) {
     const AskedHeights& heights = m_asked.heights();
     const bool isFirst = std::isnan(m_tool) && std::isnan(m_speed);
     if (isFirst || group.tool != m_tool) {
-        if (!isFirst) {
-            if (m_z <= heights.rapidDown)
-                rapidTo(heights.safe);
+        // A program begins at the tool change height without saying so.
+        const double z = isFirst ? heights.toolChange : m_z;
+        if (z <= heights.rapidDown)
+            rapidTo(heights.safe);
+        if (!isFirst || z <= heights.rapidDown || z == heights.safe)
             raise();
-        }
         m_moves.push_back({.kind = MoveKind::tool, .to = {}, .value = group.tool});
         m_tool = group.tool;
     } else if (group.speed != m_speed) {

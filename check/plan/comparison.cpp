@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "check/plan/comparison.h"
 
+#include "base/stopping.h"
+
 #include <algorithm>
 
 namespace torvik::check {
@@ -20,13 +22,12 @@ bool Comparison::agree(std::size_t asked, std::size_t done, std::size_t count) c
     return true;
 }
 
-void Comparison::run() {
+void Comparison::run(const std::stop_token& stop) {
     while (hasAsked() || hasDone()) {
+        endIfStopped(stop);
         if (m_isInGap && m_i == m_gapEnd)
             returnFromGap();
-        else if (fitsAt(m_i, m_j))
-            compare();
-        else
+        else if (!compareNext())
             meetAgain();
     }
     endAdded();
@@ -51,8 +52,18 @@ void Comparison::meetAgain() {
     takeForOther(isAlike);
 }
 
-void Comparison::compare() {
+// False where the next two items are not the same.
+bool Comparison::compareNext() {
+    if (!hasAsked() || !hasDone())
+        return false;
     const AskedItem item = m_asked.at(m_i);
+    if (!fits(item, m_done.first(m_j)))
+        return false;
+    compare(item);
+    return true;
+}
+
+void Comparison::compare(const AskedItem& item) {
     compareWay(item);
     if (item.group->isDrilled)
         compareHole(item);
@@ -72,6 +83,13 @@ std::uint32_t Comparison::lineAt(std::size_t place) const {
     return place < way.size() ? way[place]->line : m_done.lineOf(m_j);
 }
 
+// From another height that has been told the way goes on as from the one asked for. Where it is the
+// safe height itself the tool need not go up.
+double Comparison::heightBefore() const {
+    const double before = m_done.heightBefore(m_j);
+    return before == m_otherZ && before != m_asked.heights().safe ? m_askedZ : before;
+}
+
 void Comparison::compareWay(const AskedItem& item) {
     const Move& first = m_done.first(m_j);
     const MoveSpan done = m_done.wayTo(m_j);
@@ -81,8 +99,7 @@ void Comparison::compareWay(const AskedItem& item) {
         m_otherZ = unknown;
         return;
     }
-    const double before = m_done.heightBefore(m_j);
-    m_way.begin(before == m_otherZ ? m_askedZ : before, m_tool, m_speed);
+    m_way.begin(heightBefore(), m_tool, m_speed);
     for (std::size_t group = m_nextGroup; group <= item.groupNumber; ++group)
         m_way.prepare(m_asked.groups()[group]);
     m_way.goTo(item);
@@ -138,8 +155,7 @@ void Comparison::compareHole(const AskedItem& item) {
 }
 
 void Comparison::compareEnd() {
-    const double before = m_done.heightBefore(m_j);
-    m_way.begin(before == m_otherZ ? m_askedZ : before, m_tool, m_speed);
+    m_way.begin(heightBefore(), m_tool, m_speed);
     for (std::size_t group = m_nextGroup; group < m_asked.groups().size(); ++group)
         m_way.prepare(m_asked.groups()[group]);
     m_way.finish();

@@ -6,6 +6,8 @@
 #include "check/plan/asked_index.h"
 #include "check/plan/plan_findings.h"
 
+#include <stop_token>
+
 namespace torvik::check {
 
 class Comparison {
@@ -14,7 +16,8 @@ public:
         : m_asked(asked), m_done(done), m_index(asked), m_way(asked, target),
           m_findings(asked, done, findings) {}
 
-    void run();
+    // Raises Cancelled where `stop` asks for it.
+    void run(const std::stop_token& stop);
 
 private:
     // Items of the job that have been passed over, from `first` to before `end`.
@@ -39,8 +42,10 @@ private:
     void returnFromGap();
     void endAdded();
 
-    void compare();
+    bool compareNext();
+    void compare(const AskedItem& item);
     std::uint32_t lineAt(std::size_t place) const;
+    double heightBefore() const;
     void compareWay(const AskedItem& item);
     void compareHeight(const AskedItem& item, const Difference& way);
     void compareCut(const AskedItem& item);

@@ -29,6 +29,7 @@ bool leavesHole(const Move& move) {
 
 Done::Done(const Moves& moves) {
     m_moves.reserve(moves.size());
+    m_items.reserve(moves.size());
     for (const Move& move : moves) {
         if (!matters(move))
             continue;

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <span>
-#include <vector>
 
 namespace torvik::check {
 
@@ -41,8 +40,8 @@ private:
     void keepHoleBeforeCut(std::uint32_t cut);
     void keep(std::uint32_t work, std::uint32_t end);
 
-    std::vector<const Move*> m_moves;
-    std::vector<DoneItem> m_items;
+    LongVector<const Move*> m_moves;
+    LongVector<DoneItem> m_items;
     std::uint32_t m_down = none; // the first way down behind the last item
 };
 

@@ -127,7 +127,7 @@ void Comparison::takeForOther(bool isAlike) {
     m_isOther = !isAlike && !item.group->isDrilled;
     if (m_isOther)
         m_findings.otherCut(item, m_done.first(m_j));
-    compare();
+    compare(m_asked.at(m_i));
 }
 
 } // namespace torvik::check

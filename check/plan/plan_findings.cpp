@@ -36,6 +36,12 @@ bool holds(const Difference& difference, MoveKind kind) {
                        [&](const Move* move) { return move->kind == kind; });
 }
 
+// Such a move is left, and not with one number in both.
+bool isOtherValue(const Difference& difference, MoveKind kind) {
+    return holds(difference, kind) &&
+           !isSameNumber(askedValue(difference, kind), doneValue(difference, kind));
+}
+
 // One move of the kind stands where one is asked for.
 bool isOneOther(const Difference& difference, MoveKind kind) {
     return difference.asked.size() == 1 && difference.done.size() == 1 &&
@@ -141,13 +147,13 @@ void PlanFindings::otherSweep(const AskedItem& item, const Move& arc) {
 bool PlanFindings::otherTool(const PlanGroup* group, const Difference& difference,
                              std::uint32_t line) {
     const std::string name = group == nullptr ? "the end" : nameOf(*group);
-    if (holds(difference, MoveKind::tool)) {
+    if (isOtherValue(difference, MoveKind::tool)) {
         add(Kind::toolDiffers, line,
             {name, toolText(askedValue(difference, MoveKind::tool)),
              toolText(doneValue(difference, MoveKind::tool))});
         return true;
     }
-    if (!holds(difference, MoveKind::spindleOn))
+    if (!isOtherValue(difference, MoveKind::spindleOn))
         return false;
     add(Kind::speedDiffers, line,
         {name, numberText(askedValue(difference, MoveKind::spindleOn), 0),

@@ -81,17 +81,4 @@ std::vector<Point> cornersOf(const Drawing& drawing, const Chain& chain) {
     return corners;
 }
 
-bool isInside(std::span<const Point> corners, Point point) {
-    bool inside = false;
-    Point before = corners.back();
-    for (const Point& corner : corners) {
-        if ((corner.y > point.y) != (before.y > point.y) &&
-            point.x <
-                (before.x - corner.x) * (point.y - corner.y) / (before.y - corner.y) + corner.x)
-            inside = !inside;
-        before = corner;
-    }
-    return inside;
-}
-
 } // namespace torvik::check

@@ -25,7 +25,4 @@ std::vector<Chain> chainsOf(const Drawing& drawing, std::span<const std::int16_t
 // The corners of a closed chain. Arcs become chords that lie within 0.4 % of their radius.
 std::vector<Point> cornersOf(const Drawing& drawing, const Chain& chain);
 
-// Whether the point lies inside the corners' polygon.
-bool isInside(std::span<const Point> corners, Point point);
-
 } // namespace torvik::check

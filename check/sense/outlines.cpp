@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/sense/outlines.h"
 
+#include "base/inside_polygon.h"
 #include "check/sense/chains.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ private:
         Outline& outline = m_outlines[entry.number];
         if (outline.corners.empty())
             outline.corners = cornersOf(m_drawing, outline.chain);
-        return isInside(outline.corners, chain.start);
+        return isInsidePolygon(outline.corners, chain.start);
     }
 
     std::pair<std::size_t, std::size_t> cellOf(double x, double y) const {

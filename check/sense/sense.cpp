@@ -6,6 +6,8 @@
 #include "check/sense/group_sense.h"
 #include "check/sense/outlines.h"
 
+#include <array>
+
 namespace torvik::check {
 namespace {
 
@@ -14,7 +16,27 @@ Billet billetOfHeader(const Answers& answers) {
                     answers.gstrHeader[headerBilletZ]);
 }
 
+// What both the text and the job tell is kept as the job tells it: that names the pen.
+void leaveOutTwins(Findings& findings) {
+    struct Twins {
+        Kind ofJob;
+        Kind ofText;
+    };
+    constexpr std::array twins{
+        Twins{Kind::billetDepth, Kind::tooDeep},   Twins{Kind::billetOutside, Kind::outside},
+        Twins{Kind::billetOutside, Kind::tooWide}, Twins{Kind::feedHigh, Kind::feedOdd},
+        Twins{Kind::feedUnits, Kind::feedOdd},     Twins{Kind::dwellLong, Kind::dwellOdd}};
+    for (const Twins& twin : twins)
+        if (findings.count(twin.ofJob) > 0)
+            findings.forget(twin.ofText);
+}
+
 } // namespace
+
+void addSense(const Job& job, const ToolList& tools, Findings& findings) {
+    findSense(job, tools, findings);
+    leaveOutTwins(findings);
+}
 
 void findSense(const Job& job, const ToolList& tools, Findings& findings) {
     const Answers& answers = job.answers;

@@ -21,6 +21,9 @@ namespace torvik::check {
 // Everything, in the order in which the pens are machined.
 void findSense(const Job& job, const ToolList& tools, Findings& findings);
 
+// The same beside what was found in the job's program: each fault stays once.
+void addSense(const Job& job, const ToolList& tools, Findings& findings);
+
 // What concerns one group alone, with these settings in place of those that the job holds.
 void findSense(const Job& job, const ToolList& tools, const MachinedGroup& group,
                const Settings& settings, Findings& findings);

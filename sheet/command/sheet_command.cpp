@@ -11,6 +11,7 @@
 #include "sheet/job_sheet.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <ostream>
 
@@ -44,12 +45,13 @@ const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
         {"sheet", optionSheet, "OUT.pdf", "the job sheet that is made, one A4 page"},
         {"target", optionTarget, "NAME",
-         "the control that the program is for: " + targetNames(dialects())},
+         "the control that the program is for: " + targetNames(dialects()),
+         targetChoices(dialects())},
         {"answers", optionAnswers, "FILE.plx",
-         "the answers for the drawing (default: those saved for\nit)"},
+         "the answers for the drawing (default: those saved for it)"},
         {"tools", optionTools, "FILE.ini", "the tool library (default: the workshop's)"},
-        {"help", optionHelp, nullptr, "print this text"},
-        {"version", optionVersion, nullptr, "print the version"},
+        {"help", optionHelp, "", "print this text"},
+        {"version", optionVersion, "", "print the version"},
     };
     return table;
 }
@@ -100,18 +102,6 @@ SheetOptions parse(std::vector<std::string> arguments) {
     return options;
 }
 
-std::string helpText() {
-    return "Usage: torvik [DRAWING.plt]\n"
-           "       torvik --sheet OUT.pdf DRAWING.plt [OPTIONS]\n\n"
-           "Opens the window, or makes the job sheet of a drawing with the answers saved for "
-           "it.\n\n" +
-           optionLines(rows()) +
-           "\nA PDF file of that name is replaced, any other file is not.\n"
-           "Exit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the answers "
-           "do\n"
-           "not belong to the drawing; 4 the job cannot be written as it is.\n";
-}
-
 // Another sheet may be replaced, and nothing else.
 bool isPdf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
@@ -139,9 +129,29 @@ void makeSheet(const SheetOptions& options, JobReader& reader) {
 
 } // namespace
 
+ProgramGuide desktopGuide() {
+    return {
+        .name = std::string(programName),
+        .summary = "turns pen-plotter drawings into programs for milling machines",
+        .usages = {"[DRAWING.plt]", "--sheet OUT.pdf DRAWING.plt [OPTIONS]"},
+        .description = "Opens the window, or makes the job sheet of a drawing with the answers "
+                       "saved for it. A window that is open already takes the drawing over.",
+        .options = rows(),
+        .notes = {{"NOTES", "A PDF file of the sheet's name is replaced, any other file is not."}},
+        .exits = {{ExitCode::done, "done"},
+                  {ExitCode::usage, "wrong usage"},
+                  {ExitCode::file, "a file cannot be read or written"},
+                  {ExitCode::digest, "the answers do not belong to the drawing"},
+                  {ExitCode::job, "the job cannot be written as it is"}},
+        .kinds = {"plt"},
+    };
+}
+
 bool isSheetCommand(const std::vector<std::string>& arguments) {
     return std::any_of(arguments.begin() + 1, arguments.end(), [](const std::string& argument) {
-        return argument == "--help" || argument == "--version" || argument == "--sheet" ||
+        static constexpr std::array<std::string_view, 5> words{"-h", "--help", "-v", "--version",
+                                                               "--sheet"};
+        return std::find(words.begin(), words.end(), argument) != words.end() ||
                argument.starts_with("--sheet=");
     });
 }
@@ -152,7 +162,7 @@ int runSheetCommand(std::vector<std::string> arguments, std::ostream& out, std::
     const auto say = [&err](std::string_view message) {
         err << programName << ": " << message << '\n';
     };
-    return runProgram({programName, out, err}, options, usageError, helpText, [&] {
+    return runProgram({programName, out, err}, options, usageError, desktopGuide, [&] {
         JobReader reader(programName, options->sources, say);
         return runEach(
             {options->drawing},

@@ -4,7 +4,9 @@
 #include "base/files.h"
 #include "base/whole_file.h"
 #include "forms/file_choice.h"
+#include "forms/taking_out.h"
 #include "gcode/dialects.h"
+#include "languages/shown_text.h"
 #include "wizard/host/workshop.h"
 
 #include <QFileDialog>
@@ -104,6 +106,8 @@ bool JobSheetDialog::save() {
         say(tr("The job sheet was not saved:\n%1").arg(QString::fromUtf8(error.what())));
         return false;
     }
+    if (const QString takingOut = takingOutText({file}); !takingOut.isEmpty())
+        say(takingOut);
     return true;
 }
 
@@ -130,7 +134,7 @@ void showJobSheet(Workshop& workshop, std::int16_t target, QWidget& window) {
         return;
     }
     workshop.messages.intStdMsgBox(JobSheetDialog::tr("There is no job sheet: %1.")
-                                       .arg(QString::fromStdString(sheet.failure()))
+                                       .arg(shownText(sheet.failure()))
                                        .toStdString(),
                                    styleExclamation, usualTitle);
 }
