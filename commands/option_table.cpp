@@ -9,13 +9,11 @@
 namespace torvik {
 namespace {
 
-constexpr int firstWithoutLetter = 256;
-
 std::vector<option> longOptions(std::span<const OptionRow> rows) {
     std::vector<option> table;
     for (const OptionRow& row : rows)
-        table.push_back(
-            {row.name, row.value == nullptr ? no_argument : required_argument, nullptr, row.code});
+        table.push_back({row.name.c_str(), row.value.empty() ? no_argument : required_argument,
+                         nullptr, row.code});
     table.push_back({});
     return table;
 }
@@ -23,8 +21,8 @@ std::vector<option> longOptions(std::span<const OptionRow> rows) {
 std::string letters(std::span<const OptionRow> rows) {
     std::string text = ":";
     for (const OptionRow& row : rows)
-        if (row.code < firstWithoutLetter)
-            text += static_cast<char>(row.code);
+        if (row.letter() != '\0')
+            text += row.letter();
     return text;
 }
 
@@ -67,24 +65,6 @@ std::vector<std::string> readArguments(std::vector<std::string> arguments,
             return {};
     }
     return {words.begin() + optind, words.end() - 1};
-}
-
-std::string optionLines(std::span<const OptionRow> rows) {
-    constexpr std::size_t column = 24;
-    std::string text;
-    for (const OptionRow& row : rows) {
-        std::string line = std::string("  --") + row.name;
-        if (row.value != nullptr)
-            line.append(" ").append(row.value);
-        line.append(line.size() < column ? column - line.size() : 1, ' ');
-        for (const char c : row.help) {
-            line += c;
-            if (c == '\n')
-                line.append(column, ' ');
-        }
-        text += line + "\n";
-    }
-    return text;
 }
 
 std::filesystem::path namedPath(const std::string& name, const char* what) {

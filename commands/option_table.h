@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The options of a console program as one table, which reads the command line and prints the help.
+// The options of a console program as one table, which reads the command line and from which the
+// help, the manual page and the shell's completion are made.
 #pragma once
 
 #include "base/errors.h"
@@ -14,10 +15,14 @@
 namespace torvik {
 
 struct OptionRow {
-    const char* name;
+    std::string name;
     int code;          // its short letter, or 256 and above where it has none
-    const char* value; // what stands for its value in the help, nullptr where it has none
-    std::string help;  // lines at "\n"
+    std::string value; // what stands for its value in the help, empty where it has none
+    std::string help;
+    std::vector<std::string> choices = {}; // all its values, where they can be counted
+
+    // The short letter, '\0' where it has none.
+    char letter() const { return code < 256 ? static_cast<char>(code) : '\0'; }
 };
 
 // Raised for a command line that is wrong; the text says why.
@@ -43,9 +48,6 @@ auto parsedOr(std::string& usageError, Parse parse) -> std::optional<decltype(pa
         return {};
     }
 }
-
-// The table as the help shows it.
-std::string optionLines(std::span<const OptionRow> rows);
 
 // The path of a name (UTF-8) on the command line. An empty name is what an unset variable of a
 // script leaves, nothing that was meant: raises UsageError, which calls it `what`.

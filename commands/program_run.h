@@ -3,6 +3,8 @@
 // the same in all of them.
 #pragma once
 
+#include "commands/program_guide.h"
+
 #include <cstdint>
 #include <functional>
 #include <iosfwd>
@@ -22,19 +24,19 @@ enum class Told : std::uint8_t { wrongly, help, version, work };
 
 // Does what the program was told; what it says last must reach the standard output.
 int runAsTold(const Console& console, Told told, std::string_view usageError,
-              const std::function<std::string()>& helpText, const std::function<int()>& work);
+              const std::function<ProgramGuide()>& guide, const std::function<int()>& work);
 
 // The same for options that have an Action; there are none where the usage was wrong.
 template <typename Options>
 int runProgram(const Console& console, const std::optional<Options>& options,
-               std::string_view usageError, const std::function<std::string()>& helpText,
+               std::string_view usageError, const std::function<ProgramGuide()>& guide,
                const std::function<int()>& work) {
     Told told = options ? Told::work : Told::wrongly;
     if (options && options->action == Options::Action::help)
         told = Told::help;
     if (options && options->action == Options::Action::version)
         told = Told::version;
-    return runAsTold(console, told, usageError, helpText, work);
+    return runAsTold(console, told, usageError, guide, work);
 }
 
 } // namespace torvik

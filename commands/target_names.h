@@ -6,8 +6,19 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace torvik {
+
+// What the option may say.
+template <typename Row>
+std::vector<std::string> targetChoices(std::span<const Row> rows) {
+    std::vector<std::string> names;
+    names.reserve(rows.size());
+    for (const Row& row : rows)
+        names.emplace_back(row.optionName);
+    return names;
+}
 
 // "wincam, winnc".
 template <typename Row>
