@@ -3,8 +3,10 @@
 
 #include "base/files.h"
 #include "base/text.h"
+#include "base/whole_file.h"
 #include "check/finding_lines.h"
 #include "check/plan/plan.h"
+#include "check/sense/sense.h"
 #include "commands/drawing_run.h"
 #include "commands/job/job_reader.h"
 #include "commands/program_run.h"
@@ -18,6 +20,8 @@
 #include "job/job.h"
 #include "tools/settings_file_reader.h"
 
+#include <functional>
+#include <memory>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -26,7 +30,31 @@ namespace torvik {
 namespace {
 
 constexpr std::string_view programName = "torvik-convert";
-constexpr std::int64_t mostCheckedLines = 1'000'000; // a check keeps some 300 bytes a line
+constexpr std::int64_t mostCheckedLines = 1'000'000; // a check keeps some 150 bytes a line
+
+// Reads the program as it is written; the rest is for the one who made it.
+class CheckOfJob final : public ProgramCheck {
+public:
+    using Judge = std::function<void(const check::Report& report)>;
+
+    CheckOfJob(const check::Target& target, std::int64_t lines, const Job& job,
+               const ToolList& tools, Judge judge)
+        : m_check(target, static_cast<std::size_t>(lines)), m_job(job), m_tools(tools),
+          m_judge(std::move(judge)) {}
+
+    void write(std::string_view bytes) override { m_check.write(bytes); }
+    void judge(std::string_view sideText) override {
+        check::Report report = m_check.finish(sideText, check::planOf(m_job, m_tools));
+        check::addSense(m_job, m_tools, report.findings);
+        m_judge(report);
+    }
+
+private:
+    check::RunningCheck m_check;
+    const Job& m_job;
+    const ToolList& m_tools;
+    Judge m_judge;
+};
 
 class Converter {
 public:
@@ -73,8 +101,10 @@ private:
         if (m_options.outputFolder)
             makeFolder(*m_options.outputFolder);
         if (!writeProgramFiles(job, tools, *m_options.dialect, m_options.outputNumber(i), output,
-                               overwriting(), m_reader.logger(), checkFor(job, output, size)))
+                               overwriting(), m_reader.logger(), checkFor(job, output, size).get()))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + m_reader.takeLastReport()};
+        if (m_options.sync)
+            makeProgramDurable(output);
         for (std::string& warning : commentWarnings(job, tools, *m_options.dialect))
             m_reader.report(std::move(warning));
         if (m_options.quiet)
@@ -82,6 +112,12 @@ private:
         if (size.isLong())
             m_reader.report(longText(size));
         m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
+    }
+
+    void makeProgramDurable(const std::filesystem::path& output) const {
+        makeDurable(output);
+        if (m_options.dialect->needsNumber())
+            makeDurable(sideTextPath(output));
     }
 
     // A file that no control can take is not begun.
@@ -93,29 +129,33 @@ private:
     }
 
     // Says what is dangerous or wrong in the program before it takes its name.
-    ProgramCheck checkFor(const Job& job, const std::filesystem::path& output,
-                          const ProgramSize& size) {
+    std::unique_ptr<ProgramCheck> checkFor(const Job& job, const std::filesystem::path& output,
+                                           const ProgramSize& size) {
         if (size.lines > mostCheckedLines) {
             const std::string tooLong = "the program is too long to be checked";
             if (m_options.strict)
                 throw Failure{ExitCode::findings,
                               utf8FromPath(output) + ": " + tooLong + ", so it is not written"};
-            m_reader.report(tooLong);
+            m_reader.report(tooLong + "; what can be seen of its answers is said");
+            check::Findings findings;
+            check::findSense(job, m_reader.tools(), findings);
+            m_err << check::findingLines(utf8FromPath(output), findings, true);
             return {};
         }
         const check::Target* const target = check::findTarget(m_options.dialect->optionName);
-        if (target == nullptr)
-            return {}; // a control that the check does not know yet
-        return [this, &job, output, target](std::string_view program, std::string_view sideText) {
-            const check::Report report =
-                check::checkProgramOfJob(program, sideText, job, m_reader.tools(), target);
-            const std::string file = utf8FromPath(output);
-            m_err << check::findingLines(file, report.findings, true);
-            if (m_options.strict && !report.findings.isGood())
-                throw Failure{ExitCode::findings,
-                              file + ": the program is not written, something dangerous or wrong "
-                                     "is in it"};
-        };
+        if (target == nullptr) {
+            m_reader.report("the check does not know this control, so the program is not checked");
+            return {};
+        }
+        return std::make_unique<CheckOfJob>(
+            *target, size.lines, job, m_reader.tools(),
+            [this, file = utf8FromPath(output)](const check::Report& report) {
+                m_err << check::findingLines(file, report.findings, true);
+                if (m_options.strict && !report.findings.isGood())
+                    throw Failure{ExitCode::findings,
+                                  file + ": the program is not written, something dangerous or "
+                                         "wrong is in it"};
+            });
     }
 
     Overwriting overwriting() const {
@@ -149,7 +189,7 @@ private:
 int runConverter(std::vector<std::string> arguments, std::ostream& out, std::ostream& err) {
     std::string usageError;
     const auto options = parseOptions(std::move(arguments), usageError);
-    return runProgram({programName, out, err}, options, usageError, helpText,
+    return runProgram({programName, out, err}, options, usageError, converterGuide,
                       [&] { return Converter(*options, out, err).run(); });
 }
 

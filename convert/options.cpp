@@ -25,6 +25,7 @@ enum OptionCode : int {
     optionForce,
     optionQuiet,
     optionStrict,
+    optionSync,
     optionShow,
     optionHelp = 'h',
     optionVersion = 'v',
@@ -32,25 +33,29 @@ enum OptionCode : int {
 
 const std::vector<OptionRow>& rows() {
     static const std::vector<OptionRow> table{
-        {"target", optionTarget, "NAME", "the control to write for: " + targetNames(dialects())},
+        {"target", optionTarget, "NAME", "the control to write for: " + targetNames(dialects()),
+         targetChoices(dialects())},
         {"answers", optionAnswers, "FILE.plx",
-         "the answers to use (default: those saved for the\ndrawing)"},
+         "the answers to use (default: those saved for the drawing)"},
         {"tools", optionTools, "FILE.ini", "the tool library to use (default: the workshop's)"},
         {"number", optionNumber, "N",
-         "the program number of the controls that need one,\n1 to 32767; with several drawings it "
+         "the program number of the controls that need one, 1 to 32767; with several drawings it "
          "counts up"},
         {"output", optionOutput, "FILE",
-         "the file to write, for one drawing (default: beside\nthe drawing); overwritten if it "
+         "the file to write, for one drawing (default: beside the drawing); overwritten if it "
          "exists"},
         {"output-dir", optionOutputFolder, "DIR", "the folder to write to"},
         {"date", optionDate, "TEXT", "the date of the header where the answers have none"},
-        {"force", optionForce, nullptr, "overwrite files that exist"},
-        {"quiet", optionQuiet, nullptr, "say nothing but what went wrong"},
-        {"strict", optionStrict, nullptr,
-         "leave no program in which something dangerous or wrong\nis found"},
-        {"show", optionShow, nullptr, "print what the drawings hold instead of converting"},
-        {"help", optionHelp, nullptr, "print this text"},
-        {"version", optionVersion, nullptr, "print the version"},
+        {"force", optionForce, "", "overwrite files that exist"},
+        {"quiet", optionQuiet, "", "say nothing but what went wrong"},
+        {"strict", optionStrict, "",
+         "leave no program in which something dangerous or wrong is found"},
+        {"sync", optionSync, "",
+         "end only when the programs and their names are safe on the disk, as for a stick that is "
+         "taken out"},
+        {"show", optionShow, "", "print what the drawings hold instead of converting"},
+        {"help", optionHelp, "", "print this text"},
+        {"version", optionVersion, "", "print the version"},
     };
     return table;
 }
@@ -87,6 +92,9 @@ void take(ConvertOptions& options, std::string& target, std::string& number, int
         break;
     case optionStrict:
         options.strict = true;
+        break;
+    case optionSync:
+        options.sync = true;
         break;
     case optionShow:
         options.action = ConvertOptions::Action::show;
@@ -190,17 +198,26 @@ std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
     return parsedOr(usageError, [&] { return parse(std::move(arguments)); });
 }
 
-std::string helpText() {
-    return "Usage: torvik-convert DRAWING.plt... --target NAME [OPTIONS]\n"
-           "       torvik-convert --show DRAWING.plt...\n\n"
-           "Converts pen-plotter drawings (HPGL) to programs for milling machines, with the\n"
-           "answers saved for each drawing and the workshop's tools.\n\n" +
-           optionLines(rows()) +
-           "\nExit codes: 0 done; 1 wrong usage; 2 a file cannot be read or written; 3 the\n"
-           "answers do not belong to the drawing; 4 the job cannot be written as it is; 5 with\n"
-           "--strict, something dangerous or wrong was found in the program.\n\n"
-           "Each program is checked as by torvik-check; what is dangerous or wrong is printed on\n"
-           "the standard error as FILE:LINE: KIND: SENTENCE.\n";
+ProgramGuide converterGuide() {
+    return {
+        .name = "torvik-convert",
+        .summary = "converts pen-plotter drawings to programs for milling machines",
+        .usages = {"DRAWING.plt... --target NAME [OPTIONS]", "--show DRAWING.plt..."},
+        .description = "Converts pen-plotter drawings (HPGL) to programs for milling machines, "
+                       "with the answers saved for each drawing and the workshop's tools.",
+        .options = rows(),
+        .notes = {{"DIAGNOSTICS",
+                   "Each program is checked as by torvik-check; what is dangerous or wrong is "
+                   "printed on the standard error as FILE:LINE: KIND: SENTENCE."}},
+        .exits = {{ExitCode::done, "done"},
+                  {ExitCode::usage, "wrong usage"},
+                  {ExitCode::file, "a file cannot be read or written"},
+                  {ExitCode::digest, "the answers do not belong to the drawing"},
+                  {ExitCode::job, "the job cannot be written as it is"},
+                  {ExitCode::findings,
+                   "with --strict, something dangerous or wrong was found in the program"}},
+        .kinds = {"plt"},
+    };
 }
 
 } // namespace torvik

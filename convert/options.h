@@ -2,6 +2,7 @@
 // The command line of torvik-convert.
 #pragma once
 
+#include "commands/program_guide.h"
 #include "gcode/dialects.h"
 
 #include <cstdint>
@@ -27,6 +28,7 @@ struct ConvertOptions {
     bool force = false;
     bool quiet = false;
     bool strict = false;
+    bool sync = false;
 
     // Where the program of drawing i goes (from 0).
     std::filesystem::path outputPath(std::size_t i) const;
@@ -39,7 +41,7 @@ struct ConvertOptions {
 std::optional<ConvertOptions> parseOptions(std::vector<std::string> arguments,
                                            std::string& usageError);
 
-// The text of --help.
-std::string helpText();
+// What --help says.
+ProgramGuide converterGuide();
 
 } // namespace torvik

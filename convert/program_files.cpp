@@ -11,20 +11,19 @@
 namespace torvik {
 namespace {
 
-// Passes the bytes on and keeps them.
-class KeepingSink final : public ByteSink {
+// Passes the bytes on to both.
+class BothSinks final : public ByteSink {
 public:
-    explicit KeepingSink(ByteSink& sink) : m_sink(sink) {}
+    BothSinks(ByteSink& first, ByteSink& second) : m_first(first), m_second(second) {}
 
     void write(std::string_view bytes) override {
-        m_sink.write(bytes);
-        m_kept.write(bytes);
+        m_first.write(bytes);
+        m_second.write(bytes);
     }
-    std::string_view bytes() const { return m_kept.bytes(); }
 
 private:
-    ByteSink& m_sink;
-    StringSink m_kept;
+    ByteSink& m_first;
+    ByteSink& m_second;
 };
 
 std::string sideTextOf(const Job& job, const ToolList& tools, const Dialect& dialect,
@@ -40,7 +39,7 @@ std::string sideTextOf(const Job& job, const ToolList& tools, const Dialect& dia
 
 bool writeProgramFiles(const Job& job, const ToolList& tools, const Dialect& dialect,
                        std::int16_t number, const std::filesystem::path& program,
-                       Overwriting overwriting, Logger& logger, const ProgramCheck& check) {
+                       Overwriting overwriting, Logger& logger, ProgramCheck* check) {
     requireFree(program, overwriting != Overwriting::nothing);
     if (dialect.needsNumber()) {
         // The text of a program goes with it. Without its program it may be anything.
@@ -50,12 +49,19 @@ bool writeProgramFiles(const Job& job, const ToolList& tools, const Dialect& dia
         requireFree(sideTextPath(program), overwriting == Overwriting::everything || isOfProgram);
     }
     WholeFile pending(program);
-    KeepingSink kept(pending);
-    ByteSink& sink = check ? static_cast<ByteSink&>(kept) : pending;
-    const bool whole = writeProgram(job, tools, dialect, number, sink, logger);
+    const auto writeInto = [&](ByteSink& sink) {
+        return writeProgram(job, tools, dialect, number, sink, logger);
+    };
+    bool whole = false;
+    if (check == nullptr) {
+        whole = writeInto(pending);
+    } else {
+        BothSinks both(pending, *check);
+        whole = writeInto(both);
+    }
     pending.close();
-    if (whole && check)
-        check(kept.bytes(), sideTextOf(job, tools, dialect, program));
+    if (whole && check != nullptr)
+        check->judge(sideTextOf(job, tools, dialect, program));
     return whole && storeProgram(job, tools, dialect, program, pending, logger);
 }
 

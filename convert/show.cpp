@@ -45,9 +45,7 @@ std::string range(double low, double high) {
 }
 
 std::string extentsText(const Job& job) {
-    Extents extents = noExtents();
-    for (const Path& path : job.drawing.gudtPaths)
-        includePath(extents, path);
+    const Extents extents = extentsOf(job.drawing);
     if (extents.empty())
         return "Extents: none\n";
     return "Extents: X " + range(extents.minX, extents.maxX) + ", Y " +
