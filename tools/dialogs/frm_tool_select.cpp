@@ -17,6 +17,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace torvik {
 namespace {
 
@@ -113,7 +115,11 @@ std::int16_t FrmToolSelect::chosenPosition() const {
 }
 
 void FrmToolSelect::layOut() {
-    m_grid->fitSize();
+    std::array<int, shownColumns> widths{};
+    std::ranges::transform(m_sort, widths.begin(), [](const SortButton* button) {
+        return button->minimumSizeHint().width();
+    });
+    m_grid->fitSize(widths);
     for (SortButton* const button : m_sort)
         button->cover();
 }

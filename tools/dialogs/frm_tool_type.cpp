@@ -84,6 +84,8 @@ QListWidget* FrmToolType::makeList(const char* name, const QString& caption, QHB
     list->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
     auto* const label = new QLabel(caption);
     label->setBuddy(list);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignBottom);
     auto* const column = new QVBoxLayout;
     column->setSpacing(dialogMargin / 3);
     column->addWidget(label);

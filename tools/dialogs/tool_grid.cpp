@@ -4,6 +4,7 @@
 #include "base/error_trap.h"
 #include "base/numbers.h"
 #include "base/picture.h"
+#include "forms/target_size.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -11,11 +12,15 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace torvik {
 namespace {
 
 constexpr std::string_view module = "modHpgl";
 constexpr int borders = 6;        // pixels, of both sides together
+constexpr int typeMargins = 8;    // pixels, of both sides together
+constexpr int longestType = 30;   // letters
 constexpr int scrollBarRoom = 16; // pixels
 
 // The library's own comparison of texts follows the locale and not their case.
@@ -73,19 +78,27 @@ ToolGrid::ToolGrid(QWidget* parent) : QTableWidget(shownRows, shownColumns + 1, 
     setColumnHidden(columnPlace, true);
     for (int column = 0; column <= shownColumns; ++column) {
         auto* const cell = new QTableWidgetItem;
-        if (column < shownColumns)
-            cell->setData(
-                Qt::AccessibleTextRole,
-                QString::fromUtf8(headerTexts[static_cast<std::size_t>(column)]).trimmed());
+        cell->setData(
+            Qt::AccessibleTextRole,
+            column < shownColumns
+                ? QString::fromUtf8(headerTexts[static_cast<std::size_t>(column)]).trimmed()
+                : tr("Place in the list"));
         setHorizontalHeaderItem(column, cell);
     }
     clearTools();
+}
+
+QString ToolGrid::noToolsText() {
+    return tr(
+        "There are no tools yet. Press Add and enter the tools of your workshop, each with its "
+        "number and the diameter that you measure.");
 }
 
 void ToolGrid::clearTools() {
     clearContents();
     setRowCount(shownRows);
     gintToolRows = 0;
+    setAccessibleDescription(noToolsText());
     for (int column = 0; column <= shownColumns; ++column)
         setSortText(column, {});
     selectPlace(0);
@@ -103,6 +116,7 @@ int ToolGrid::appendTool(const QString& number, const Tool& tool, std::int16_t p
     setTool(row, number, tool);
     item(row, columnPlace)->setText(QString::number(place));
     ++gintToolRows;
+    setAccessibleDescription({});
     return row;
 }
 
@@ -145,20 +159,41 @@ void ToolGrid::setSortText(int column, const QString& text) {
     horizontalHeaderItem(column)->setText(text);
 }
 
-void ToolGrid::fitSize() {
+// Of the types in the list; a very long one is cut short.
+int ToolGrid::widestType() const {
+    int widest = 0;
+    for (int row = 0; row < gintToolRows; ++row)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(item(row, columnType)->text()));
+    return std::min(widest + typeMargins, longestType * fontMetrics().averageCharWidth());
+}
+
+void ToolGrid::fitSize(const std::array<int, shownColumns>& leastWidths) {
     const int line = fontMetrics().height();
-    verticalHeader()->setDefaultSectionSize(line + 8);
+    constexpr int gridLine = 1;
+    verticalHeader()->setDefaultSectionSize(std::max(line + 8, leastTarget + gridLine));
     horizontalHeader()->setFixedHeight(line + 12);
     int width = borders;
     for (int column = 0; column < shownColumns; ++column) {
         const char* const text = headerTexts[static_cast<std::size_t>(column)];
-        setColumnWidth(column, fontMetrics().horizontalAdvance(QString::fromUtf8(text)));
+        setColumnWidth(column, std::max({fontMetrics().horizontalAdvance(QString::fromUtf8(text)),
+                                         leastWidths[static_cast<std::size_t>(column)],
+                                         column == columnType ? widestType() : 0}));
         width += columnWidth(column);
     }
     if (gintToolRows > shownRows)
         width += scrollBarRoom;
     setFixedSize(width, horizontalHeader()->height() +
                             shownRows * verticalHeader()->defaultSectionSize() + borders);
+}
+
+void ToolGrid::paintEvent(QPaintEvent* event) {
+    QTableWidget::paintEvent(event);
+    if (gintToolRows > 0)
+        return;
+    QPainter painter(viewport());
+    const QRect place = viewport()->rect();
+    painter.fillRect(place, palette().base());
+    painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, noToolsText());
 }
 
 void ToolGrid::focusInEvent(QFocusEvent* event) {

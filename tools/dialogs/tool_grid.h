@@ -51,8 +51,8 @@ public:
     void setSortText(int column, const QString& text);
 
     // Width and height for all columns and eight rows, with room for the scroll bar where there
-    // are more tools.
-    void fitSize();
+    // are more tools. No column is narrower than what its sort button takes (pixels).
+    void fitSize(const std::array<int, shownColumns>& leastWidths);
 
     std::int16_t gintToolRows = 0; // rows that hold a tool, the first ones
     std::int16_t gintSortColumn = sortedByNone;
@@ -68,10 +68,14 @@ signals:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    // An empty list says how the first tool comes into it.
+    void paintEvent(QPaintEvent* event) override;
     // Home and End lead to the first and the last tool.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    static QString noToolsText();
+    int widestType() const;
     void selectToolRow(int row);
 
     QString m_typed;
