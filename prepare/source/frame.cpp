@@ -151,7 +151,7 @@ Point Frame::vectorToPlotter(Point user) const {
     return pageVector({user.x * m_scaleX, user.y * m_scaleY});
 }
 
-Point Frame::toPlotter(Point user) const {
+Point Frame::toTurnedPage(Point user) const {
     // The page turns about its corner, which then stands at another corner of the paper.
     static constexpr Point shifts[] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
     const Point shift = shifts[m_quarters];

@@ -27,7 +27,12 @@ public:
     // DF: scaling off, the rest stays.
     void unscale();
 
-    Point toPlotter(Point user) const;
+    Point toPlotter(Point user) const {
+        // Most pages are not turned, and every place of a drawing goes this way.
+        if (m_quarters == 0)
+            return {user.x * m_scaleX + m_shift.x + 0.0, user.y * m_scaleY + m_shift.y + 0.0};
+        return toTurnedPage(user);
+    }
     Point vectorToPlotter(Point user) const; // without the shift
     Point toUser(Point plotter) const;
 
@@ -40,6 +45,10 @@ public:
     // A length given along the page's own directions, as tick marks are.
     Point pageVector(Point vector) const;
     Point cornerDistance() const { return m_high - m_low; }
+
+    // Width and height of letters where the drawing sets none: plotters for small paper write
+    // smaller ones than those whose paper is told.
+    Point usualLetter() const { return m_ownPage ? Point{114, 150} : Point{74.8, 107.6}; }
 
     // Whether a scale hung on corners that the drawing never gave.
     bool guessedCorners() const { return m_guessedCorners; }
@@ -54,6 +63,7 @@ private:
     };
 
     Point page() const;
+    Point toTurnedPage(Point user) const;
     void setDefaultCorners();
     bool moveCorners(std::span<const double> numbers, Point unit);
     void update();

@@ -23,7 +23,7 @@ void readParameters(Scanner& scanner, Shape shape, char textTerminator, Paramete
         parameters.text = scanner.readText(textTerminator);
         break;
     case Shape::character:
-        parameters.text = scanner.readCharacter();
+        parameters.text = scanner.readCharacter(parameters.numbers);
         break;
     case Shape::comment:
         parameters.text = scanner.readComment();
@@ -34,10 +34,9 @@ void readParameters(Scanner& scanner, Shape shape, char textTerminator, Paramete
     }
 }
 
-void readInto(SourceDrawing& drawing, Scanner& scanner, const HpglSourceOptions& options,
+void readInto(SourceDrawing& drawing, Scanner& scanner, const SourceOptions& options,
               bool isPlain) {
-    PenPlotter plotter(drawing.strokes, drawing.report, options.segmentLimit, options.roundTurn,
-                       isPlain);
+    PenPlotter plotter(drawing.strokes, drawing.report, options, isPlain);
     std::vector<long> counts(instructionTable().size());
     Parameters parameters;
     for (Mnemonic mnemonic{}; scanner.nextMnemonic(mnemonic);) {
@@ -77,7 +76,7 @@ void requireDrawing(const SourceReport& report, std::string_view fileName) {
 } // namespace
 
 SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
-                       const HpglSourceOptions& options) {
+                       const SourceOptions& options) {
     requireSingleBytes(bytes, std::string(fileName));
     SourceDrawing drawing;
     Scanner scanner(bytes);

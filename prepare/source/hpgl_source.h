@@ -5,27 +5,24 @@
 // of which it does not know.
 #pragma once
 
+#include "prepare/source/source_options.h"
 #include "prepare/source/source_report.h"
 #include "prepare/strokes.h"
 
-#include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace torvik {
 
 struct SourceDrawing {
-    std::vector<Stroke> strokes; // dots, too; pens of 1 and above
+    std::vector<Stroke> strokes; // dots, too; pens of 1 and above, 0 where it has a colour
     SourceReport report;
-};
-
-struct HpglSourceOptions {
-    double roundTurn = 24; // degrees; chords above this are reported
-    std::size_t segmentLimit = 4'000'000;
+    // What the source shows and nothing draws: to be shown, no more.
+    std::vector<Stroke> leftOut{};
 };
 
 // Raises FileError, with the line where there is one; `fileName` is for the message.
 SourceDrawing readHpgl(std::string_view bytes, std::string_view fileName,
-                       const HpglSourceOptions& options = {});
+                       const SourceOptions& options = {});
 
 } // namespace torvik

@@ -31,6 +31,7 @@ bool PenPlotter::require(const Parameters& parameters, std::size_t count) {
 
 void PenPlotter::initialise(const Parameters& parameters) {
     m_recorder.lift();
+    m_recorder.keepPenZero(false);
     m_down = false;
     m_frame = Frame();
     m_place = {};
@@ -42,7 +43,8 @@ void PenPlotter::setDefaults(const Parameters&) {
     m_frame.unscale();
     m_polygon.clear();
     m_chordsAreAngles = true;
-    m_textTerminator = '\x03';
+    m_lettering = {};
+    m_carriage = m_place;
     m_tick = {0.5, 0.5};
 }
 
@@ -89,10 +91,6 @@ void PenPlotter::setTickLengths(const Parameters& parameters) {
         m_tick = {numbers[0], numbers.size() > 1 ? numbers[1] : 0};
 }
 
-void PenPlotter::setTextTerminator(const Parameters& parameters) {
-    m_textTerminator = parameters.text.empty() ? '\x03' : parameters.text[0];
-}
-
 void PenPlotter::setChordMode(const Parameters& parameters) {
     m_chordsAreAngles = parameters.numbers.empty() || parameters.numbers[0] == 0;
 }
@@ -114,11 +112,13 @@ void PenPlotter::setDown(bool down) {
 void PenPlotter::jump(Point place) {
     requireOnPaper(place);
     m_place = place;
+    m_carriage = place;
 }
 
 void PenPlotter::travel(const Segment& segment) {
     requireOnPaper(segment.end);
     const Point from = std::exchange(m_place, segment.end);
+    m_carriage = m_place;
     if (segment.kind == SegmentKind::line && segment.end == from)
         return;
     if (m_polygon.isOpen())
@@ -149,6 +149,7 @@ void PenPlotter::plotRelative(const Parameters& parameters) {
 
 void PenPlotter::plotPairs(const Parameters& parameters) {
     const auto& numbers = parameters.numbers;
+    m_recorder.expect(numbers.size() / 2);
     for (std::size_t i = 0; i + 1 < numbers.size(); i += 2)
         moveToUser({numbers[i], numbers[i + 1]}, m_relative);
     if (numbers.size() % 2 != 0)
@@ -217,24 +218,30 @@ void PenPlotter::polygonMode(const Parameters& parameters) {
 }
 
 void PenPlotter::edgePolygon(const Parameters&) {
-    if (m_polygon.outlinedBy() == m_recorder.pen() && m_recorder.pen() != 0)
+    const int pen = m_recorder.pen();
+    if (pen != 0 && m_polygon.outlinedBy() == pen)
         return;
     for (Stroke& edge : m_polygon.edges())
         m_recorder.addFigure(std::move(edge));
+    m_polygon.setEdgedBy(pen);
 }
 
 void PenPlotter::fillPolygon(const Parameters&) {
     m_report.lose(Loss::fill);
-    for (Stroke& outline : m_polygon.outlines())
+    const int pen = m_recorder.pen();
+    const bool isEdged = pen != 0 && m_polygon.edgedBy() == pen;
+    for (Stroke& outline : isEdged ? m_polygon.edges(false) : m_polygon.outlines())
         m_recorder.addFigure(std::move(outline));
-    m_polygon.setOutlinedBy(m_recorder.pen());
+    m_polygon.setOutlinedBy(pen);
+}
+
+void PenPlotter::setPenColour(const Parameters& parameters) {
+    const auto& numbers = parameters.numbers;
+    if (numbers.empty() || numbers[0] == 0)
+        m_recorder.keepPenZero(numbers.size() >= 4);
 }
 
 // --- what is not carried over
-
-void PenPlotter::loseText(const Parameters&) {
-    m_report.lose(Loss::text);
-}
 
 void PenPlotter::loseSymbols(const Parameters& parameters) {
     if (!parameters.text.empty() || !parameters.numbers.empty())

@@ -4,9 +4,12 @@
 #pragma once
 
 #include "prepare/source/frame.h"
+#include "prepare/source/lettering.h"
 #include "prepare/source/polygon_buffer.h"
+#include "prepare/source/source_options.h"
 #include "prepare/source/stroke_recorder.h"
 
+#include <string>
 #include <string_view>
 
 namespace torvik {
@@ -22,15 +25,15 @@ struct Parameters {
 class PenPlotter {
 public:
     // In a plain drawing, one of the job's own kind, arcs are drawn with the pen up, too.
-    PenPlotter(std::vector<Stroke>& strokes, SourceReport& report, std::size_t segmentLimit,
-               double roundTurn, bool isPlain)
-        : m_recorder(strokes, report, segmentLimit), m_report(report), m_roundTurn(roundTurn),
-          m_isPlain(isPlain) {}
+    PenPlotter(std::vector<Stroke>& strokes, SourceReport& report, const SourceOptions& options,
+               bool isPlain)
+        : m_recorder(strokes, report, options.segmentLimit), m_report(report),
+          m_roundTurn(options.roundTurn), m_isPlain(isPlain), m_drawsTexts(options.texts) {}
 
     // The end of the drawing.
     void finish();
     // The character that ends labels.
-    char textTerminator() const { return m_textTerminator; }
+    char textTerminator() const { return m_lettering.terminator; }
 
     void ignore(const Parameters&) {}
 
@@ -38,13 +41,13 @@ public:
     void initialise(const Parameters&);
     void setDefaults(const Parameters&);
     void selectPen(const Parameters&);
+    void setPenColour(const Parameters&);
     void setScale(const Parameters&);
     void setCorners(const Parameters&);
     void setCornersInHundredths(const Parameters&);
     void rotate(const Parameters&);
     void setPage(const Parameters&);
     void setTickLengths(const Parameters&);
-    void setTextTerminator(const Parameters&);
     void setChordMode(const Parameters&);
     void endPage(const Parameters&);
 
@@ -79,8 +82,26 @@ public:
     void edgePolygon(const Parameters&);
     void fillPolygon(const Parameters&);
 
+    // Labels
+    void setTextTerminator(const Parameters&);
+    void setLetterSize(const Parameters&);
+    void setLetterSizeInHundredths(const Parameters&);
+    void setLabelDirection(const Parameters&);
+    void setLabelDirectionInHundredths(const Parameters&);
+    void setSlant(const Parameters&);
+    void setExtraSpace(const Parameters&);
+    void setLabelOrigin(const Parameters&);
+    void setStandardSet(const Parameters&);
+    void setAlternateSet(const Parameters&);
+    void selectStandardSet(const Parameters&);
+    void selectAlternateSet(const Parameters&);
+    void setStandardFont(const Parameters&);
+    void moveByCells(const Parameters&);
+    void writeLabel(const Parameters&);
+    void keepLabel(const Parameters&);
+    void writeKeptLabel(const Parameters&);
+
     // What is not carried over
-    void loseText(const Parameters&);
     void loseSymbols(const Parameters&);
     void loseDashes(const Parameters&);
     void loseClipping(const Parameters&);
@@ -108,17 +129,25 @@ private:
     void fillFigure(Stroke figure);
     void drawTick(Point direction, double corners);
 
+    void setDirection(const Parameters& parameters, bool isRelative);
+    void moveInLabel(Point by);
+    void feedLines(double lines);
+    bool writeLetters(const std::string& letters); // false where they draw nothing
+    void obeyInLabel(char control);
+
     StrokeRecorder m_recorder;
     SourceReport& m_report;
     double m_roundTurn;
     bool m_isPlain;
+    bool m_drawsTexts;
     Frame m_frame;
+    Lettering m_lettering;
     PolygonBuffer m_polygon;
-    Point m_place; // plotter units
+    Point m_place;    // plotter units
+    Point m_carriage; // where a label's next line begins
     bool m_down = false;
     bool m_relative = false;
     bool m_chordsAreAngles = true;
-    char m_textTerminator = '\x03';
     Point m_tick{0.5, 0.5}; // hundredths of P2 - P1: above or right, below or left
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The polygon buffer: what is drawn between PM0 and PM2 is kept here, and drawn by EP and FP. It
 // holds closed subpolygons; an edge drawn with the pen up belongs to the area but not to the line.
+// Where the pen goes up from an outline that it has closed, it leads to another outline: such a
+// seam belongs to neither.
 #pragma once
 
 #include "prepare/strokes.h"
@@ -26,21 +28,27 @@ public:
     void travel(const Segment& segment, bool penDown);
     void addCircle(Stroke circle, bool penDown);
 
-    // EP: the edges drawn with the pen down.
-    std::vector<Stroke> edges() const;
+    // EP: the edges drawn with the pen down, or only the others.
+    std::vector<Stroke> edges(bool drawn = true) const;
     // FP: the outlines of all subpolygons.
     std::vector<Stroke> outlines() const;
 
-    // Which pen has drawn the outlines for a fill already, 0 for none: an edge by the same pen
-    // would only be drawn twice.
+    // Which pen has drawn all outlines already, and which one the edges; 0 for none. The same pen
+    // would only draw them twice.
     int outlinedBy() const { return m_outlinedBy; }
     void setOutlinedBy(int pen) { m_outlinedBy = pen; }
+    int edgedBy() const { return m_edgedBy; }
+    void setEdgedBy(int pen) { m_edgedBy = pen; }
 
 private:
     struct Subpolygon {
         Stroke outline;
-        std::vector<bool> isDrawn; // of each segment
+        std::vector<bool> isDrawn;     // of each segment
+        bool isClosedByBuffer = false; // by its last segment
     };
+
+    std::vector<Subpolygon> parts() const;
+    static void takeApart(const Subpolygon& subpolygon, std::vector<Subpolygon>& parts);
 
     std::vector<Subpolygon> m_subpolygons;
     bool m_open = false;
@@ -48,6 +56,7 @@ private:
     bool m_wasPenDown = false;
     Point m_openedAt;
     int m_outlinedBy = 0;
+    int m_edgedBy = 0;
 };
 
 } // namespace torvik

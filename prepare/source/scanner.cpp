@@ -5,6 +5,7 @@
 #include "job/characters.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 
@@ -14,20 +15,42 @@ namespace {
 // Whole numbers below this have exact doubles.
 constexpr std::ptrdiff_t exactDigits = 15;
 
+// The digits from `at` on, appended to those of `number`; no more than are exact, and one.
+const char* readDigits(const char* at, const char* end, std::int64_t& number,
+                       std::ptrdiff_t& count) {
+    for (; at != end && isDigit(*at) && count <= exactDigits; ++at, ++count)
+        number = number * 10 + (*at - '0');
+    return at;
+}
+
+// A number without sign and exponent that has few digits, as most have; nullptr for others. The
+// quotient of two exact numbers is the double nearest to what is written.
+const char* readShort(const char* at, const char* end, double& number) {
+    static constexpr std::array<double, exactDigits + 1> powersOfTen{
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    std::int64_t digits = 0;
+    std::ptrdiff_t count = 0;
+    at = readDigits(at, end, digits, count);
+    std::ptrdiff_t decimals = 0;
+    if (at != end && *at == '.') {
+        const std::ptrdiff_t before = count;
+        at = readDigits(at + 1, end, digits, count);
+        decimals = count - before;
+    }
+    const bool goesOn = at != end && (*at == 'e' || *at == 'E');
+    if (count == 0 || count > exactDigits || goesOn)
+        return nullptr;
+    number = static_cast<double>(digits) / powersOfTen[static_cast<std::size_t>(decimals)];
+    return at;
+}
+
 // A number without sign; `at` moves behind it. False where none stands there.
 bool readUnsigned(const char*& at, const char* end, double& number) {
-    const char* digit = at;
-    std::int64_t whole = 0;
-    while (digit != end && isDigit(*digit) && digit - at <= exactDigits)
-        whole = whole * 10 + (*digit++ - '0');
-    const bool goesOn =
-        digit != end && (isDigit(*digit) || *digit == '.' || *digit == 'e' || *digit == 'E');
-    if (digit != at && !goesOn) {
-        number = static_cast<double>(whole);
-        at = digit;
+    if (const char* const behind = readShort(at, end, number)) {
+        at = behind;
         return true;
     }
-    // Signed exponents and fractions; "10EA" is the number 10 and another instruction.
+    // Signed exponents and long fractions; "10EA" is the number 10 and another instruction.
     const auto [last, error] = std::from_chars(at, end, number);
     if (error == std::errc::invalid_argument)
         return false;
@@ -112,13 +135,12 @@ std::string_view Scanner::readText(char terminator) {
     return text;
 }
 
-std::string_view Scanner::readCharacter() {
+std::string_view Scanner::readCharacter(std::vector<double>& numbers) {
     const char c = peek();
     std::string_view text;
     if (!atEnd() && c != ';' && c != escape && c != '\n' && c != '\r')
         text = take(m_at + 1);
-    std::vector<double> mode;
-    readNumbers(mode);
+    readNumbers(numbers);
     return text;
 }
 

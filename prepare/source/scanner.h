@@ -26,8 +26,8 @@ public:
     // The characters up to the terminator, which is passed over. Where the text has no terminator,
     // it ends with its line.
     std::string_view readText(char terminator);
-    // One character, or nothing where the instruction ends here; what follows it is passed over.
-    std::string_view readCharacter();
+    // One character, or nothing where the instruction ends here, and the numbers behind it.
+    std::string_view readCharacter(std::vector<double>& numbers);
     // A text in quotes, or else all up to the semicolon.
     std::string_view readComment();
     // The characters of an encoded polyline.

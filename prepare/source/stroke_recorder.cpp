@@ -4,6 +4,7 @@
 #include "base/errors.h"
 #include "prepare/source/source_report.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -52,6 +53,7 @@ void StrokeRecorder::draw(Point from, const Segment& segment) {
     if (m_current == none) {
         store({m_pen, from, {}});
         m_current = m_strokes.size() - 1;
+        m_strokes.back().segments.reserve(std::min(m_expected, m_segmentLimit));
     }
     m_strokes[m_current].segments.push_back(segment);
 }
@@ -66,9 +68,9 @@ void StrokeRecorder::addFigure(Stroke figure) {
 }
 
 bool StrokeRecorder::hasPen() {
-    if (m_pen == 0)
+    if (!draws())
         m_report.lose(Loss::noPen);
-    return m_pen != 0;
+    return draws();
 }
 
 void StrokeRecorder::count(std::size_t segments) {

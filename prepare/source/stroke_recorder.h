@@ -21,11 +21,16 @@ public:
     // The pen in the holder, 0 for none.
     void selectPen(int pen);
     int pen() const { return m_pen; }
+    // Whether what pen 0 draws is kept, for it has a colour.
+    void keepPenZero(bool kept) { m_keepsPenZero = kept; }
+    bool draws() const { return m_pen != 0 || m_keepsPenZero; }
 
     void land(Point place); // the pen comes down
     void lift();
     // Ends the stroke in progress although the pen stays down.
     void breakStroke();
+    // About so many segments will be drawn one after the other.
+    void expect(std::size_t segments) { m_expected = segments; }
     // Draws on from where the pen is.
     void draw(Point from, const Segment& segment);
     // Draws a figure of its own: the stroke that is in progress goes on afterwards.
@@ -44,8 +49,10 @@ private:
     SourceReport& m_report;
     std::size_t m_segmentLimit;
     std::size_t m_segments = 0;
+    std::size_t m_expected = 0;
     std::size_t m_current = none; // the stroke in progress
     int m_pen = 1;
+    bool m_keepsPenZero = false;
     bool m_landed = false; // the pen is down and has drawn nothing yet
     Point m_landedAt;
     bool m_pageEnded = false;
