@@ -7,6 +7,8 @@
 #include "prepare/fitting/grid.h"
 #include "prepare/source/stroke_recorder.h"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <string>
 
@@ -36,10 +38,20 @@ Point lowCorner(const std::vector<Stroke>& strokes) {
     return extents.empty() ? Point{} : extents.low;
 }
 
-void bringCornerTo(std::vector<Stroke>& strokes, Point corner) {
-    const Point shift = corner - lowCorner(strokes);
-    if (shift != Point{})
-        movePoints(strokes, [&](Point p) { return p + shift; });
+// Raises RunTimeError where something is drawn, or a control point stands, too far away.
+void requireAllOnPaper(const std::vector<Stroke>& strokes) {
+    for (const Stroke& stroke : strokes) {
+        const StrokeExtents extents = extentsOf({&stroke, 1});
+        if (extents.empty())
+            continue;
+        requireOnPaper(extents.low);
+        requireOnPaper(extents.high);
+        for (const Segment& segment : stroke.segments)
+            if (segment.kind == SegmentKind::curve) {
+                requireOnPaper(segment.first);
+                requireOnPaper(segment.second);
+            }
+    }
 }
 
 // Nothing would be left of such a circle when it is written.
@@ -50,28 +62,37 @@ bool isPoint(const Stroke& stroke) {
 
 } // namespace
 
-void place(std::vector<Stroke>& strokes, const Placement& placement) {
+void place(std::vector<Stroke>& strokes, const Placement& placement,
+           std::vector<Stroke>* alongside) {
+    const auto moveAll = [&](auto&& move) {
+        movePoints(strokes, move);
+        if (alongside != nullptr)
+            movePoints(*alongside, move);
+    };
     if (placement.scale != 1)
-        movePoints(strokes, [&](Point p) { return p * placement.scale; });
-    const Point corner = placement.origin.value_or(lowCorner(strokes));
+        moveAll([&](Point p) { return p * placement.scale; });
+    const bool turns = placement.mirror != Mirror::none || placement.rotation != 0;
+    Point corner;
+    if (placement.origin || turns)
+        corner = placement.origin.value_or(lowCorner(strokes));
     if (placement.mirror != Mirror::none) {
         const bool leftRight = placement.mirror == Mirror::leftRight;
-        movePoints(strokes, [&](Point p) {
-            return leftRight ? Point{-p.x, p.y} : Point{p.x, -p.y};
-        });
+        moveAll([&](Point p) { return leftRight ? Point{-p.x, p.y} : Point{p.x, -p.y}; });
         turnSweeps(strokes);
+        if (alongside != nullptr)
+            turnSweeps(*alongside);
     }
     if (placement.rotation != 0)
-        movePoints(strokes, [&](Point p) { return rotated(p, placement.rotation); });
-    if (placement.mirror != Mirror::none || placement.rotation != 0 || placement.origin)
-        bringCornerTo(strokes, corner);
-    if (const StrokeExtents extents = extentsOf(strokes); !extents.empty()) {
-        requireOnPaper(extents.low);
-        requireOnPaper(extents.high);
+        moveAll([&](Point p) { return rotated(p, placement.rotation); });
+    if (turns || placement.origin) {
+        const Point shift = corner - lowCorner(strokes);
+        if (shift != Point{})
+            moveAll([&](Point p) { return p + shift; });
     }
+    requireAllOnPaper(strokes);
 }
 
-void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {
+std::vector<Stroke> mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {
     std::set<int> tooHigh;
     for (Stroke& stroke : strokes) {
         if (const auto mapped = pens.find(stroke.pen); mapped != pens.end())
@@ -79,8 +100,14 @@ void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens) {
         if (stroke.pen > penCount)
             tooHigh.insert(stroke.pen);
     }
-    if (tooHigh.empty())
-        return;
+    if (tooHigh.empty()) {
+        const auto penless = std::stable_partition(
+            strokes.begin(), strokes.end(), [](const Stroke& stroke) { return stroke.pen != 0; });
+        std::vector<Stroke> taken(std::make_move_iterator(penless),
+                                  std::make_move_iterator(strokes.end()));
+        strokes.erase(penless, strokes.end());
+        return taken;
+    }
     std::string list;
     for (const int pen : tooHigh)
         list += (list.empty() ? "" : ", ") + std::to_string(pen);

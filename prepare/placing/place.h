@@ -21,11 +21,14 @@ struct Placement {
     std::optional<Point> origin; // where the lower left corner comes to, plotter units
 };
 
-// Raises RunTimeError where strokes come to lie more than 100 m from the origin.
-void place(std::vector<Stroke>& strokes, const Placement& placement);
+// Strokes `alongside` are moved as the others, whose corner counts. Raises RunTimeError where
+// strokes come to lie more than 100 m from the origin.
+void place(std::vector<Stroke>& strokes, const Placement& placement,
+           std::vector<Stroke>* alongside = nullptr);
 
-// Gives strokes another pen. Raises RunTimeError with a list where pens above 8 are left.
-void mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens);
+// Gives strokes another pen, and takes out those of pen 0 that get none, which are given back.
+// Raises RunTimeError with a list where pens above 8 are left.
+std::vector<Stroke> mapPens(std::vector<Stroke>& strokes, const std::map<int, int>& pens);
 
 // Makes circles of dots, of the diameter in plotter units; without one takes them out. A circle so
 // small that it would be written without a size is a dot, too. Returns their count.

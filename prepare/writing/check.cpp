@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/writing/check.h"
 
-#include "base/errors.h"
 #include "base/logger.h"
 #include "base/picture.h"
 #include "job/hpgl_reader.h"
@@ -74,7 +73,7 @@ void checkWritten(const std::string& text, std::span<const Stroke> strokes, doub
                     : HUGE_VAL;
             ++element;
             if (!(off <= tolerance))
-                throw RunTimeError(
+                throw Misread(
                     "the prepared drawing was not written, because element " +
                     std::to_string(element) + " is read back " +
                     (off < 1e6 ? formatFixed(off, 3) + " mm beside its place" : "as another one"));
@@ -82,8 +81,8 @@ void checkWritten(const std::string& text, std::span<const Stroke> strokes, doub
         }
     }
     if (element != static_cast<std::size_t>(job.drawing.gudtPaths.count()))
-        throw RunTimeError("the prepared drawing was not written, because more elements are read "
-                           "back than there are");
+        throw Misread("the prepared drawing was not written, because more elements are read "
+                      "back than there are");
 }
 
 } // namespace torvik
