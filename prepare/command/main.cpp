@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/library_places.h"
 #include "base/stop_signals.h"
 #include "prepare/command/preparer.h"
 
@@ -8,6 +9,7 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
+    torvik::loadOnlyOwnLibraries();
     torvik::tidyUpWhenStopped();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("torvik-prepare"));

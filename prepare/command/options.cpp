@@ -3,6 +3,9 @@
 
 #include "base/files.h"
 #include "job/records.h"
+#include "prepare/beside/run_values.h"
+#include "prepare/command/option_set.h"
+#include "prepare/source/source_kinds.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -21,17 +24,16 @@ class PrepareParser {
 public:
     PrepareParser() {
         m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        m_parser.setApplicationDescription(QStringLiteral(
-            "Makes drawings of other programs (HPGL in all its forms, SVG) into drawings that "
-            "Torvik\nreads completely, and says what it did to them."));
-        m_parser.addPositionalArgument(
-            QStringLiteral("drawings"),
-            QStringLiteral("Drawings to prepare (.plt, .hpgl, .hpg, .plo, .svg)."),
-            QStringLiteral("DRAWING..."));
-        m_parser.addOptions(m_options);
+        m_parser.addOptions(m_set.all);
     }
 
-    QString helpText() const { return m_parser.helpText(); }
+    std::vector<OptionRow> rows() const {
+        std::vector<OptionRow> table;
+        table.reserve(static_cast<std::size_t>(m_set.all.size()));
+        for (const QCommandLineOption& option : m_set.all)
+            table.push_back(rowOf(option));
+        return table;
+    }
 
     std::optional<PrepareCommand> parse(const QStringList& arguments, QString& error) {
         if (!m_parser.parse(arguments)) {
@@ -45,17 +47,21 @@ public:
             return {};
         }
         PrepareCommand command;
-        if (m_parser.isSet(m_help) || m_parser.isSet(m_version)) {
-            command.action = m_parser.isSet(m_help) ? PrepareCommand::Action::help
-                                                    : PrepareCommand::Action::version;
+        if (m_parser.isSet(m_set.help) || m_parser.isSet(m_set.version)) {
+            command.action = m_parser.isSet(m_set.help) ? PrepareCommand::Action::help
+                                                        : PrepareCommand::Action::version;
             return command;
         }
         for (const QString& name : m_parser.positionalArguments())
             command.drawings.push_back(toPath(name));
         readFlagsAndPaths(command);
         readNumbers(command.options);
+        command.source.roundTurn = command.options.roundTurn;
+        readTexts(command.source);
+        readSizes(command.source);
         readPlacement(command.options);
         readPens(command);
+        readBeside(command.options.beside);
         checkFiles(command);
         error = m_mistake;
         if (!error.isEmpty())
@@ -64,6 +70,19 @@ public:
     }
 
 private:
+    static OptionRow rowOf(const QCommandLineOption& option) {
+        static const QRegularExpression list(QStringLiteral("^\\w+(\\|\\w+)+$"));
+        const QString value = option.valueName();
+        const bool hasLetter = option.names().size() > 1;
+        OptionRow row{option.names().constLast().toStdString(),
+                      hasLetter ? option.names().constFirst().at(0).unicode() : 256,
+                      value.toStdString(), option.description().toStdString()};
+        if (list.match(value).hasMatch())
+            for (const QString& choice : value.split(u'|'))
+                row.choices.push_back(choice.toStdString());
+        return row;
+    }
+
     // The first mistake is the one that is told.
     void mistake(const QString& text) {
         if (m_mistake.isEmpty())
@@ -73,23 +92,24 @@ private:
     bool isFlagWithValue(const QString& word) const {
         const QString name = word.section(u'=', 0, 0);
         return name != word &&
-               std::any_of(m_options.begin(), m_options.end(), [&](const auto& option) {
+               std::any_of(m_set.all.begin(), m_set.all.end(), [&](const auto& option) {
                    return option.valueName().isEmpty() &&
                           option.names().contains(name.mid(name.startsWith(u"--") ? 2 : 1));
                });
     }
 
     void readFlagsAndPaths(PrepareCommand& command) {
-        if (m_parser.isSet(m_output))
-            command.output = toPath(m_parser.value(m_output));
-        if (m_parser.isSet(m_outputFolder))
-            command.outputFolder = toPath(m_parser.value(m_outputFolder));
-        command.report = m_parser.isSet(m_report);
-        command.force = m_parser.isSet(m_force);
-        command.quiet = m_parser.isSet(m_quiet);
-        command.options.arcs = !m_parser.isSet(m_noArcs);
-        command.options.optimize = m_parser.isSet(m_optimize);
-        command.options.dropDuplicates = m_parser.isSet(m_dropDuplicates);
+        if (m_parser.isSet(m_set.output))
+            command.output = toPath(m_parser.value(m_set.output));
+        if (m_parser.isSet(m_set.outputFolder))
+            command.outputFolder = toPath(m_parser.value(m_set.outputFolder));
+        command.report = m_parser.isSet(m_set.report);
+        command.force = m_parser.isSet(m_set.force);
+        command.quiet = m_parser.isSet(m_set.quiet);
+        command.sync = m_parser.isSet(m_set.sync);
+        command.options.arcs = !m_parser.isSet(m_set.noArcs);
+        command.options.optimize = m_parser.isSet(m_set.optimize);
+        command.options.dropDuplicates = m_parser.isSet(m_set.dropDuplicates);
     }
 
     // A number above 0 and at most `most`.
@@ -106,15 +126,15 @@ private:
     }
 
     void readNumbers(PrepareOptions& options) {
-        options.tolerance = numberOf(m_tolerance, 10).value_or(options.tolerance);
-        options.roundTurn = numberOf(m_roundTurn, 90).value_or(options.roundTurn);
-        options.scale = numberOf(m_scale, 10000).value_or(options.scale);
-        options.dots = numberOf(m_dots, 1000);
+        options.tolerance = numberOf(m_set.tolerance, 10).value_or(options.tolerance);
+        options.roundTurn = numberOf(m_set.roundTurn, 90).value_or(options.roundTurn);
+        options.scale = numberOf(m_set.scale, 10000).value_or(options.scale);
+        options.dots = numberOf(m_set.dots, 1000);
     }
 
     void readPlacement(PrepareOptions& options) {
-        if (m_parser.isSet(m_origin)) {
-            const QStringList parts = m_parser.value(m_origin).split(u',');
+        if (m_parser.isSet(m_set.origin)) {
+            const QStringList parts = m_parser.value(m_set.origin).split(u',');
             bool isX = false;
             bool isY = false;
             const double x = parts.value(0).toDouble(&isX);
@@ -123,36 +143,74 @@ private:
                 mistake(QStringLiteral("--origin needs two numbers, as in --origin 0,0"));
             options.origin = Point{x, y};
         }
-        if (m_parser.isSet(m_mirror)) {
-            const QString axis = m_parser.value(m_mirror);
+        if (m_parser.isSet(m_set.mirror)) {
+            const QString axis = m_parser.value(m_set.mirror);
             if (axis != u"x" && axis != u"y")
                 mistake(QStringLiteral("--mirror needs x (left and right) or y (up and down)"));
             options.mirror = axis == u"x" ? Mirror::leftRight : Mirror::upDown;
         }
-        if (m_parser.isSet(m_rotate)) {
-            options.rotation = m_parser.value(m_rotate).toInt();
+        if (m_parser.isSet(m_set.rotate)) {
+            options.rotation = m_parser.value(m_set.rotate).toInt();
             if (options.rotation != 90 && options.rotation != 180 && options.rotation != 270)
                 mistake(QStringLiteral("--rotate needs 90, 180 or 270"));
         }
     }
 
+    void readTexts(SourceOptions& source) {
+        const QString strokes = QStringLiteral("stroke");
+        const QString kind = m_parser.isSet(m_set.text) ? m_parser.value(m_set.text) : strokes;
+        if (kind != strokes && kind != u"none")
+            mistake(QStringLiteral("--text needs stroke or none"));
+        source.texts = kind == strokes;
+    }
+
+    void readSizes(SourceOptions& source) {
+        constexpr double mostPixels = 100'000;
+        source.dpi = numberOf(m_set.dpi, mostPixels);
+        if (!m_parser.isSet(m_set.units))
+            return;
+        source.units = lengthUnit(m_parser.value(m_set.units).toStdString());
+        if (!source.units)
+            mistake(QStringLiteral("--units needs mm, cm, m or inch"));
+    }
+
     void readPens(PrepareCommand& command) {
         static const QRegularExpression colour(QStringLiteral("^#[0-9a-fA-F]{6}$"));
-        for (const QString& value : m_parser.values(m_pen)) {
-            const QString from = value.section(u'=', 0, 0);
+        static const QString layerMark = QStringLiteral("layer:");
+        for (const QString& value : m_parser.values(m_set.pen)) {
+            const QString from = value.section(u'=', 0, -2);
             bool isPen = false;
-            const int pen = value.section(u'=', 1).toInt(&isPen);
-            const int number = from.toInt();
+            const int pen = value.section(u'=', -1).toInt(&isPen);
+            bool isNumber = false;
+            const int number = from.toInt(&isNumber);
             const bool isColour = colour.match(from).hasMatch();
-            if (!isPen || pen < 1 || pen > penCount || (!isColour && number < 1))
-                mistake(QStringLiteral("\"%1\" is no pen mapping, as 9=1 or #ff8000=6 are; pens "
-                                       "are 1 to 8")
+            const bool isLayer = from.startsWith(layerMark) && from != layerMark;
+            if (!isPen || pen < 1 || pen > penCount ||
+                (!isColour && !isLayer && (!isNumber || number < 0)))
+                mistake(QStringLiteral("\"%1\" is no pen mapping, as 9=1, #ff8000=6 and "
+                                       "layer:Holes=2 are; pens are 1 to 8")
                             .arg(value));
             else if (isColour)
-                command.colours[from.toLower().toStdString()] = pen;
+                command.source.pens[from.toLower().toStdString()] = pen;
+            else if (isLayer)
+                command.source.pens[from.toStdString()] = pen;
             else
                 command.options.pens[number] = pen;
         }
+    }
+
+    void readBeside(RunOptions& beside) {
+        beside.insideFirst = m_parser.isSet(m_set.insideFirst);
+        for (const QString& value : m_parser.values(m_set.run))
+            if (!readRun(value.toStdString(), beside))
+                mistake(QStringLiteral("\"%1\" is no way of a tool, as 1=outside:6, 2=inside:3 and "
+                                       "3=pocket:6,40 are; pens are 1 to 8")
+                            .arg(value));
+        for (const QString& value : m_parser.values(m_set.tabs))
+            if (!readTabs(value.toStdString(), beside))
+                mistake(QStringLiteral("\"%1\" says no tabs, as 1=2:4:3 does: pen 2 gets the "
+                                       "outlines of pen 1 with 4 gaps for tabs of 3 mm")
+                            .arg(value));
     }
 
     void checkFiles(const PrepareCommand& command) {
@@ -178,62 +236,7 @@ private:
         }
     }
 
-    static QCommandLineOption option(const QStringList& names, const char* description,
-                                     const char* value = "") {
-        return {names, QString::fromUtf8(description), QString::fromUtf8(value)};
-    }
-
-    QCommandLineOption m_output =
-        option({QStringLiteral("o"), QStringLiteral("output")},
-               "Where to write; an existing file is replaced.", "OUT.plt");
-    QCommandLineOption m_outputFolder = option({QStringLiteral("output-dir")},
-                                               "Folder for NAME-torvik.plt of each drawing; "
-                                               "otherwise beside the drawing.",
-                                               "DIR");
-    QCommandLineOption m_tolerance =
-        option({QStringLiteral("tolerance")},
-               "How far the drawing's own points and curves may move (0.01).", "MM");
-    QCommandLineOption m_roundTurn =
-        option({QStringLiteral("round-turn")},
-               "The widest chord that may stand for a piece of a circle (24); an octagon has 45.",
-               "DEGREES");
-    QCommandLineOption m_noArcs =
-        option({QStringLiteral("no-arcs")},
-               "Chords stay chords and curves become lines; the drawing's own arcs stay.");
-    QCommandLineOption m_optimize =
-        option({QStringLiteral("optimize")}, "Order the strokes of each pen for a short way.");
-    QCommandLineOption m_dropDuplicates =
-        option({QStringLiteral("drop-duplicates")}, "Take out what the same pen has drawn before.");
-    QCommandLineOption m_origin =
-        option({QStringLiteral("origin")}, "Where the lower left corner comes to, in mm.", "X,Y");
-    QCommandLineOption m_scale =
-        option({QStringLiteral("scale")}, "Multiply all lengths, before all else.", "F");
-    QCommandLineOption m_mirror =
-        option({QStringLiteral("mirror")},
-               "Swap left and right (x) or up and down (y); the lower left corner stays.", "x|y");
-    QCommandLineOption m_rotate =
-        option({QStringLiteral("rotate")}, "Turn counter-clockwise; the lower left corner stays.",
-               "90|180|270");
-    QCommandLineOption m_dots =
-        option({QStringLiteral("dots")}, "Draw dots as circles of this diameter.", "MM");
-    QCommandLineOption m_pen =
-        option({QStringLiteral("pen")},
-               "Draw pen A, or a colour of a picture (in quotes), by pen B. May be repeated.",
-               "A=B|#rrggbb=B");
-    QCommandLineOption m_report =
-        option({QStringLiteral("report")}, "Print what was read, done and lost.");
-    QCommandLineOption m_force = option({QStringLiteral("force")}, "Overwrite existing files.");
-    QCommandLineOption m_quiet = option({QStringLiteral("quiet")}, "Print no progress.");
-    QCommandLineOption m_help =
-        option({QStringLiteral("h"), QStringLiteral("help")}, "Print this help.");
-    QCommandLineOption m_version =
-        option({QStringLiteral("v"), QStringLiteral("version")}, "Print the version.");
-
-    const QList<QCommandLineOption> m_options{
-        m_output, m_outputFolder, m_tolerance, m_roundTurn, m_noArcs, m_optimize, m_dropDuplicates,
-        m_origin, m_scale,        m_mirror,    m_rotate,    m_dots,   m_pen,      m_report,
-        m_force,  m_quiet,        m_help,      m_version};
-
+    const OptionSet m_set;
     QCommandLineParser m_parser;
     QString m_mistake;
 };
@@ -252,8 +255,24 @@ std::optional<PrepareCommand> parsePrepareCommand(const QStringList& arguments,
     return PrepareParser().parse(arguments, usageError);
 }
 
-QString prepareHelpText() {
-    return PrepareParser().helpText();
+ProgramGuide preparerGuide() {
+    std::vector<std::string> kinds(plotterKinds.begin(), plotterKinds.end());
+    kinds.insert(kinds.end(), pictureKinds.begin(), pictureKinds.end());
+    return {
+        .name = "torvik-prepare",
+        .summary = "makes plain drawings out of those of other programs",
+        .usages = {"DRAWING... [OPTIONS]"},
+        .description =
+            "Makes drawings of other programs (HPGL in all its forms, SVG, DXF) "
+            "into drawings that Torvik reads completely, and says what it did to them. Each "
+            "becomes NAME-torvik.plt beside it.",
+        .options = PrepareParser().rows(),
+        .exits = {{ExitCode::done, "done"},
+                  {ExitCode::usage, "wrong usage"},
+                  {ExitCode::file, "a file cannot be read or written"},
+                  {ExitCode::job, "a drawing cannot be prepared"}},
+        .kinds = kinds,
+    };
 }
 
 } // namespace torvik

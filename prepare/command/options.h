@@ -2,6 +2,7 @@
 // The command line of torvik-prepare.
 #pragma once
 
+#include "commands/program_guide.h"
 #include "prepare/prepare.h"
 
 #include <QString>
@@ -23,10 +24,11 @@ struct PrepareCommand {
     std::optional<std::filesystem::path> output;
     std::optional<std::filesystem::path> outputFolder;
     PrepareOptions options;
-    std::map<std::string, int> colours; // "#rrggbb" to pen
+    SourceOptions source;
     bool report = false;
     bool force = false;
     bool quiet = false;
+    bool sync = false;
 
     // Where drawing i (from 0) goes when it is prepared.
     std::filesystem::path outputPath(std::size_t i) const;
@@ -37,7 +39,7 @@ struct PrepareCommand {
 std::optional<PrepareCommand> parsePrepareCommand(const QStringList& arguments,
                                                   QString& usageError);
 
-// The text of --help.
-QString prepareHelpText();
+// What --help says.
+ProgramGuide preparerGuide();
 
 } // namespace torvik

@@ -62,9 +62,7 @@ private:
 
     PreparedDrawing prepareBytes(const std::string& bytes, const std::string& name) const {
         try {
-            const double roundTurn = m_command.options.roundTurn;
-            return prepareDrawing(readSource(bytes, name, roundTurn, m_command.colours),
-                                  m_command.options);
+            return prepareDrawing(readSource(bytes, name, m_command.source), m_command.options);
         } catch (const FileError& error) {
             throw Failure{ExitCode::job, error.what()};
         } catch (const RunTimeError& error) {
@@ -82,6 +80,8 @@ private:
         if (m_command.outputFolder)
             makeFolder(*m_command.outputFolder);
         saveWhole(output, text);
+        if (m_command.sync)
+            makeDurable(output);
     }
 
     const PrepareCommand& m_command;
@@ -94,10 +94,8 @@ private:
 int runPreparer(const QStringList& arguments, std::ostream& out, std::ostream& err) {
     QString usageError;
     const auto command = parsePrepareCommand(arguments, usageError);
-    return runProgram(
-        {programName, out, err}, command, usageError.toStdString(),
-        [] { return prepareHelpText().toStdString(); },
-        [&] { return Preparer(*command, out, err).run(); });
+    return runProgram({programName, out, err}, command, usageError.toStdString(), preparerGuide,
+                      [&] { return Preparer(*command, out, err).run(); });
 }
 
 } // namespace torvik
