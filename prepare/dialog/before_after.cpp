@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/dialog/before_after.h"
 
+#include "base/picture.h"
+#include "forms/form_fields.h"
+
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -43,8 +47,53 @@ QString countText(const StrokePicture* picture) {
                : BeforeAfter::tr("%1, circles: %2").arg(elements).arg(picture->circles);
 }
 
-QRectF boundsOf(const StrokePicture* picture) {
-    return picture == nullptr ? QRectF() : picture->bounds;
+// Large, because a drawing in the wrong unit is a part of the wrong size.
+QLabel* sizeLabel(const QString& name) {
+    auto* const label = new QLabel;
+    label->setObjectName(name);
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setBold(true);
+    label->setFont(font);
+    label->setToolTip(BeforeAfter::tr("Width and height of all lines"));
+    return label;
+}
+
+QString sizeText(const StrokePicture* picture) {
+    if (picture == nullptr)
+        return {};
+    const auto inMm = [](double value) { return QString::fromStdString(formatFixed(value, 2)); };
+    const QString size = picture->tools.empty() ? BeforeAfter::tr("%1 × %2 mm")
+                                                : BeforeAfter::tr("Tools: %1 × %2 mm");
+    return size.arg(inMm(picture->bounds.width()), inMm(picture->bounds.height()));
+}
+
+// The mark has the form of what it stands for, not its colour alone.
+QString legendItem(QRgb colour, const QString& mark, const QString& text) {
+    return QStringLiteral("<span style=\"color:%1\">%2</span> %3")
+        .arg(QColor(colour).name(), mark, text.toHtmlEscaped());
+}
+
+// What the colours in the pictures mean, and what is in them that the source says in other words.
+QString legendText(const StrokePicture* before, const StrokePicture* after) {
+    constexpr QRgb tint = 0xffb8c4d8;
+    QStringList items;
+    if (before != nullptr && !before->faint.isEmpty())
+        items += legendItem(faintColour, QStringLiteral("—"),
+                            BeforeAfter::tr("in the source, not drawn"));
+    if (after == nullptr)
+        return items.join(QStringLiteral(" &nbsp; "));
+    if (!after->tools.empty())
+        items += legendItem(tint, QStringLiteral("■"),
+                            BeforeAfter::tr("what the tool mills away (tinted)"));
+    if (!after->unreached.isEmpty())
+        items += legendItem(unreachedColour, QStringLiteral("▨"),
+                            BeforeAfter::tr("too narrow for the tool"));
+    if (after->texts > 0)
+        items += BeforeAfter::tr("Texts: %1").arg(after->texts);
+    if (after->tabs > 0)
+        items += BeforeAfter::tr("Tabs: %1").arg(after->tabs);
+    return items.join(QStringLiteral(" &nbsp; "));
 }
 
 // Of both, also where one of them is a level line, which has no height.
@@ -57,12 +106,22 @@ QRectF united(const QRectF& a, const QRectF& b) {
             QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom()))};
 }
 
+// With what is only shown.
+QRectF boundsOf(const StrokePicture* picture) {
+    if (picture == nullptr)
+        return {};
+    return united(picture->bounds,
+                  picture->faint.isEmpty() ? QRectF() : picture->faint.boundingRect());
+}
+
 } // namespace
 
 BeforeAfter::BeforeAfter(QWidget* parent)
     : QWidget(parent), m_before(view(QStringLiteral("picBefore"), tr("The drawing before"))),
       m_after(view(QStringLiteral("picAfter"), tr("The drawing after"))), m_beforeCount(new QLabel),
-      m_afterCount(new QLabel), m_fit(new QPushButton(tr("&Fit"))) {
+      m_afterCount(new QLabel), m_beforeSize(sizeLabel(QStringLiteral("lblBeforeSize"))),
+      m_afterSize(sizeLabel(QStringLiteral("lblAfterSize"))), m_legend(new QLabel),
+      m_fit(new QPushButton(tr("Fit"))) {
     m_beforeCount->setObjectName(QStringLiteral("lblBeforeCount"));
     m_afterCount->setObjectName(QStringLiteral("lblAfterCount"));
     m_fit->setObjectName(QStringLiteral("cmdFit"));
@@ -73,17 +132,24 @@ BeforeAfter::BeforeAfter(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_before, 1, 0); // these two first: so goes the tab key
     layout->addWidget(m_after, 1, 1);
-    auto* const before = new QHBoxLayout;
-    before->addWidget(caption(QStringLiteral("lblBefore"), tr("Before"), m_before));
-    before->addSpacing(8);
-    before->addWidget(m_beforeCount, 1);
-    auto* const after = new QHBoxLayout;
-    after->addWidget(caption(QStringLiteral("lblAfter"), tr("After"), m_after));
-    after->addSpacing(8);
-    after->addWidget(m_afterCount, 1);
-    after->addWidget(m_fit);
-    layout->addLayout(before, 0, 0);
-    layout->addLayout(after, 0, 1);
+    const auto addHeader = [layout](int column, QLabel* name, QLabel* size) {
+        auto* const row = new QHBoxLayout;
+        row->addWidget(name);
+        row->addStretch(1);
+        row->addWidget(size);
+        layout->addLayout(row, 0, column);
+    };
+    addHeader(0, caption(QStringLiteral("lblBefore"), tr("Before"), m_before), m_beforeSize);
+    addHeader(1, caption(QStringLiteral("lblAfter"), tr("After"), m_after), m_afterSize);
+    layout->addWidget(m_beforeCount, 2, 0);
+    auto* const below = new QHBoxLayout;
+    below->addWidget(m_afterCount, 1);
+    below->addWidget(m_fit);
+    layout->addLayout(below, 2, 1);
+    layout->setHorizontalSpacing(10);
+    m_legend->setObjectName(QStringLiteral("lblLegend"));
+    m_legend->setTextFormat(Qt::RichText);
+    layout->addWidget(m_legend, 3, 0, 1, 2);
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
@@ -109,6 +175,11 @@ void BeforeAfter::setPictures(std::shared_ptr<const StrokePicture> before,
                               std::shared_ptr<const StrokePicture> after) {
     m_beforeCount->setText(countText(before.get()));
     m_afterCount->setText(countText(after.get()));
+    showNamed(*m_beforeSize, tr("Size before"), sizeText(before.get()));
+    showNamed(*m_afterSize, tr("Size after"), sizeText(after.get()));
+    const QString legend = legendText(before.get(), after.get());
+    m_legend->setText(legend);
+    m_legend->setVisible(!legend.isEmpty());
     m_fit->setEnabled(before || after);
     const QRectF bounds = united(boundsOf(before.get()), boundsOf(after.get()));
     // The fitting moves a line by next to nothing; that is no other place.

@@ -32,6 +32,9 @@ private:
     DrawingView* m_after;
     QLabel* m_beforeCount;
     QLabel* m_afterCount;
+    QLabel* m_beforeSize;
+    QLabel* m_afterSize;
+    QLabel* m_legend;
     QPushButton* m_fit;
     QRectF m_bounds; // mm, of both
     bool m_fitted = true;

@@ -11,6 +11,10 @@ namespace torvik {
 // The extensions of drawings that can be prepared, in small letters.
 const QStringList& sourceKinds();
 
+// Those of them that are no plotter drawings: nothing but the preparation reads them.
+const QStringList& foreignKinds();
+bool isForeignDrawing(const QString& name);
+
 // The drawing that is dragged; empty where it is none, or more than one file.
 QString draggedSource(const QMimeData& data);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "prepare/dialog/drawing_view.h"
 
+#include "forms/spoken_role.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,6 +25,7 @@ constexpr double mostScale = 1e4;
 DrawingView::DrawingView(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::StyledPanel);
     setFocusPolicy(Qt::StrongFocus);
+    setSpokenRole(*this, QAccessible::Canvas);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

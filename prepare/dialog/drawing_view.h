@@ -5,7 +5,7 @@
 // the next one is there: so it follows the mouse with any drawing.
 #pragma once
 
-#include "prepare/dialog/latest_work.h"
+#include "forms/latest_work.h"
 #include "prepare/dialog/stroke_picture.h"
 
 #include <QFrame>

@@ -4,8 +4,10 @@
 // work is done in a thread of its own; a change of an option counts once it has rested a moment.
 #pragma once
 
-#include "prepare/dialog/latest_work.h"
+#include "forms/latest_work.h"
+#include "prepare/dialog/pen_choices.h"
 #include "prepare/dialog/prepare_source.h"
+#include "prepare/dialog/presets.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -13,9 +15,12 @@
 #include <filesystem>
 #include <functional>
 
+class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableWidget;
+class QTabWidget;
 
 namespace torvik {
 
@@ -31,6 +36,8 @@ struct PrepareSurroundings {
     // The user wants to go on with the saved drawing; the dialog closes.
     std::function<void(const std::filesystem::path& drawing)> openResult;
     int helpContext = 0;
+    std::vector<LibraryTool> tools{}; // of the workshop, in the order of its list
+    KeptSettings settings{};
 };
 
 class FrmPrepare : public QDialog {
@@ -48,24 +55,32 @@ protected:
 
 private:
     QWidget* buildSourceRow();
+    void addPresets(QHBoxLayout& layout);
     QWidget* buildDrawings();
     QWidget* buildSide();
     QWidget* buildButtons();
     void connectControls();
     void placePensInTabOrder();
 
+    void takePreset(int preset);
+    void rememberPreset() const;
+    QString kind() const; // of the source: its extension in small letters
     void chooseSource();
     // After a change: soon, and at once for a new source.
     void prepareSoon();
     void prepareNow();
+    void proposeTabs();
     void showResult(const PrepareResult& result);
     void showReport(const std::vector<ReportRow>& rows);
     enum class State { idle, good, warning, error };
     void showState(State state, const QString& text);
     void save();
-    void offerToOpen(const std::filesystem::path& drawing);
+    // place: the drawing, and what is to be said of where it stands.
+    void offerToOpen(const std::filesystem::path& drawing, const QString& place);
 
     PrepareSurroundings m_surroundings;
+    Presets m_presets;
+    QVariantMap m_usualValues; // of all options
     std::filesystem::path m_source;
     PrepareResult m_result;
     long m_run = 0; // the number of the newest run
@@ -77,7 +92,9 @@ private:
     QTableWidget* m_report = nullptr;
     OptionPanel* m_options = nullptr;
     PenList* m_pens = nullptr;
-    QLabel* m_pensLabel = nullptr;
+    QComboBox* m_preset = nullptr;
+    QPushButton* m_usual = nullptr;
+    QTabWidget* m_details = nullptr;
     QLabel* m_stateIcon = nullptr;
     QLabel* m_state = nullptr;
     QPushButton* m_save = nullptr;

@@ -2,12 +2,17 @@
 #include "prepare/dialog/option_panel.h"
 
 #include "prepare/dialog/measure_box.h"
+#include "prepare/dialog/tabs_box.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
 
 namespace torvik {
 namespace {
@@ -70,10 +75,90 @@ OptionPanel::OptionPanel(QWidget* parent) : QGroupBox(tr("Options"), parent) {
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setVerticalSpacing(4);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    buildSource(*form);
     buildFitting(*form);
     buildPlacing(*form);
     buildOnRequest(*form);
     connectControls();
+}
+
+void OptionPanel::buildSource(QFormLayout& form) {
+    m_size = choice("cboUnits", {});
+    addRow(form, tr("Gi&ven in"), m_size,
+           tr("The drawing does not say how large it is: look at its size beside the picture"));
+    m_sizeLabel = qobject_cast<QLabel*>(form.labelForField(m_size));
+    m_penBy = choice("cboPenBy", {tr("each colour"), tr("each layer")});
+    addRow(form, tr("A pen &for"), m_penBy,
+           tr("Which pen draws what is chosen in the list of pens: by the colours or by the layers "
+              "of the CAD drawing"));
+    m_penByLabel = qobject_cast<QLabel*>(form.labelForField(m_penBy));
+    m_texts = choice("cboTexts", {tr("in single strokes"), tr("left out")});
+    addRow(form, tr("Writin&g"), m_texts, tr("Single strokes are milled as they are drawn"));
+    askForSize(SizeDoubt::none);
+    offerLayers(false);
+}
+
+void OptionPanel::offerLayers(bool hasLayers) {
+    m_penBy->setVisible(hasLayers);
+    m_penByLabel->setVisible(hasLayers);
+}
+
+void OptionPanel::askForSize(SizeDoubt doubt) {
+    m_size->setVisible(doubt != SizeDoubt::none);
+    m_sizeLabel->setVisible(doubt != SizeDoubt::none);
+    if (doubt == std::exchange(m_doubt, doubt))
+        return;
+    const QSignalBlocker quiet(m_size);
+    m_size->clear();
+    if (doubt == SizeDoubt::unit)
+        m_size->addItems({tr("mm"), tr("cm"), tr("m"), tr("inch")});
+    else if (doubt == SizeDoubt::pixels)
+        m_size->addItems({tr("as the file's program does"), tr("96 pixels to the inch"),
+                          tr("90 pixels to the inch"), tr("72 pixels to the inch")});
+}
+
+SourceOptions OptionPanel::sourceOptions() const {
+    SourceOptions options;
+    options.roundTurn = m_roundTurn->value();
+    options.texts = m_texts->currentIndex() == 0;
+    options.byLayer = m_penBy->currentIndex() == 1;
+    const int answer = m_size->currentIndex();
+    if (m_doubt == SizeDoubt::unit)
+        options.units = static_cast<LengthUnit>(answer);
+    constexpr double densities[] = {96, 90, 72};
+    if (m_doubt == SizeDoubt::pixels && answer > 0)
+        options.dpi = densities[answer - 1];
+    return options;
+}
+
+QVariantMap OptionPanel::values() const {
+    QVariantMap values;
+    for (const QDoubleSpinBox* const box : findChildren<QDoubleSpinBox*>())
+        values[box->objectName()] = box->value();
+    for (const QCheckBox* const box : findChildren<QCheckBox*>())
+        values[box->objectName()] = box->isChecked();
+    for (const QComboBox* const box : findChildren<QComboBox*>())
+        if (box != m_size) // the next drawing's size is another question
+            values[box->objectName()] = box->currentIndex();
+    return values;
+}
+
+void OptionPanel::setValues(const QVariantMap& values) {
+    if (values == this->values())
+        return;
+    {
+        const QSignalBlocker once(this);
+        for (auto* const box : findChildren<QDoubleSpinBox*>())
+            box->setValue(values.value(box->objectName(), box->value()).toDouble());
+        for (auto* const box : findChildren<QCheckBox*>())
+            box->setChecked(values.value(box->objectName(), box->isChecked()).toBool());
+        for (auto* const box : findChildren<QComboBox*>())
+            if (box != m_size)
+                box->setCurrentIndex(
+                    std::clamp(values.value(box->objectName(), box->currentIndex()).toInt(), 0,
+                               box->count() - 1));
+    }
+    emit changed();
 }
 
 void OptionPanel::buildFitting(QFormLayout& form) {
@@ -94,7 +179,10 @@ void OptionPanel::buildFitting(QFormLayout& form) {
                          tr("Take out what the same pen has drawn before"));
     m_optimize = check("chkOptimize", tr("Short &way between lines"),
                        tr("Order what each pen draws so that little is travelled in between"));
-    for (QCheckBox* const box : {m_arcs, m_duplicates, m_optimize})
+    m_insideFirst = check("chkInsideFirst", tr("&Holes before what is around them"),
+                          tr("What lies inside an outline is drawn before the outline, while the "
+                             "part still holds; always so where the tool runs beside a line"));
+    for (QCheckBox* const box : {m_arcs, m_duplicates, m_optimize, m_insideFirst})
         form.addRow(box);
 }
 
@@ -127,15 +215,19 @@ void OptionPanel::buildOnRequest(QFormLayout& form) {
         control->setToolTip(moved);
     m_dots->setToolTip(dots);
     form.addRow(m_drawDots, m_dots);
+    m_tabs = new TabsBox;
+    form.addRow(m_tabs);
 }
 
 void OptionPanel::connectControls() {
     for (MeasureBox* const box : {m_tolerance, m_roundTurn, m_scale, m_originX, m_originY, m_dots})
         connect(box, &MeasureBox::valueChanged, this, &OptionPanel::changed);
-    for (QCheckBox* const box : {m_arcs, m_duplicates, m_optimize, m_moved, m_drawDots})
+    for (QCheckBox* const box :
+         {m_arcs, m_duplicates, m_optimize, m_insideFirst, m_moved, m_drawDots})
         connect(box, &QCheckBox::toggled, this, &OptionPanel::changed);
-    for (QComboBox* const box : {m_mirror, m_rotate})
+    for (QComboBox* const box : {m_mirror, m_rotate, m_texts, m_size, m_penBy})
         connect(box, &QComboBox::currentIndexChanged, this, &OptionPanel::changed);
+    connect(m_tabs, &TabsBox::changed, this, &OptionPanel::changed);
     const auto open = [](QCheckBox* by, QWidget* control) {
         control->setEnabled(by->isChecked());
         connect(by, &QCheckBox::toggled, control, &QWidget::setEnabled);
@@ -146,8 +238,12 @@ void OptionPanel::connectControls() {
     open(m_drawDots, m_dots);
 }
 
+void OptionPanel::proposeTabs(int outlines, int through) {
+    m_tabs->propose(outlines, through);
+}
+
 QWidget* OptionPanel::lastControl() const {
-    return m_dots;
+    return m_tabs->lastControl();
 }
 
 PrepareOptions OptionPanel::options() const {
@@ -165,6 +261,8 @@ PrepareOptions OptionPanel::options() const {
         options.origin = Point{m_originX->value(), m_originY->value()};
     if (m_drawDots->isChecked())
         options.dots = m_dots->value();
+    options.beside.tabs = m_tabs->tabs();
+    options.beside.insideFirst = m_insideFirst->isChecked();
     return options;
 }
 

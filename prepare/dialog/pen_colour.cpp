@@ -4,17 +4,20 @@
 #include "forms/colour.h"
 #include "job/job.h"
 #include "job/pens.h"
+#include "languages/shown_text.h"
 
+#include <QComboBox>
 #include <QPainter>
 
 #include <array>
+#include <string>
 
 namespace torvik {
 namespace {
 
 struct PenLook {
     QColor colour;
-    QString name;
+    std::string name;
 };
 
 std::array<PenLook, penCount> makeLooks() {
@@ -22,10 +25,8 @@ std::array<PenLook, penCount> makeLooks() {
     SetColourDefinitions(job);
     std::array<PenLook, penCount> looks;
     for (int pen = 1; pen <= penCount; ++pen) {
-        looks[static_cast<std::size_t>(pen - 1)] = {
-            colourOf(job.answers.gudtPens[pen].lngColour),
-            QStringLiteral("%1 %2").arg(pen).arg(
-                QString::fromStdString(job.answers.gudtPens[pen].strColour))};
+        looks[static_cast<std::size_t>(pen - 1)] = {colourOf(job.answers.gudtPens[pen].lngColour),
+                                                    job.answers.gudtPens[pen].strColour};
     }
     return looks;
 }
@@ -44,7 +45,13 @@ QColor penColour(int pen) {
 
 QString penName(int pen) {
     const PenLook* const look = lookOf(pen);
-    return look == nullptr ? QString() : look->name;
+    return look == nullptr ? QString()
+                           : QStringLiteral("%1 %2").arg(pen).arg(shownText(look->name));
+}
+
+void addPens(QComboBox& box) {
+    for (int pen = 1; pen <= penCount; ++pen)
+        box.addItem(QIcon(colourSwatch(penColour(pen))), penName(pen), pen);
 }
 
 QPixmap colourSwatch(const QColor& colour) {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Which pen draws what: a row for each pen of the drawing, or for each colour of a picture, with
-// the pen, 1 to 8, to choose.
+// Which pen draws what and where its tool runs: a row for each pen of the drawing, or for each
+// colour of a picture.
 #pragma once
 
-#include "prepare/dialog/prepare_source.h"
+#include "prepare/dialog/pen_choices.h"
 
 #include <QTableWidget>
 
-class QComboBox;
+#include <memory>
+#include <set>
 
 namespace torvik {
 
@@ -15,28 +16,33 @@ class PenList : public QTableWidget {
     Q_OBJECT
 
 public:
-    explicit PenList(QWidget* parent = nullptr);
+    explicit PenList(std::vector<LibraryTool> tools, QWidget* parent = nullptr);
 
     // Makes the rows anew where the drawing has other pens or colours than those on show.
     void setPens(const std::vector<SourcePen>& pens);
 
-    // The box of each row.
-    const std::vector<QComboBox*>& choices() const { return m_choices; }
+    // The controls of all rows, as the tab key goes through them.
+    std::vector<QWidget*> controls() const;
     // What was chosen: pens by their numbers, and colours.
     std::map<int, int> pens() const;
     std::map<std::string, int> colours() const;
+    // By the pen that draws, 1 to 8.
+    std::map<int, PenRun> runs() const;
+    std::set<int> drawnBy() const; // 0 where none is chosen yet
 
 signals:
-    // The user has chosen a pen.
     void changed();
 
 private:
     bool shows(const std::vector<SourcePen>& pens) const;
     void addPen(int row, const SourcePen& pen);
-    int chosen(std::size_t row) const;
+    void setControl(int row, int column, QWidget& control);
+    // A pen has one tool: all rows that it draws show it.
+    void share(const PenChoices& from);
 
+    std::vector<LibraryTool> m_tools;
     std::vector<SourcePen> m_pens;
-    std::vector<QComboBox*> m_choices;
+    std::vector<std::unique_ptr<PenChoices>> m_rows;
 };
 
 } // namespace torvik

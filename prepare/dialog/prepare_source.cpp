@@ -68,28 +68,46 @@ std::string lossAsItIs(const SourceDrawing& source, const std::string& bytes) {
     }
 }
 
+std::shared_ptr<const StrokePicture> pictureBefore(std::span<const Stroke> strokes,
+                                                   std::span<const Stroke> leftOut) {
+    auto picture = std::make_shared<StrokePicture>(pictureOf(strokes));
+    picture->faint = pathOf(leftOut);
+    return picture;
+}
+
+StrokePicture pictureAfter(const PreparedDrawing& prepared) {
+    const BesideReport& beside = prepared.report.beside;
+    StrokePicture picture = pictureOf(prepared.strokes);
+    picture.tools = beside.tools;
+    picture.unreached = pathOf(beside.narrow);
+    picture.texts = prepared.report.source.texts;
+    picture.tabs = beside.tabs;
+    return picture;
+}
+
 void prepareInto(PrepareResult& result, const PrepareRequest& request) {
     const std::string name = utf8FromPath(request.source);
     if (!result.bytes)
         result.bytes =
             std::make_shared<const std::string>(readWholeFile(request.source, maxDrawingBytes));
-    SourceDrawing drawing =
-        readSource(*result.bytes, name, request.options.roundTurn, request.colours);
+    SourceDrawing drawing = readSource(*result.bytes, name, request.sourceOptions);
     result.pens = pensOf(drawing, request.options.pens);
+    result.sizeDoubt = drawing.report.sizeDoubt;
+    result.hasLayers = drawing.report.hasLayers;
     // What is shown where the preparation fails.
-    result.before = std::make_shared<const StrokePicture>(pictureOf(drawing.strokes));
+    result.before = pictureBefore(drawing.strokes, drawing.leftOut);
     requirePens(result.pens);
     const std::string loss = lossAsItIs(drawing, *result.bytes);
 
     PrepareOptions options = request.options;
     options.keepBefore = true;
     const PreparedDrawing prepared = prepareDrawing(std::move(drawing), options);
-    result.before = std::make_shared<const StrokePicture>(pictureOf(prepared.before));
-    result.after = std::make_shared<const StrokePicture>(pictureOf(prepared.strokes));
+    result.before = pictureBefore(prepared.before, prepared.leftOut);
+    result.after = std::make_shared<const StrokePicture>(pictureAfter(prepared));
     result.rows = reportRows(prepared.report);
     if (!loss.empty())
         result.rows.push_back({tr("Lost without preparing"), loss});
-    result.lost = lossLine(prepared.report);
+    result.lost = lossRows(prepared.report);
     result.text = prepared.text;
 }
 

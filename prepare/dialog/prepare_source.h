@@ -17,8 +17,8 @@ namespace torvik {
 
 // A pen of the source, or a colour of a picture, and which pen draws it.
 struct SourcePen {
-    int number = 0;     // 0 where it is a colour
-    std::string colour; // "#rrggbb"
+    int number = 0;
+    std::string colour; // "#rrggbb" or "layer:NAME"; empty where it is a pen
     long strokes = 0;
     int target = 0; // 1 to 8; 0: none is chosen yet
 };
@@ -27,16 +27,18 @@ struct PrepareRequest {
     std::filesystem::path source;
     std::shared_ptr<const std::string> bytes; // of the source; null: they are still to be read
     PrepareOptions options;
-    std::map<std::string, int> colours; // "#rrggbb" to pen
+    SourceOptions sourceOptions;
 };
 
 struct PrepareResult {
     std::shared_ptr<const std::string> bytes; // null where the source cannot be read
     std::vector<SourcePen> pens;
-    std::string error; // empty where there is a drawing to save
-    std::string text;  // of that drawing
-    std::string lost;  // what the drawing lost, in one line
+    std::string error;           // empty where there is a drawing to save
+    std::string text;            // of that drawing
+    std::vector<ReportRow> lost; // what the drawing lost
     std::vector<ReportRow> rows;
+    SizeDoubt sizeDoubt = SizeDoubt::none;
+    bool hasLayers = false;
     std::shared_ptr<const StrokePicture> before; // null where the source cannot be understood
     std::shared_ptr<const StrokePicture> after;  // null after an error
 };

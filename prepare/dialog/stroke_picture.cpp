@@ -33,6 +33,15 @@ void addArc(QPainterPath& path, Point start, const Segment& arc) {
     path.arcTo(square, -degrees(std::atan2(arm.y, arm.x)), -arc.sweep);
 }
 
+void addSegment(QPainterPath& path, Point start, const Segment& segment) {
+    if (isLine(segment))
+        path.lineTo(inMm(segment.end));
+    else if (isArc(segment))
+        addArc(path, start, segment);
+    else
+        path.cubicTo(inMm(segment.first), inMm(segment.second), inMm(segment.end));
+}
+
 class PictureMaker {
 public:
     void add(const Stroke& stroke) {
@@ -79,13 +88,7 @@ private:
         for (const Segment& segment : stroke.segments) {
             if (*m_elements >= chunkSize)
                 begin(stroke.pen, place);
-            QPainterPath& path = m_chunk->path;
-            if (isLine(segment))
-                path.lineTo(inMm(segment.end));
-            else if (isArc(segment))
-                addArc(path, place, segment);
-            else
-                path.cubicTo(inMm(segment.first), inMm(segment.second), inMm(segment.end));
+            addSegment(m_chunk->path, place, segment);
             m_chunk->joints.append(inMm(segment.end));
             place = segment.end;
             ++*m_elements;
@@ -141,6 +144,19 @@ StrokePicture pictureOf(std::span<const Stroke> strokes) {
     return picture;
 }
 
+QPainterPath pathOf(std::span<const Stroke> strokes) {
+    QPainterPath path;
+    for (const Stroke& stroke : strokes) {
+        path.moveTo(inMm(stroke.start));
+        Point place = stroke.start;
+        for (const Segment& segment : stroke.segments) {
+            addSegment(path, place, segment);
+            place = segment.end;
+        }
+    }
+    return path;
+}
+
 QTransform ViewPlace::transform(QSizeF size) const {
     QTransform result;
     result.translate(size.width() / 2, size.height() / 2);
@@ -148,6 +164,43 @@ QTransform ViewPlace::transform(QSizeF size) const {
     result.translate(-centre.x(), -centre.y());
     return result;
 }
+
+namespace {
+
+using ChunksInSight = std::vector<const PictureChunk*>;
+
+// Opaque, so that it stays one tint where ways cross.
+QColor tintOf(const QColor& colour) {
+    constexpr int whites = 3; // for one part of the colour
+    const auto mixed = [](int part) { return (part + whites * 255) / (whites + 1); };
+    return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
+}
+
+void paintSwept(QPainter& painter, const StrokePicture& picture, const ChunksInSight& inSight) {
+    for (const PictureChunk* const chunk : inSight) {
+        const auto tool = picture.tools.find(chunk->pen);
+        if (tool == picture.tools.end())
+            continue;
+        painter.setPen(QPen(tintOf(penColour(chunk->pen)), tool->second, Qt::SolidLine,
+                            Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(chunk->path);
+    }
+    painter.fillPath(picture.unreached, QColor(unreachedColour));
+    // Hatched too: a tint of a red pen looks much the same to some eyes.
+    const QTransform toImage = painter.transform();
+    painter.resetTransform(); // a hatch of the screen's pixels
+    painter.fillPath(toImage.map(picture.unreached), QBrush(Qt::white, Qt::BDiagPattern));
+    painter.setTransform(toImage);
+}
+
+void paintFaint(QPainter& painter, const StrokePicture& picture, double ratio) {
+    QPen pen(QColor(faintColour), std::max(1.0, std::round(ratio)));
+    pen.setCosmetic(true);
+    painter.setPen(pen);
+    painter.drawPath(picture.faint);
+}
+
+} // namespace
 
 QImage paintPicture(const StrokePicture& picture, const ViewPlace& place, QSize size, double ratio,
                     const std::stop_token& stop) {
@@ -158,9 +211,12 @@ QImage paintPicture(const StrokePicture& picture, const ViewPlace& place, QSize 
     const QTransform toImage = place.transform(size) * QTransform::fromScale(ratio, ratio);
     // A level line has no height, and nothing meets what is empty.
     const double trifle = 2 / place.scale;
+    double widest = trifle;
+    for (const auto& [pen, diameter] : picture.tools)
+        widest = std::max(widest, diameter);
     const QRectF seen =
-        toImage.inverted().mapRect(QRectF(image.rect())).adjusted(-trifle, -trifle, trifle, trifle);
-    std::vector<const PictureChunk*> inSight;
+        toImage.inverted().mapRect(QRectF(image.rect())).adjusted(-widest, -widest, widest, widest);
+    ChunksInSight inSight;
     qsizetype marks = 0;
     for (const PictureChunk& chunk : picture.chunks)
         if (seen.intersects(chunk.bounds.adjusted(-trifle, -trifle, trifle, trifle))) {
@@ -170,6 +226,9 @@ QImage paintPicture(const StrokePicture& picture, const ViewPlace& place, QSize 
 
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setTransform(toImage);
+    paintFaint(painter, picture, ratio);
+    paintSwept(painter, picture, inSight);
     for (const PictureChunk* const chunk : inSight) {
         if (stop.stop_requested())
             break;

@@ -12,6 +12,7 @@
 #include <QRectF>
 #include <QTransform>
 
+#include <map>
 #include <span>
 #include <stop_token>
 #include <vector>
@@ -27,15 +28,25 @@ struct PictureChunk {
     QPolygonF centres; // of circles
 };
 
+inline constexpr QRgb unreachedColour = 0xffd81818;
+inline constexpr QRgb faintColour = 0xffb0b0b0;
+
 struct StrokePicture {
     std::vector<PictureChunk> chunks;
+    std::map<int, double> tools; // mm, of the pens whose tool runs beside the drawing's lines
+    QPainterPath unreached;      // areas that such a tool cannot get into
+    QPainterPath faint;          // what the source holds and nothing draws
     QRectF bounds;
     std::size_t elements = 0;
     std::size_t circles = 0;
+    long texts = 0; // drawn in single strokes
+    long tabs = 0;  // gaps that hold the part
 };
 
 // Of strokes in plotter units.
 StrokePicture pictureOf(std::span<const Stroke> strokes);
+// The same strokes as one path.
+QPainterPath pathOf(std::span<const Stroke> strokes);
 
 // What of a drawing a view shows.
 struct ViewPlace {
@@ -48,7 +59,8 @@ struct ViewPlace {
 };
 
 // The picture on white as a view of that size (pixels) sees it, with `ratio` image pixels for each
-// of them. Few joints and centres are marked. Stopped, the image is left unfinished.
+// of them. Few joints and centres are marked; what the tools sweep is tinted, what they cannot
+// reach is red. Stopped, the image is left unfinished.
 QImage paintPicture(const StrokePicture& picture, const ViewPlace& place, QSize size, double ratio,
                     const std::stop_token& stop);
 
