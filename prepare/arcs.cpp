@@ -30,9 +30,35 @@ double angleBetween(Point a, Point b) {
     return degrees(std::atan2(cross(a, b), dot(a, b)));
 }
 
+namespace {
+
+// Whether the point lies on the sweep, as far as two products tell for certain; nothing near the
+// ends of the sweep, or where it is about half a turn.
+std::optional<bool> isSurelyOnSweep(Point start, const Segment& arc, Point point) {
+    constexpr double certain = 1e-6;
+    constexpr double nearHalf = 1; // degrees
+    const Point from = start - arc.first;
+    const Point to = arc.end - arc.first;
+    const Point at = point - arc.first;
+    const double least = certain * (dot(from, from) + dot(at, at));
+    const double behindStart = std::copysign(1, arc.sweep) * cross(from, at);
+    const double beforeEnd = std::copysign(1, arc.sweep) * cross(at, to);
+    const double beyondHalf = std::fabs(arc.sweep) - fullTurn / 2;
+    if (std::fabs(behindStart) < least || std::fabs(beforeEnd) < least ||
+        std::fabs(beyondHalf) < nearHalf)
+        return {};
+    const bool isBehindStart = behindStart > 0;
+    const bool isBeforeEnd = beforeEnd > 0;
+    return beyondHalf < 0 ? isBehindStart && isBeforeEnd : isBehindStart || isBeforeEnd;
+}
+
+} // namespace
+
 bool isOnSweep(Point start, const Segment& arc, Point point) {
     if (std::fabs(arc.sweep) >= fullTurn)
         return true;
+    if (const auto isSurely = isSurelyOnSweep(start, arc, point))
+        return *isSurely;
     double turn = angleBetween(start - arc.first, point - arc.first);
     if (turn != 0 && (turn < 0) != (arc.sweep < 0))
         turn += std::copysign(fullTurn, arc.sweep);

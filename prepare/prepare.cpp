@@ -7,12 +7,14 @@
 #include "job/job.h"
 #include "job/pens.h"
 #include "prepare/fitting/grid.h"
+#include "prepare/placing/inside_first.h"
 #include "prepare/placing/join.h"
 #include "prepare/placing/order.h"
 #include "prepare/report.h"
 #include "prepare/writing/check.h"
 #include "prepare/writing/writer.h"
 
+#include <iterator>
 #include <utility>
 
 namespace torvik {
@@ -24,8 +26,8 @@ constexpr double fittingShare = 0.97;
 class Preparation {
 public:
     Preparation(SourceDrawing source, const PrepareOptions& options)
-        : m_options(options),
-          m_strokes(std::move(source.strokes)), m_fit{options.tolerance * plotterUnitsPerMm *
+        : m_options(options), m_strokes(std::move(source.strokes)),
+          m_leftOut(std::move(source.leftOut)), m_fit{options.tolerance * plotterUnitsPerMm *
                                                           fittingShare,
                                                       options.roundTurn, options.arcs,
                                                       options.pointLimit} {
@@ -36,11 +38,14 @@ public:
         placeAll();
         measure(m_result.report.cutBefore, m_result.report.airBefore);
         m_result.report.elementsBefore = segmentCount(m_strokes);
-        if (m_options.keepBefore)
+        if (m_options.keepBefore) {
             m_result.before = m_strokes;
+            m_result.leftOut = std::move(m_leftOut);
+        }
         bringInOrder();
         goOnUnlessStopped();
         fitStrokes(m_strokes, m_fit, m_result.report.fit);
+        m_exact.settle(m_strokes, m_options.tolerance * plotterUnitsPerMm);
         goOnUnlessStopped();
         write();
         measure(m_result.report.cutAfter, m_result.report.airAfter);
@@ -53,8 +58,14 @@ private:
     // Dots become circles between scaling and placing: their diameter is the part's, and the
     // drawing's corner is theirs as well.
     void placeAll() {
-        mapPens(m_strokes, m_options.pens);
-        place(m_strokes, {m_options.scale, Mirror::none, 0, {}});
+        if (std::vector<Stroke> penless = mapPens(m_strokes, m_options.pens); !penless.empty()) {
+            m_result.report.source.lose(Loss::noPen, static_cast<long>(penless.size()));
+            m_leftOut.insert(m_leftOut.end(), std::make_move_iterator(penless.begin()),
+                             std::make_move_iterator(penless.end()));
+            m_result.report.source.remarks.emplace_back(
+                "pen 0 has a colour of its own; --pen 0=1 draws its lines by pen 1");
+        }
+        place(m_strokes, {m_options.scale, Mirror::none, 0, {}}, &m_leftOut);
         std::optional<double> dots;
         if (m_options.dots)
             dots = *m_options.dots * plotterUnitsPerMm;
@@ -62,7 +73,7 @@ private:
         Placement placement{1, m_options.mirror, m_options.rotation, {}};
         if (m_options.origin)
             placement.origin = *m_options.origin * plotterUnitsPerMm;
-        place(m_strokes, placement);
+        place(m_strokes, placement, &m_leftOut);
         m_result.report.dotsDrawn = dots.has_value();
         if (m_strokes.empty())
             throw RunTimeError(whyNothing());
@@ -81,19 +92,41 @@ private:
             throw RunTimeError("the preparation was stopped");
     }
 
+    // Beside a circle of the drawing a tool makes a circle, too.
+    void runTools() {
+        const RunOptions& beside = m_options.beside;
+        if (beside.runs.empty() && beside.tabs.empty())
+            return;
+        m_exact = ExactCircles(m_strokes, beside);
+        runBeside(m_strokes, beside, m_options.tolerance * plotterUnitsPerMm,
+                  m_result.report.beside);
+    }
+
+    // A pocket's own order is from the inside out already.
+    bool isInsideFirst() const {
+        return m_options.optimize || m_options.beside.insideFirst || !m_options.beside.runs.empty();
+    }
+
     // A new order can bring strokes together that touch.
     void bringInOrder() {
         PrepareReport& report = m_result.report;
         for (Stroke& stroke : m_strokes)
             settle(stroke);
+        // What is too small to be written; dots have become circles before.
+        std::erase_if(m_strokes, [](const Stroke& stroke) { return stroke.isDot(); });
+        if (m_strokes.empty())
+            throw RunTimeError("the drawing holds nothing to draw");
         sortByPen(m_strokes);
         if (m_options.dropDuplicates)
             report.duplicates = dropDuplicates(m_strokes);
         report.joined = joinTouching(m_strokes);
+        runTools();
         if (m_options.optimize) {
             orderStrokes(m_strokes, m_options.stop);
             report.joined += joinTouching(m_strokes);
         }
+        if (isInsideFirst())
+            drawInsideFirst(m_strokes, m_options.tolerance * plotterUnitsPerMm);
     }
 
     void write() {
@@ -130,7 +163,9 @@ private:
 
     const PrepareOptions& m_options;
     std::vector<Stroke> m_strokes;
+    std::vector<Stroke> m_leftOut;
     FitOptions m_fit;
+    ExactCircles m_exact;
     PreparedDrawing m_result;
 };
 

@@ -4,6 +4,7 @@
 // more elements than a job takes, and one that is not read back as it was meant.
 #pragma once
 
+#include "prepare/beside/beside.h"
 #include "prepare/fitting/fit.h"
 #include "prepare/placing/place.h"
 #include "prepare/source/hpgl_source.h"
@@ -29,6 +30,7 @@ struct PrepareOptions {
     int rotation = 0;            // 0, 90, 180, 270 degrees
     std::optional<Point> origin; // where the lower left corner comes to
     std::map<int, int> pens;
+    RunOptions beside;
     bool keepBefore = false; // for showing both
     std::size_t pointLimit = FitOptions{}.pointLimit;
     std::stop_token stop; // for those who no longer want the result
@@ -46,6 +48,7 @@ struct PenUse {
 struct PrepareReport {
     SourceReport source;
     FitReport fit;
+    BesideReport beside;
     long dots = 0;
     bool dotsDrawn = false;
     long joined = 0;
@@ -61,7 +64,8 @@ struct PrepareReport {
 };
 
 struct PreparedDrawing {
-    std::vector<Stroke> before; // placed, pens given, nothing fitted; where asked for
+    std::vector<Stroke> before;  // placed, pens given, nothing fitted; where asked for
+    std::vector<Stroke> leftOut; // what the source shows beside it; where asked for
     std::vector<Stroke> strokes;
     std::string text; // the drawing to be saved
     PrepareReport report;

@@ -37,6 +37,7 @@ public:
     std::vector<ReportRow> make() {
         addRead();
         addLost();
+        addBeside();
         addDone();
         addPens();
         addSizes();
@@ -46,6 +47,11 @@ public:
 private:
     void add(std::string what, std::string value) {
         m_rows.push_back({std::move(what), std::move(value)});
+    }
+
+    void addCount(const char* what, long count) {
+        if (count > 0)
+            add(what, formatInteger(count));
     }
 
     void addRead() {
@@ -71,6 +77,10 @@ private:
             add("Pen", "what comes before the first pen is drawn by pen 1");
         if (source.guessedCorners)
             add("Size", "scaled without corners of its own; those of an A4 plotter are taken");
+        for (const std::string& remark : source.remarks)
+            add("Note", remark);
+        addCount("Texts drawn", source.texts);
+        addCount("Letters unknown, drawn as boxes", source.unknownLetters);
     }
 
     void addLost() {
@@ -78,18 +88,33 @@ private:
             if (m_report.source.losses[i] > 0)
                 add("Lost: " + std::string(lossText(static_cast<Loss>(i))),
                     formatInteger(m_report.source.losses[i]));
+        for (const auto& [reason, count] : m_report.source.leftOut)
+            add("Lost: " + reason, formatInteger(count));
         if (m_report.dots > 0)
             add("Dots",
                 formatInteger(m_report.dots) +
                     (m_report.dotsDrawn ? ", drawn as circles" : ", not drawn without a diameter"));
     }
 
+    void addBeside() {
+        const BesideReport& beside = m_report.beside;
+        for (const auto& [pen, diameter] : beside.tools)
+            add("Tool of pen " + formatInteger(pen), formatFixed(diameter, 2) + " mm");
+        addCount("Outlines that a tool runs beside", beside.outlines);
+        addCount("Open lines that stay on the line", beside.openLines);
+        addCount("Places too narrow for the tool", beside.unreached);
+        addCount("Tabs", beside.tabs);
+        addCount("Outlines too short for their tabs", beside.withoutTabs);
+        if (!beside.crossings.empty()) {
+            const Point first = beside.crossings.front() * (1 / plotterUnitsPerMm);
+            add("Outlines that cross", formatInteger(static_cast<long>(beside.crossings.size())) +
+                                           ", the first at X " + formatFixed(first.x, 2) + " Y " +
+                                           formatFixed(first.y, 2));
+        }
+    }
+
     void addDone() {
         const FitReport& fit = m_report.fit;
-        const auto addCount = [&](const char* what, long count) {
-            if (count > 0)
-                add(what, formatInteger(count));
-        };
         addCount("Duplicates taken out", m_report.duplicates);
         addCount("Strokes joined", m_report.joined);
         addCount("Curves taken apart", fit.curves);
@@ -112,7 +137,8 @@ private:
 
     void addPens() {
         for (const ColourUse& use : m_report.source.colours)
-            add("Colour " + use.colour,
+            add(use.colour.starts_with(layerMark) ? "Layer " + use.colour.substr(layerMark.size())
+                                                  : "Colour " + use.colour,
                 "pen " + formatInteger(use.pen) + ", " + amount(use.strokes, "stroke"));
         for (const PenUse& pen : m_report.pens)
             add("Pen " + formatInteger(pen.pen) + " " + pen.name,
@@ -147,18 +173,27 @@ std::string reportText(std::string_view name, const PrepareReport& report) {
     return text;
 }
 
-std::string lossLine(const PrepareReport& report) {
-    std::string line;
+std::vector<ReportRow> lossRows(const PrepareReport& report) {
+    std::vector<ReportRow> rows;
     const auto add = [&](std::string_view what, long count) {
         if (count > 0)
-            line += (line.empty() ? "" : ", ") + std::string(what) + ": " + formatInteger(count);
+            rows.push_back({std::string(what), formatInteger(count)});
     };
     for (std::size_t i = 0; i < lossCount; ++i)
         add(lossText(static_cast<Loss>(i)), report.source.losses[i]);
+    for (const auto& [reason, count] : report.source.leftOut)
+        add(reason, count);
     if (!report.dotsDrawn)
         add("dots (not drawn without a diameter)", report.dots);
     for (const auto& [name, count] : report.source.unknown)
         add("unknown " + name, count);
+    return rows;
+}
+
+std::string lossLine(const PrepareReport& report) {
+    std::string line;
+    for (const ReportRow& row : lossRows(report))
+        line += (line.empty() ? "" : ", ") + row.what + ": " + row.value;
     return line;
 }
 

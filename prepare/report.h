@@ -20,7 +20,10 @@ std::vector<ReportRow> reportRows(const PrepareReport& report);
 // The rows under the drawing's name.
 std::string reportText(std::string_view name, const PrepareReport& report);
 
-// What a drawing lost, in one line; empty where it lost nothing.
+// What a drawing lost, and how many of each; none where it lost nothing.
+std::vector<ReportRow> lossRows(const PrepareReport& report);
+
+// The same in one line.
 std::string lossLine(const PrepareReport& report);
 
 } // namespace torvik

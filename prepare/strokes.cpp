@@ -17,6 +17,25 @@ void includeArc(StrokeExtents& extents, Point start, const Segment& arc) {
             extents.include(arc.first + direction);
 }
 
+// Where a coordinate of a curve turns back: the roots of its derivative between 0 and 1.
+void includeTurns(StrokeExtents& extents, Point start, const Segment& curve, double Point::*axis) {
+    const double a = curve.first.*axis - start.*axis;
+    const double b = curve.second.*axis - curve.first.*axis;
+    const double c = curve.end.*axis - curve.second.*axis;
+    const double bent = a - 2 * b + c;
+    const double root = std::sqrt(std::max((b - a) * (b - a) - bent * a, 0.0));
+    // Divided so that a curve that is hardly bent loses nothing.
+    const double sum = (a - b) + std::copysign(root, a - b);
+    for (const double t : {sum / bent, a / sum})
+        if (t > 0 && t < 1)
+            extents.include(pointOnCurve(start, curve, t));
+}
+
+void includeCurve(StrokeExtents& extents, Point start, const Segment& curve) {
+    includeTurns(extents, start, curve, &Point::x);
+    includeTurns(extents, start, curve, &Point::y);
+}
+
 double drawnLength(Point start, const Segment& segment) {
     switch (segment.kind) {
     case SegmentKind::line:
@@ -101,10 +120,8 @@ StrokeExtents extentsOf(std::span<const Stroke> strokes) {
             extents.include(segment.end);
             if (segment.kind == SegmentKind::arc)
                 includeArc(extents, from, segment);
-            if (segment.kind == SegmentKind::curve) {
-                extents.include(segment.first);
-                extents.include(segment.second);
-            }
+            if (segment.kind == SegmentKind::curve)
+                includeCurve(extents, from, segment);
             from = segment.end;
         }
     }

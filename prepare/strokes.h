@@ -99,7 +99,7 @@ struct StrokeExtents {
     void include(Point point);
 };
 
-// Of curves the control points count, which lie around them.
+// Of what is drawn: the control points of curves do not count.
 StrokeExtents extentsOf(std::span<const Stroke> strokes);
 
 // The length that is drawn; of a curve, that of 64 chords.

@@ -3,28 +3,20 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "base/text.h"
+#include "prepare/dxf/dxf_source.h"
 #include "prepare/svg/svg_source.h"
 
-#include <algorithm>
-
 namespace torvik {
-namespace {
 
-bool isPicture(std::string_view fileName) {
-    constexpr std::string_view extension = ".svg";
-    return fileName.size() >= extension.size() &&
-           std::equal(extension.begin(), extension.end(), fileName.end() - extension.size(),
-                      [](char a, char b) { return a == b || a == b - 'A' + 'a'; });
-}
-
-} // namespace
-
-SourceDrawing readSource(std::string_view bytes, std::string_view fileName, double roundTurn,
-                         const std::map<std::string, int>& colours) {
-    if (isPicture(fileName))
-        return readSvg(bytes, fileName, {colours});
-    HpglSourceOptions options;
-    options.roundTurn = roundTurn;
+SourceDrawing readSource(std::string_view bytes, std::string_view fileName,
+                         const SourceOptions& options) {
+    const std::string name = lowered(fileName);
+    if (name.ends_with(".svg"))
+        return readSvg(bytes, fileName, options);
+    // The other form of such drawings is told from the one that is read.
+    if (name.ends_with(".dxf") || name.ends_with(".dwg"))
+        return readDxf(bytes, fileName, options);
     return readHpgl(bytes, fileName, options);
 }
 

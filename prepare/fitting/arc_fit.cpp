@@ -4,6 +4,8 @@
 #include "prepare/arcs.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace torvik {
 namespace {
@@ -69,24 +71,35 @@ bool hasLoneChord(std::span<const Point> points, double radius, double tolerance
         return i + 1 < points.size() ? distance(points[i], points[i + 1]) : 0.0;
     };
     double before = 0;
+    double own = chord(0);
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        const double own = chord(i);
+        const double next = chord(i + 1);
         const bool bulges = own * own > 8 * radius * tolerance;
-        if (bulges && own > likeness * std::max(before, chord(i + 1)))
+        if (bulges && own > likeness * std::max(before, next))
             return true;
-        before = own;
+        before = std::exchange(own, next);
     }
     return false;
 }
 
+// What points lie on: an arc, or a line.
+struct Shape {
+    bool isFlat = false;
+    Point centre;
+    double radius = 0;
+};
+
+double widestTurn(const FitOptions& options) {
+    return options.roundTurn + turnSlack;
+}
+
 // The sweep over all chords; none where one of them turns too far or back.
-std::optional<ArcFit> sweepOf(std::span<const Point> points, Point centre, double radius,
-                              double widest) {
+std::optional<ArcFit> sweepOf(std::span<const Point> points, const Shape& arc, double widest) {
     ArcFit fit;
     double widestTurn = 0;
-    Point before = points[0] - centre;
+    Point before = points[0] - arc.centre;
     for (const Point& point : points.subspan(1)) {
-        const Point next = point - centre;
+        const Point next = point - arc.centre;
         const double turn = angleBetween(before, next);
         if (std::fabs(turn) > widest || turn * fit.sweep < 0 || turn == 0)
             return {};
@@ -96,50 +109,82 @@ std::optional<ArcFit> sweepOf(std::span<const Point> points, Point centre, doubl
     }
     if (std::fabs(fit.sweep) > largestSweep)
         return {};
-    fit.bulge = radius * (1 - std::cos(radians(widestTurn) / 2));
+    fit.bulge = arc.radius * (1 - std::cos(radians(widestTurn) / 2));
     return fit;
+}
+
+// Whether there is a sweep. Turns are held against `widest` by their tangents, which are quicker
+// than angles; where that is too close to be certain the sweep itself tells.
+bool hasSweep(std::span<const Point> points, const Shape& arc, double widest) {
+    constexpr double certain = 1e-9;
+    constexpr double narrow = 80; // degrees, of turns whose tangents tell them apart
+    if (widest > narrow)
+        return sweepOf(points, arc, widest).has_value();
+    const double most = std::tan(radians(widest));
+    double tangents = 0; // their sum is more than that of the turns
+    Point before = points[0] - arc.centre;
+    for (const Point& point : points.subspan(1)) {
+        const Point next = point - arc.centre;
+        const double along = dot(before, next);
+        const double tangent = cross(before, next) / along;
+        const double size = std::fabs(tangent);
+        if (!(along > 0 && size > certain && size < most - certain && tangent * tangents >= 0))
+            return sweepOf(points, arc, widest).has_value();
+        tangents += tangent;
+        before = next;
+    }
+    return std::fabs(tangents) < radians(largestSweep - 1) ||
+           sweepOf(points, arc, widest).has_value();
+}
+
+// What the points lie on, if anything.
+std::optional<Shape> shapeOf(std::span<const Point> points, const FitOptions& options) {
+    const Point chord = points.back() - points.front();
+    const double half = length(chord) / 2;
+    if (half <= options.tolerance)
+        return isSpeck(points, options.tolerance) ? std::optional(Shape{true, {}, 0})
+                                                  : std::nullopt;
+    const ChordView view{points.front() + chord * 0.5, chord * (0.5 / half), half};
+    const auto [largest, height] = heights(points, view);
+    if (largest <= options.tolerance)
+        return Shape{true, {}, 0};
+    const double radius = std::sqrt(half * half + height * height);
+    const Shape arc{false, view.middle + turnedLeft(view.along) * height, radius};
+    if (radius > largestFittedRadius || !areNear(points, arc.centre, radius, options.tolerance) ||
+        hasLoneChord(points, radius, options.tolerance) ||
+        !hasSweep(points, arc, widestTurn(options)))
+        return {};
+    return arc;
 }
 
 } // namespace
 
-std::optional<ArcFit> fitArc(std::span<const Point> points, const FitOptions& options) {
-    const Point chord = points.back() - points.front();
-    const double half = length(chord) / 2;
-    if (half <= options.tolerance)
-        return isSpeck(points, options.tolerance) ? std::optional(flat) : std::nullopt;
-    const ChordView view{points.front() + chord * 0.5, chord * (0.5 / half), half};
-    const auto [largest, height] = heights(points, view);
-    if (largest <= options.tolerance)
-        return flat;
-    const double radius = std::sqrt(half * half + height * height);
-    const Point centre = view.middle + turnedLeft(view.along) * height;
-    if (radius > largestFittedRadius || !areNear(points, centre, radius, options.tolerance) ||
-        hasLoneChord(points, radius, options.tolerance))
-        return {};
-    return sweepOf(points, centre, radius, options.roundTurn + turnSlack);
-}
-
 ArcRun longestArc(std::span<const Point> points, const FitOptions& options) {
-    ArcRun best;
+    std::size_t best = 0;
+    Shape shape;
     const auto grow = [&](std::size_t chords) {
-        const auto fit = fitArc(points.first(chords + 1), options);
-        if (fit)
-            best = {chords, *fit};
-        return fit.has_value();
+        const auto found = shapeOf(points.first(chords + 1), options);
+        if (!found)
+            return false;
+        best = chords;
+        shape = *found;
+        return true;
     };
     const std::size_t all = points.empty() ? 0 : points.size() - 1;
     if (all < fewestChords || !grow(fewestChords))
-        return best;
+        return {};
     std::size_t tooMany = fewestChords;
     do
-        tooMany = std::min(best.chords * 2, all + 1);
+        tooMany = std::min(best * 2, all + 1);
     while (tooMany <= all && grow(tooMany));
-    while (best.chords + 1 < tooMany) {
-        const std::size_t middle = best.chords + (tooMany - best.chords) / 2;
+    while (best + 1 < tooMany) {
+        const std::size_t middle = best + (tooMany - best) / 2;
         if (!grow(middle))
             tooMany = middle;
     }
-    return best;
+    if (shape.isFlat)
+        return {best, flat};
+    return {best, *sweepOf(points.first(best + 1), shape, widestTurn(options))};
 }
 
 } // namespace torvik

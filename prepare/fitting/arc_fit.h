@@ -6,7 +6,6 @@
 #include "prepare/strokes.h"
 
 #include <cstddef>
-#include <optional>
 #include <span>
 
 namespace torvik {
@@ -19,18 +18,16 @@ struct ArcFit {
     double bulge = 0;    // how far the arc goes beyond its chords at most
 };
 
-// None where the points lie on no arc: one is farther off than the tolerance, a chord turns by more
-// than roundTurn or the other way, one is a long line between short ones, or the arc is almost a
-// whole circle or larger than largestFittedRadius.
-std::optional<ArcFit> fitArc(std::span<const Point> points, const FitOptions& options);
-
 struct ArcRun {
     std::size_t chords = 0; // 0 where none was found
     ArcFit fit;
 };
 
-// The longest run of chords from the first point on that lie on one arc, at least fewestChords. It
-// looks at no more than twice as many points as it takes.
+// The longest run of chords from the first point on that lie on one arc, at least fewestChords.
+// Points lie on no arc where one is farther off than the tolerance, a chord turns by more than
+// roundTurn or the other way, one is a long line between short ones, or the arc is almost a whole
+// circle or larger than largestFittedRadius. It looks at no more than twice as many points as it
+// takes.
 ArcRun longestArc(std::span<const Point> points, const FitOptions& options);
 
 } // namespace torvik

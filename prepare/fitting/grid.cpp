@@ -8,25 +8,21 @@
 namespace torvik {
 namespace {
 
-// An arc whose numbers can be written as they are, unless it was meant to begin elsewhere.
+// An arc whose numbers can be written as they are keeps its centre, unless it was meant to begin
+// elsewhere. So does one that is nearly a whole turn: its short chord cannot tell the centre.
 Segment gridArcOf(Point start, const Segment& arc) {
-    constexpr double sameEnd = 0.01; // plotter units
-    const Segment same = arcSegment(start, arc.first, arc.sweep);
-    const bool isOnGrid = arc.first == toGrid(arc.first) && arc.sweep == toGrid(arc.sweep);
-    return isOnGrid && distance(same.end, arc.end) <= sameEnd ? same
-                                                              : gridArc(start, arc.end, arc.sweep);
+    constexpr double near = 0.01; // plotter units
+    const Segment same = arcSegment(start, toGrid(arc.first), toGrid(arc.sweep));
+    if (start == same.first)
+        return lineSegment(toGrid(arc.end));
+    const Segment moved = gridArc(start, arc.end, arc.sweep);
+    const bool isOnGrid = arc.first == same.first && arc.sweep == same.sweep;
+    const bool losesPlace = isArc(moved) ? distance(moved.first, same.first) > near
+                                         : std::fabs(same.sweep) > fullTurn / 2;
+    return (isOnGrid || losesPlace) && distance(same.end, arc.end) <= near ? same : moved;
 }
 
 } // namespace
-
-double toGrid(double value) {
-    constexpr double perUnit = 10000;
-    return std::nearbyint(value * perUnit) / perUnit + 0.0; // no minus zero
-}
-
-Point toGrid(Point point) {
-    return {toGrid(point.x), toGrid(point.y)};
-}
 
 Segment gridArc(Point start, Point target, double sweep) {
     sweep = toGrid(sweep);

@@ -8,9 +8,20 @@
 
 namespace torvik {
 
-// The nearest ten-thousandth.
-double toGrid(double value);
-Point toGrid(Point point);
+// The nearest ten-thousandth, half to even.
+inline double toGrid(double value) {
+    constexpr double perUnit = 10000;
+    constexpr double most = 2251799813685248; // 2^51
+    const double scaled = value * perUnit;
+    // A sum that stands three times as high has no room for halves: it is rounded as
+    // std::nearbyint rounds, and without a call.
+    const double whole =
+        std::fabs(scaled) < most ? scaled + 3 * most - 3 * most : std::nearbyint(scaled);
+    return whole / perUnit + 0.0; // no minus zero
+}
+inline Point toGrid(Point point) {
+    return {toGrid(point.x), toGrid(point.y)};
+}
 
 // An arc from `start` with the sweep rounded, its centre chosen so that it ends as close to the
 // target as can be. A line where nothing of the sweep is left.

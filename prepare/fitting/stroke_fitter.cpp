@@ -66,6 +66,8 @@ bool StrokeFitter::becomesCircleInPasses() {
 }
 
 void StrokeFitter::expand() {
+    m_points.reserve(m_stroke.segments.size() + 1);
+    m_own.reserve(m_stroke.segments.size());
     m_points.push_back(m_stroke.start);
     Point place = m_stroke.start;
     for (const Segment& segment : m_stroke.segments) {
@@ -79,25 +81,27 @@ void StrokeFitter::expand() {
 
 void StrokeFitter::takeCurveApart(Point start, const Segment& curve) {
     ++m_report.curves;
-    for (const Point& end : flattenCurve(start, curve, m_options.tolerance * flattening)) {
-        m_points.push_back(toGrid(end));
-        m_own.push_back({lineSegment(m_points.back()), m_points.size() - 1, 0});
-    }
+    for (const Point& end : flattenCurve(start, curve, m_options.tolerance * flattening))
+        addOwn(lineSegment(toGrid(end)));
     if (m_points.size() > m_options.pointLimit)
         throw RunTimeError("the curves of a stroke are too large for this tolerance");
 }
 
 void StrokeFitter::takeOwn(Point start, const Segment& segment) {
-    const bool asLines = isArc(segment) && isTooLarge(start, segment);
-    const auto lines = asLines ? linesForArc(start, segment, m_options.tolerance / 2)
-                               : std::vector<Segment>{segment};
-    if (isArc(segment) && !asLines)
+    if (isArc(segment) && isTooLarge(start, segment)) {
+        for (const Segment& line : linesForArc(start, segment, m_options.tolerance / 2))
+            addOwn(line);
+        return;
+    }
+    if (isArc(segment))
         for (const double part : {0.25, 0.5, 0.75})
             m_points.push_back(pointOnArc(start, segment, part));
-    for (const Segment& line : lines) {
-        m_points.push_back(line.end);
-        m_own.push_back({line, m_points.size() - 1, 0});
-    }
+    addOwn(segment);
+}
+
+void StrokeFitter::addOwn(const Segment& segment) {
+    m_points.push_back(segment.end);
+    m_own.push_back({segment, m_points.size() - 1, 0});
 }
 
 // Every piece begins where the one before it ends as written. Lines of no length go.

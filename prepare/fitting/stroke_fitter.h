@@ -30,6 +30,7 @@ private:
     void expand();
     void takeCurveApart(Point start, const Segment& curve);
     void takeOwn(Point start, const Segment& segment);
+    void addOwn(const Segment& segment);
     bool pass();
     void fitRun(std::size_t first, std::size_t last, std::vector<Piece>& result) const;
     void joinArcs(std::vector<Piece>& pieces) const;

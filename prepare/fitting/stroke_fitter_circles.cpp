@@ -11,7 +11,8 @@
 namespace torvik {
 namespace {
 
-constexpr double nearlyFullTurn = 359.9;
+// An arc that ends where it began, to the tolerance, is a circle of more or less than a turn.
+constexpr double leastTurn = 270;
 
 double radiusOf(const Segment& arc) {
     return distance(arc.first, arc.end);
@@ -97,7 +98,7 @@ bool StrokeFitter::becomesCircleOfArcs() {
         centre = centre + arc.first * arc.sweep;
         radius += radiusOf(arc) * arc.sweep;
     }
-    if (std::fabs(sweep) < nearlyFullTurn || std::fabs(sweep) > 2 * fullTurn - nearlyFullTurn)
+    if (std::fabs(sweep) < leastTurn || std::fabs(sweep) > 2 * fullTurn - leastTurn)
         return false;
     return isCircleThroughOwnPoints(centre * (1 / sweep), radius / sweep);
 }
