@@ -50,6 +50,11 @@ void showWarning(QLabel& label, const QString& text) {
     label.setVisible(!text.isEmpty());
 }
 
+void showNamed(QLabel& label, const QString& name, const QString& text) {
+    label.setText(text);
+    label.setAccessibleName(text.isEmpty() ? name : name + QStringLiteral(": ") + text);
+}
+
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,
                    const QString& unit, int helpContext) {
     auto* const label = new QLabel(caption);

@@ -21,6 +21,9 @@ QString breakablePath(QString path);
 QLabel* makeWarning(const QString& name);
 void showWarning(QLabel& label, const QString& text);
 
+// Sets what a label says; its name for assistive tools says first what that is.
+void showNamed(QLabel& label, const QString& name, const QString& text);
+
 // Puts one row into a form: the caption (an access key in it leads to the box), the box and its
 // unit. Names the box for assistive tools and gives both the help context number.
 QLabel* addFormRow(QGridLayout& form, int row, const QString& caption, QLineEdit* box,

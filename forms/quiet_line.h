@@ -10,8 +10,8 @@
 #include <cstdint>
 #include <vector>
 
+class QGridLayout;
 class QLabel;
-class QVBoxLayout;
 
 namespace torvik {
 
@@ -34,10 +34,15 @@ public:
     QString text() const { return accessibleName(); }
 
 private:
-    QLabel& label(std::size_t place);
+    // A warning is told by its sign and not by its colour alone.
+    struct Row {
+        QLabel* sign;
+        QLabel* label;
+    };
+    const Row& row(std::size_t place);
 
-    QVBoxLayout* m_layout;
-    std::vector<QLabel*> m_labels;
+    QGridLayout* m_layout;
+    std::vector<Row> m_rows;
 };
 
 } // namespace torvik
