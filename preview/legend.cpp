@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "preview/legend.h"
 
+#include "forms/colour.h"
+#include "forms/spoken_role.h"
 #include "preview/depths.h"
-#include "preview/painting.h"
 
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStringList>
 #include <QStyleOptionFocusRect>
@@ -52,6 +54,7 @@ QAbstractSlider::SliderAction actionOf(int key) {
 
 Legend::Legend(QWidget* parent) : QAbstractScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
+    setSpokenRole(*this, QAccessible::List);
     for (const QScrollBar* const scrolling : {verticalScrollBar(), horizontalScrollBar()})
         connect(scrolling, &QScrollBar::valueChanged, viewport(), qOverload<>(&QWidget::update));
     layOut();

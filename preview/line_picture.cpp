@@ -3,48 +3,15 @@
 
 #include "job/job.h"
 #include "preview/depths.h"
-#include "preview/groove_painter.h"
+#include "preview/image_canvas.h"
 #include "preview/sharp_lines.h"
+#include "preview/stroke_painter.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace torvik {
 namespace {
-
-// Paints lines of one pixel. The painter is quick with just these; wider ones are grooves.
-class ThinLinePainter {
-public:
-    ThinLinePainter(QImage& image, const PictureView& view, const Job& job)
-        : m_painter(&image), m_view(view), m_sharpLines(job, view, image.width(), image.height()) {
-        m_painter.setRenderHint(QPainter::Antialiasing);
-    }
-
-    void setColour(std::int32_t colour) {
-        if (colour == m_colour)
-            return;
-        m_colour = colour;
-        m_painter.setPen(QPen(colourOf(colour), 1, Qt::SolidLine, Qt::SquareCap));
-    }
-
-    void groove(const Path& path, double) {
-        m_line.clear();
-        appendLine(m_line, path, m_view);
-        m_sharpLines.align(m_line);
-        const QPointF start(m_line.front().x, m_line.front().y);
-        if (polygonOf(m_line, m_polygon).count(start) == m_polygon.size()) // it would not show
-            m_painter.fillRect(QRectF(start - QPointF(0.5, 0.5), QSizeF(1, 1)), colourOf(m_colour));
-        else
-            m_painter.drawPolyline(m_polygon);
-    }
-
-private:
-    QPainter m_painter;
-    const PictureView& m_view;
-    SharpLines m_sharpLines;
-    std::int32_t m_colour = -1;
-    Points m_line;
-    QPolygonF m_polygon;
-};
 
 // A line of odd width is sharp in the middle of pixels, one of even width between them.
 PictureView alignedToPixels(PictureView view) {
@@ -55,85 +22,124 @@ PictureView alignedToPixels(PictureView view) {
     return view;
 }
 
-template <typename LinePainter>
-void paintLines(LinePainter&& painter, const Job& job, double width,
-                const std::vector<bool>& shown) {
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (!shown[i])
-            continue;
-        const Path& path = job.drawing.gudtPaths[static_cast<long>(i) + 1];
-        painter.setColour(lngPenColour(job.answers, path.intPen));
-        painter.groove(path, width);
-    }
-}
-
-void paintLines(QImage& image, const Job& job, const PictureView& view,
-                const std::vector<bool>& shown) {
-    const PictureView aligned = alignedToPixels(view);
-    const double width = view.lineWidth();
-    if (width > 1)
-        paintLines(GroovePainter(image, aligned), job, width, shown);
-    else
-        paintLines(ThinLinePainter(image, aligned, job), job, width, shown);
-}
-
-std::vector<bool> machinedPaths(const Job& job) {
-    std::vector<bool> machined;
-    machined.reserve(static_cast<std::size_t>(job.drawing.gudtPaths.count()));
-    for (const Path& path : job.drawing.gudtPaths)
-        machined.push_back(!job.answers.gudtPens[path.intPen].blnOmit);
-    return machined;
-}
-
-std::size_t flagOf(const Job& job, std::int16_t path) {
-    if (path < 1 || path > job.drawing.gudtPaths.count())
-        throw SubscriptOutOfRange(path, 1, job.drawing.gudtPaths.count());
-    return static_cast<std::size_t>(path - 1);
-}
-
 } // namespace
 
 void LinePicture::PlotLines(const Job& job, const PictureView& view, QSize size) {
+    if (!m_paths) {
+        const auto& paths = job.drawing.gudtPaths;
+        m_paths = std::make_shared<const std::vector<Path>>(paths.begin(), paths.end());
+        for (std::int16_t pen = 1; pen < static_cast<std::int16_t>(m_colours.size()); ++pen)
+            m_colours[static_cast<std::size_t>(pen)] = lngPenColour(job.answers, pen);
+    }
     if (view != m_view || size != m_size)
-        forget();
+        for (Frame& frame : m_frames)
+            frame = {};
     m_view = view;
     m_size = size;
-    m_machined = machinedPaths(job);
+    m_machined.clear();
+    for (const Path& path : *m_paths)
+        m_machined.push_back(!job.answers.gudtPens[path.intPen].blnOmit);
     m_shown = m_machined;
-    showFlags(job, m_shown, 0);
+    want(m_shown, 0);
 }
 
-void LinePicture::DrawLine(const Job& job, std::int16_t path, std::int16_t mode) {
-    m_shown[flagOf(job, path)] = mode == 0;
-    showFlags(job, m_shown, m_shown == m_machined ? 0 : 1);
+void LinePicture::DrawLine(std::int16_t path, std::int16_t mode) {
+    m_shown[flagOf(path)] = mode == 0;
+    want(m_shown, m_shown == m_machined ? 0 : 1);
 }
 
-void LinePicture::plotBlink(const Job& job, const std::vector<std::int16_t>& paths, bool visible) {
+void LinePicture::plotBlink(const std::vector<std::int16_t>& paths, bool visible) {
     m_shown = m_machined;
     for (const std::int16_t path : paths)
-        m_shown[flagOf(job, path)] = false;
-    showFlags(job, m_shown, 1); // at once, so that no later frame of the blinking takes longer
+        m_shown[flagOf(path)] = false;
+    want(m_shown, 1); // at once, so that no later frame of the blinking takes longer
     if (visible) {
         m_shown = m_machined;
-        showFlags(job, m_shown, 0);
+        want(m_shown, 0);
     }
 }
 
 void LinePicture::forget() {
-    for (Frame& frame : m_frames)
-        frame.valid = false;
+    m_paths.reset();
+    m_frames = {};
 }
 
-void LinePicture::showFlags(const Job& job, const Flags& shown, std::size_t number) {
+std::size_t LinePicture::flagOf(std::int16_t path) const {
+    const auto count = static_cast<long>(m_machined.size());
+    if (path < 1 || path > count)
+        throw SubscriptOutOfRange(path, 1, count);
+    return static_cast<std::size_t>(path - 1);
+}
+
+void LinePicture::want(const Flags& shown, std::size_t number) {
     m_current = number;
     Frame& frame = m_frames[number];
-    if (frame.valid && frame.shown == shown)
+    if (frame.shown == shown && !frame.image.isNull())
         return;
-    frame.valid = false;
-    clearImage(frame.image, m_size);
-    paintLines(frame.image, job, m_view, shown);
     frame.shown = shown;
-    frame.valid = true;
+    frame.isPainted = false;
+}
+
+bool LinePicture::isPainted() const {
+    return std::ranges::all_of(m_frames, &Frame::isPainted);
+}
+
+bool LinePicture::liesAs(const LinePicture& other) const {
+    return m_paths == other.m_paths && m_view == other.m_view && m_size == other.m_size;
+}
+
+bool LinePicture::showsAs(const LinePicture& other) const {
+    return liesAs(other) &&
+           std::ranges::equal(m_frames, other.m_frames, {}, &Frame::shown, &Frame::shown);
+}
+
+LinePicture LinePicture::plan() const {
+    LinePicture plan = *this;
+    for (Frame& frame : plan.m_frames)
+        frame.image = {};
+    return plan;
+}
+
+void LinePicture::paint(const std::stop_token& stop) {
+    for (Frame& frame : m_frames)
+        if (!frame.isPainted)
+            paintFrame(frame, stop);
+}
+
+void LinePicture::adopt(const LinePicture& painted) {
+    if (!liesAs(painted))
+        return;
+    for (std::size_t i = 0; i < m_frames.size(); ++i)
+        if (painted.m_frames[i].isPainted && painted.m_frames[i].shown == m_frames[i].shown)
+            m_frames[i] = painted.m_frames[i];
+}
+
+const QImage& LinePicture::image() {
+    paint();
+    return m_frames[m_current].image;
+}
+
+// What lies on top comes first.
+void LinePicture::paintFrame(Frame& frame, const std::stop_token& stop) const {
+    fitImage(frame.image, m_size);
+    const PictureView aligned = alignedToPixels(m_view);
+    const double width = m_view.lineWidth();
+    const SharpLines sharpLines(*m_paths, aligned, m_size.width(), m_size.height());
+    StrokePainter painter(canvasOf(frame.image), width, stop);
+    Points line;
+    for (std::size_t i = m_paths->size(); i-- > 0 && !stop.stop_requested();) {
+        if (!frame.shown[i])
+            continue;
+        const Path& path = (*m_paths)[i];
+        line.clear();
+        appendLine(line, path, aligned);
+        if (width == 1)
+            sharpLines.align(line);
+        painter.setColour(m_colours.at(static_cast<std::size_t>(path.intPen)));
+        painter.line(line, width);
+    }
+    painter.finish();
+    frame.isPainted = !stop.stop_requested();
 }
 
 } // namespace torvik

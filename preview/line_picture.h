@@ -2,15 +2,19 @@
 // The line preview as an image: every machined path in its pen's colour. A path that is erased
 // leaves the others whole, crossings included, and one that is drawn again gives the same pixels
 // as before: a picture is always painted from all the paths that show, and the last two are kept,
-// so that blinking paints nothing anew.
+// so that blinking paints nothing anew. A copy shares the paths and the images; it may be painted
+// in another thread and then be adopted.
 #pragma once
 
+#include "job/records.h"
 #include "preview/picture_view.h"
 
 #include <QImage>
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <stop_token>
 #include <vector>
 
 namespace torvik {
@@ -26,17 +30,30 @@ public:
 
     // Mode 0 draws the path (a subscript of gudtPaths) in its pen's colour, any other mode erases
     // it. Raises SubscriptOutOfRange.
-    void DrawLine(const Job& job, std::int16_t path, std::int16_t mode);
+    void DrawLine(std::int16_t path, std::int16_t mode);
 
-    // The picture of the last PlotLines, without the given paths unless `visible`. The first frame
-    // for other paths than before paints both pictures, the later ones none. Raises
-    // SubscriptOutOfRange.
-    void plotBlink(const Job& job, const std::vector<std::int16_t>& paths, bool visible);
+    // The picture of the last PlotLines, without the given paths unless `visible`. For other paths
+    // than before both pictures are to be painted, then none. Raises SubscriptOutOfRange.
+    void plotBlink(const std::vector<std::int16_t>& paths, bool visible);
 
     // The job holds another drawing: what was kept means nothing any more.
     void forget();
 
-    const QImage& image() const { return m_frames[m_current].image; }
+    std::size_t pathCount() const { return m_machined.size(); }
+    // Whether nothing is to be painted, and whether the image at least is there.
+    bool isPainted() const;
+    bool hasImage() const { return m_frames[m_current].isPainted; }
+    // The same without the images, to be told from others by showsAs().
+    LinePicture plan() const;
+    // Whether both are to show the same, painted or not.
+    bool showsAs(const LinePicture& other) const;
+    // Paints what is missing; when it is stopped some stays so.
+    void paint(const std::stop_token& stop = {});
+    // Takes what a copy has painted, where it still fits.
+    void adopt(const LinePicture& painted);
+
+    // Paints it where that was not done.
+    const QImage& image();
 
 private:
     using Flags = std::vector<bool>; // one for each path
@@ -44,11 +61,16 @@ private:
     struct Frame {
         QImage image;
         Flags shown;
-        bool valid = false;
+        bool isPainted = true; // as nothing is wanted of it yet
     };
 
-    void showFlags(const Job& job, const Flags& shown, std::size_t number);
+    std::size_t flagOf(std::int16_t path) const;
+    bool liesAs(const LinePicture& other) const;
+    void want(const Flags& shown, std::size_t number);
+    void paintFrame(Frame& frame, const std::stop_token& stop) const;
 
+    std::shared_ptr<const std::vector<Path>> m_paths; // of the drawing
+    std::array<std::int32_t, 9> m_colours{};          // of pens 1 to 8
     PictureView m_view;
     QSize m_size;
     Flags m_machined; // what PlotLines shows

@@ -5,7 +5,7 @@
 #include "job/hole_sizes.h"
 #include "job/job.h"
 #include "job/machined_groups.h"
-#include "job/pens.h"
+#include "job/sort_paths.h"
 #include "tools/tool_list.h"
 
 #include <algorithm>

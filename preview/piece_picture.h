@@ -9,13 +9,16 @@
 
 #include <QImage>
 
+#include <stop_token>
 #include <vector>
 
 namespace torvik {
 
-// Paints the works, which ascend by depth, into a white image of that size, in image pixels.
+// Paints the works, which ascend by depth, into a white image of that size, in image pixels. When
+// it is stopped the image is left unfinished.
 void paintPiece(QImage& image, QSize size, const PictureView& view,
-                const std::vector<WorkOnPath>& works, const PieceScale& piece);
+                const std::vector<WorkOnPath>& works, const PieceScale& piece,
+                const std::stop_token& stop = {});
 
 // The depths of the works.
 DepthList depthsOf(const std::vector<WorkOnPath>& works);

@@ -79,9 +79,7 @@ bool GetScale(const Drawing& drawing, FrameSize frame, LineScale& scale, Logger&
     scale.picture = pictureBox(scale.extents, scale.fit, frame);
     return withErrorTrap(logger, {"GetScale", "modHpgl"}, [&] {
         LineScale found;
-        for (const Path& path : drawing.gudtPaths)
-            includePath(found.extents, path);
-        found.extents = stored(found.extents);
+        found.extents = stored(extentsOf(drawing));
         refit(found, frame);
         scale = found;
     });

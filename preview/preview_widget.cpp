@@ -3,9 +3,11 @@
 
 #include "base/error_trap.h"
 #include "forms/help_key.h"
+#include "forms/spoken_role.h"
 #include "job/job.h"
 #include "preview/paper.h"
 #include "preview/piece_picture.h"
+#include "preview/scale_line.h"
 #include "preview/sheet.h"
 
 #include <QBoxLayout>
@@ -20,8 +22,9 @@ namespace torvik {
 namespace {
 
 constexpr int helpPreview = 10;
-constexpr int stripMargin = 8; // pixels, as all here
-constexpr int rowsBelow = 3;   // of the legend where its strip lies below the drawing
+constexpr int stripMargin = 8;         // pixels, as all here
+constexpr int rowsBelow = 3;           // of the legend where its strip lies below the drawing
+constexpr std::size_t fewPaths = 2000; // painted sooner than a thread is asked to
 
 int pixels(float twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel));
@@ -31,13 +34,14 @@ int pixels(float twips) {
 
 PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logger, QWidget* parent)
     : QFrame(parent), m_job(job), m_tools(tools), m_logger(logger),
-      m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+      m_layout(new QBoxLayout(QBoxLayout::LeftToRight)), m_scaleLine(new ScaleLine(this)) {
     const auto image = [this]() -> const QImage& { return picture(); };
     m_picBack = new Sheet(image, this);
     m_picBack->setObjectName(QStringLiteral("picBack"));
     m_picBack->installEventFilter(this);
     m_picPlot = new Sheet(image, m_picBack);
     m_picPlot->setObjectName(QStringLiteral("picPlot"));
+    setSpokenRole(*m_picPlot, QAccessible::Graphic);
     m_picPlot->setAccessibleName(tr("Preview of the drawing"));
     m_picPlot->setProperty(helpContextProperty, helpPreview);
 
@@ -45,7 +49,11 @@ PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logg
     setPalette(paper());
     setAutoFillBackground(true);
     buildLegendStrip();
-    m_layout->setContentsMargins(0, 0, 0, 0);
+    auto* const column = new QBoxLayout(QBoxLayout::TopToBottom, this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(m_layout, 1);
+    column->addWidget(m_scaleLine);
     m_layout->setSpacing(0);
     m_layout->addWidget(m_picBack, 1);
     m_layout->addWidget(m_strip);
@@ -54,6 +62,7 @@ PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logg
     m_noDrawing = new QLabel(tr("The drawing appears here."), this);
     m_noDrawing->setObjectName(QStringLiteral("lblNoDrawing"));
     m_noDrawing->setAlignment(Qt::AlignCenter);
+    m_noDrawing->setWordWrap(true);
     m_noDrawing->setPalette(quietPaper());
     startShowing(Showing::nothing);
 }
@@ -61,7 +70,7 @@ PreviewWidget::PreviewWidget(const Job& job, const ToolList& tools, Logger& logg
 void PreviewWidget::buildLegendStrip() {
     m_strip = new QWidget(this);
     m_strip->setObjectName(QStringLiteral("picLegend"));
-    m_legendCaption = new QLabel(QStringLiteral("Depths"), m_strip);
+    m_legendCaption = new QLabel(tr("Depths"), m_strip);
     m_legendCaption->setObjectName(QStringLiteral("lblLegend"));
     m_legendCaption->setIndent(stripMargin); // in line with the discs below it
     m_legend = new Legend(m_strip);
@@ -83,8 +92,9 @@ void PreviewWidget::placeLegendStrip() {
     const double shape = m_line.extents.empty() || m_line.extents.height() == 0
                              ? 1
                              : m_line.extents.width() / m_line.extents.height();
-    const bool beside = std::min<double>(width() - stripWidth, height() * shape) >=
-                        std::min<double>(width(), (height() - stripHeight) * shape);
+    const int room = height() - m_scaleLine->sizeHint().height();
+    const bool beside = std::min<double>(width() - stripWidth, room * shape) >=
+                        std::min<double>(width(), (room - stripHeight) * shape);
     m_layout->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_strip->setMinimumSize(0, 0);
     m_strip->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
@@ -92,7 +102,7 @@ void PreviewWidget::placeLegendStrip() {
         m_strip->setFixedWidth(stripWidth);
     else
         m_strip->setFixedHeight(stripHeight);
-    m_layout->activate();
+    layout()->activate();
 }
 
 // Both show the picture, and painting the lower one leaves out what the upper one covers.
@@ -106,6 +116,7 @@ void PreviewWidget::GetScale() {
     m_lines.forget();
     startShowing(Showing::nothing);
     torvik::GetScale(m_job.drawing, frameSize(), m_line, m_logger);
+    m_drawn = extentsOf(m_job.drawing);
     placeLegendStrip();
     refitToFrame();
 }
@@ -121,8 +132,8 @@ void PreviewWidget::DrawLine(std::int16_t path, std::int16_t mode) {
             startShowing(Showing::lines);
             paintLines();
         }
-        m_lines.DrawLine(m_job, path, mode);
-        redraw();
+        m_lines.DrawLine(path, mode);
+        showLines();
     });
 }
 
@@ -132,9 +143,9 @@ void PreviewWidget::plotBlink(const std::vector<std::int16_t>& paths, bool visib
     if (m_failed)
         return;
     m_failed = !withQuietErrorTrap(m_logger, {"PlotLines", "modHpgl"}, [&] {
-        paintLines();
-        m_lines.plotBlink(m_job, paths, visible);
-        redraw();
+        m_lines.PlotLines(m_job, view(), imageSize());
+        m_lines.plotBlink(paths, visible);
+        showLines();
     });
 }
 
@@ -145,12 +156,15 @@ void PreviewWidget::DrawPiece() {
         if (!GetPieceScale(m_job.drawing, m_job.answers, m_tools, frameSize(), piece, m_logger))
             return;
         m_piece = piece;
-        m_works = worksByDepth(m_job.drawing, m_job.answers, m_tools);
-        m_legend->setDepths(depthsOf(m_works), piece.sngShallowest, piece.sngDeepest);
+        m_works = std::make_shared<const std::vector<WorkOnPath>>(
+            worksByDepth(m_job.drawing, m_job.answers, m_tools));
+        m_legend->setDepths(depthsOf(*m_works), piece.sngShallowest, piece.sngDeepest);
         placeLegendStrip(); // as wide as these depths need
         refitToFrame();
         paintPiece();
     });
+    if (m_failed || !m_works)
+        showPicture({});
 }
 
 void PreviewWidget::clear() {
@@ -163,19 +177,22 @@ const QImage& PreviewWidget::picture() {
         return m_noImage;
     if (isStale())
         paintAgain();
-    return m_showing == Showing::piece ? m_pieceImage : m_lines.image();
+    return m_picture;
 }
 
 void PreviewWidget::startShowing(Showing what) {
     m_showing = what;
     m_failed = false;
-    m_pieceImage = QImage();
-    m_works.clear();
+    m_work.stop();
+    m_works.reset();
+    if (what == Showing::nothing)
+        m_picture = {};
     m_legend->clear();
     m_legendCaption->setVisible(what == Showing::piece);
     m_legend->setVisible(what == Showing::piece);
     m_noDrawing->setVisible(what == Showing::nothing);
     m_picPlot->setVisible(what != Showing::nothing);
+    showScale();
     redraw();
 }
 
@@ -185,17 +202,60 @@ bool PreviewWidget::isStale() const {
 
 void PreviewWidget::paintLines() {
     m_lines.PlotLines(m_job, view(), imageSize());
-    painted();
+    showLines();
+}
+
+// Shows what is there already, and has painted what is not.
+void PreviewWidget::showLines() {
+    m_resized = false;
+    m_paintedRatio = devicePixelRatioF();
+    if (m_lines.pathCount() <= fewPaths)
+        m_lines.paint();
+    if (m_lines.hasImage())
+        showPicture(m_lines.image());
+    if (m_lines.isPainted() || (m_work.isBusy() && m_lines.showsAs(m_linesInWork)))
+        return;
+    m_linesInWork = m_lines.plan();
+    paintInBackground([this, lines = m_lines](const std::stop_token& stop) mutable {
+        lines.paint(stop);
+        return [this, lines] { takeLines(lines); };
+    });
+}
+
+void PreviewWidget::takeLines(const LinePicture& lines) {
+    m_lines.adopt(lines);
+    if (m_lines.hasImage())
+        showPicture(m_lines.image());
 }
 
 void PreviewWidget::paintPiece() {
-    torvik::paintPiece(m_pieceImage, imageSize(), view(), m_works, *m_piece);
-    painted();
-}
-
-void PreviewWidget::painted() {
     m_resized = false;
     m_paintedRatio = devicePixelRatioF();
+    const auto paint = [size = imageSize(), view = view(), works = m_works,
+                        piece = *m_piece](const std::stop_token& stop) {
+        QImage image;
+        torvik::paintPiece(image, size, view, *works, piece, stop);
+        return image;
+    };
+    if (m_works->size() <= fewPaths)
+        return showPicture(paint({}));
+    paintInBackground([this, paint](const std::stop_token& stop) {
+        return [this, image = paint(stop)] { showPicture(image); };
+    });
+}
+
+void PreviewWidget::paintInBackground(PictureWork::Paint paint) {
+    if (m_work.start(std::move(paint)))
+        m_work.takeOver();
+}
+
+void PreviewWidget::takePicture() {
+    m_failed |= !withQuietErrorTrap(m_logger, {"paintInBackground", "modHpgl"},
+                                    [this] { m_work.takeOver(); });
+}
+
+void PreviewWidget::showPicture(const QImage& picture) {
+    m_picture = picture;
     redraw();
 }
 
@@ -246,6 +306,15 @@ void PreviewWidget::refitToFrame() {
             refit(*m_piece, frameSize());
     });
     placePicture();
+    showScale();
+}
+
+void PreviewWidget::showScale() {
+    if (m_showing == Showing::nothing || m_line.extents.empty())
+        m_scaleLine->clear();
+    else
+        m_scaleLine->showScale(m_drawn.width(), m_drawn.height(),
+                               scale().fit.gsngScale / twipsPerPixel);
 }
 
 void PreviewWidget::placePicture() {

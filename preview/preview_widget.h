@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: MIT
 // The preview of the main window: the frame "picBack" with the picture "picPlot" centred in it,
-// and beside or below it a strip for the legend of depths, which thus never covers the drawing.
+// and beside or below it a strip for the legend of depths, which thus never covers the drawing; at
+// the bottom the size of the drawing and a scale bar.
 // Always white, whatever the system's theme. Errors are trapped here: those of what was asked for
 // are reported, those of painting again (at a tick, at a new size) logged once.
+// A picture of many paths is painted in the background, and the one before is shown until then.
 #pragma once
 
 #include "preview/legend.h"
 #include "preview/line_picture.h"
 #include "preview/machined_path.h"
+#include "preview/picture_work.h"
 #include "preview/preview_fit.h"
 
 #include <QFrame>
 #include <QImage>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -25,6 +29,7 @@ namespace torvik {
 struct Job;
 struct ToolList;
 class Logger;
+class ScaleLine;
 class Sheet;
 
 class PreviewWidget : public QFrame {
@@ -46,7 +51,7 @@ public:
 
     // The fit in force.
     const PreviewFit& fit() const { return scale().fit; }
-    // What the frame shows, in image pixels.
+    // What the frame shows, in image pixels: of many paths what was painted last.
     const QImage& picture();
 
     QSize minimumSizeHint() const override;
@@ -63,6 +68,7 @@ private:
     void placeLegendStrip();
     void refitToFrame();
     void placePicture();
+    void showScale();
     const LineScale& scale() const;
     FrameSize frameSize() const;
     PictureView view() const;
@@ -70,10 +76,14 @@ private:
     void redraw();
     void startShowing(Showing what);
     bool isStale() const;
+    void showLines();
     void paintLines();
     void paintPiece();
     void paintAgain();
-    void painted();
+    void paintInBackground(PictureWork::Paint paint);
+    void takeLines(const LinePicture& lines);
+    void takePicture();
+    void showPicture(const QImage& picture);
 
     const Job& m_job;
     const ToolList& m_tools;
@@ -86,17 +96,21 @@ private:
     QWidget* m_strip;
     QLabel* m_legendCaption;
     Legend* m_legend;
+    ScaleLine* m_scaleLine;
 
     Showing m_showing = Showing::nothing;
     LineScale m_line;
-    std::optional<PieceScale> m_piece; // while its fit is in force
-    std::vector<WorkOnPath> m_works;   // on the piece on show
+    Extents m_drawn = noExtents();                          // by the drawing, however far away
+    std::optional<PieceScale> m_piece;                      // while its fit is in force
+    std::shared_ptr<const std::vector<WorkOnPath>> m_works; // on the piece on show
     LinePicture m_lines;
-    QImage m_pieceImage;
+    LinePicture m_linesInWork; // what is being painted
+    QImage m_picture;
     QImage m_noImage;
     double m_paintedRatio = 0; // image pixels for each pixel, when the picture was painted
     bool m_resized = true;     // since then
     bool m_failed = false;     // painting failed: not tried again until something else is shown
+    PictureWork m_work{this, [this] { takePicture(); }}; // last: its thread ends first
 };
 
 } // namespace torvik

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preview/sharp_lines.h"
 
-#include "job/job.h"
+#include "job/records.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,9 +35,10 @@ double SharpLines::Axis::shiftOf(double place) const {
     return middle == 0 ? 0 : middle - place;
 }
 
-SharpLines::SharpLines(const Job& job, const PictureView& view, int width, int height)
+SharpLines::SharpLines(const std::vector<Path>& paths, const PictureView& view, int width,
+                       int height)
     : m_columns(width), m_rows(height) {
-    for (const Path& path : job.drawing.gudtPaths) {
+    for (const Path& path : paths) {
         if (path.intType != straightLine)
             continue;
         const ScreenPoint start = view.point(path.sngStartX, path.sngStartY);

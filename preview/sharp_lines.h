@@ -4,19 +4,19 @@
 // that nothing sticks out where they meet. Lengths are image pixels.
 #pragma once
 
-#include "preview/outlines.h"
+#include "preview/path_points.h"
 
 #include <vector>
 
 namespace torvik {
 
-struct Job;
+struct Path;
 
 class SharpLines {
 public:
     // From all the drawing's lines, so that a path lies where it does whatever others show.
     // `width` and `height` are the image's.
-    SharpLines(const Job& job, const PictureView& view, int width, int height);
+    SharpLines(const std::vector<Path>& paths, const PictureView& view, int width, int height);
 
     // Moves the ends of a path's line, and what is between them by a share of both.
     void align(Points& line) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/cut_canvas.h"
 
+#include "forms/spoken_role.h"
 #include "preview/paper.h"
 
 #include <QApplication>
@@ -25,6 +26,7 @@ constexpr double wheelZoom = 1.0015;
 CutCanvas::CutCanvas(QWidget* parent)
     : QWidget(parent), m_progress(new QProgressBar(this)), m_nothing(new QLabel(this)) {
     setObjectName(QStringLiteral("picCut"));
+    setSpokenRole(*this, QAccessible::Canvas);
     setAccessibleName(tr("The piece as the program cuts it"));
     setToolTip(tr("Wheel or + and -: zoom. Drag or arrow keys: move. 0: all of it. "
                   "Click a cut to find its line in the program."));
@@ -49,7 +51,10 @@ void CutCanvas::setWork(std::shared_ptr<CutWork> work) {
     m_work = std::move(work);
     m_tool.reset();
     m_chosen.reset();
-    m_nothing->clear();
+    m_shades = {};
+    emit shadesChanged();
+    m_nothing->setText(m_work ? QString()
+                              : tr("The piece is shown here when its program has been tried"));
     m_progress->hide();
     if (m_work) {
         connect(m_work.get(), &CutWork::progressed, this, &CutCanvas::showProgress);

@@ -24,7 +24,7 @@ CutPicture::CutPicture(QWidget* parent)
     setPalette(paper());
     setAutoFillBackground(true);
     m_place->setObjectName(QStringLiteral("lblCutPlace"));
-    m_place->setAccessibleName(tr("What lies under the pointer"));
+    m_place->setToolTip(tr("What lies under the pointer"));
     m_place->setMinimumHeight(m_place->sizeHint().height() + margin);
     m_place->setIndent(margin);
     m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -95,7 +95,9 @@ void CutPicture::resizeEvent(QResizeEvent* event) {
 }
 
 void CutPicture::showLegend() {
-    m_legend->setRows(m_canvas->shades().legend());
+    std::vector<Legend::Row> rows = m_canvas->shades().legend();
+    m_caption->setVisible(!rows.empty());
+    m_legend->setRows(std::move(rows));
 }
 
 } // namespace torvik

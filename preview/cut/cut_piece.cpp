@@ -2,7 +2,6 @@
 #include "preview/cut/cut_piece.h"
 
 #include "base/picture.h"
-#include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
 #include "check/time/pace_settings.h"
@@ -10,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace torvik {
 
@@ -58,10 +58,10 @@ CutPiece pieceOfProgram(std::string program, std::string_view sideText) {
     if (target == nullptr)
         return piece;
     check::Findings findings;
-    const check::Program read = check::readProgram(*target, piece.program, findings);
+    check::Program read = check::readProgram(*target, piece.program, findings);
     const check::Header header =
         target->commentOpener == 0 ? check::readSideText(sideText) : read.header;
-    piece.moves = check::walk(read);
+    piece.moves = std::move(read.moves);
     piece.pace = check::paceOf(*target);
     piece.billet.length = header.billet.length;
     piece.billet.width = header.billet.width;

@@ -2,6 +2,7 @@
 #include "preview/cut/frm_cut.h"
 
 #include "forms/dialog_places.h"
+#include "forms/reading_order.h"
 #include "preview/cut/cut_picture.h"
 #include "preview/cut/play_bar.h"
 #include "preview/cut/program_list.h"
@@ -21,7 +22,7 @@
 namespace torvik {
 namespace {
 
-constexpr int listWidth = 360;        // pixels
+constexpr int listWidth = 410;        // pixels
 constexpr QSize roomForFrame(16, 48); // what the window manager puts round the window
 
 } // namespace
@@ -43,7 +44,8 @@ FrmCut::FrmCut(std::shared_ptr<CutWork> work, QWidget* parent)
     split->addWidget(makeProgramSide());
     split->setStretchFactor(0, 1);
     split->setChildrenCollapsible(false);
-    split->setSizes({720, listWidth});
+    split->setSizes({670, listWidth});
+    readInOrder(*split);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdClose"));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -85,8 +87,21 @@ void FrmCut::workEnded() {
     const bool isReady = m_work->state() == CutWork::State::ready;
     m_play->setLength(isReady ? m_work->timeline().seconds() : 0);
     m_list->setEnabled(isReady);
-    if (isReady)
-        m_work->showMoment({m_work->piece().moves.size(), 0});
+    if (!isReady)
+        return;
+    // The list is at the end, too: getting the focus it would choose its first line.
+    showAt(m_work->timeline().seconds());
+    if (m_wantedLine > 0)
+        showLine(m_wantedLine);
+}
+
+void FrmCut::showLine(quint32 line) {
+    m_wantedLine = line;
+    m_list->showLine(line);
+    if (m_work->state() != CutWork::State::ready)
+        return;
+    goToLine(line);
+    m_list->setFocus();
 }
 
 // What a moment looks like everywhere.

@@ -24,6 +24,8 @@ class FrmCut : public QDialog {
 public:
     // The work may still be under way; another picture may show it too.
     explicit FrmCut(std::shared_ptr<CutWork> work, QWidget* parent = nullptr);
+    // Goes to a line of the program, from 1, as soon as the piece is there.
+    void showLine(quint32 line);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -41,6 +43,7 @@ private:
     SolidView* m_solid;
     ProgramList* m_list;
     PlayBar* m_play;
+    quint32 m_wantedLine = 0; // 0: none
 };
 
 } // namespace torvik

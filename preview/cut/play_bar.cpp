@@ -23,9 +23,17 @@ constexpr double wholeShow = 40;    // seconds in which the first speed shows al
 constexpr int fastest = 1024;
 constexpr int iconSize = 16; // pixels
 
+// "7:05", "19:00:12".
 QString clockText(double seconds) {
-    const auto whole = static_cast<int>(std::lround(seconds));
-    return QStringLiteral("%1:%2").arg(whole / 60).arg(whole % 60, 2, 10, QLatin1Char('0'));
+    const auto whole = std::lround(seconds);
+    const auto twoDigits = [](long number) {
+        return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+    };
+    const long minutes = whole / 60;
+    const QString front = minutes < 60
+                              ? QString::number(minutes)
+                              : QString::number(minutes / 60) + u':' + twoDigits(minutes % 60);
+    return front + u':' + twoDigits(whole % 60);
 }
 
 // A triangle, or two bars. In the ink of the theme, which the icons of a style may not have.
@@ -61,11 +69,12 @@ PlayBar::PlayBar(QWidget* parent)
     m_slider->setSingleStep(sliderSteps / 200);
     m_slider->setPageStep(sliderSteps / 20);
     m_time->setObjectName(QStringLiteral("lblPlayTime"));
-    m_time->setAccessibleName(tr("Minutes and seconds of the machine"));
+    m_time->setToolTip(
+        tr("Minutes and seconds of the moves, without starts, stops and changes of tools"));
     m_time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_speed->setObjectName(QStringLiteral("cboSpeed"));
     m_speed->setAccessibleName(tr("Speed"));
-    m_speed->setToolTip(tr("How many times as fast as the machine"));
+    m_speed->setToolTip(tr("Speed: how many times as fast as the machine"));
     for (int speed = 1; speed <= fastest; speed *= 2)
         m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
 

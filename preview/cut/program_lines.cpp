@@ -22,7 +22,9 @@ void ProgramLines::setText(std::string_view text, QSize character) {
     std::size_t longest = 0;
     for (std::size_t i = 1; i < m_starts.size(); ++i)
         longest = std::max(longest, m_starts[i] - m_starts[i - 1]);
-    m_rowSize = {character.width() * static_cast<int>(std::min(longest, mostCharacters) + 1),
+    m_numberWidth = character.width() * static_cast<int>(QString::number(rowCount()).size() + 1);
+    m_rowSize = {m_numberWidth +
+                     character.width() * static_cast<int>(std::min(longest, mostCharacters) + 1),
                  character.height()};
     endResetModel();
 }

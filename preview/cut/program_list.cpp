@@ -1,9 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/program_list.h"
 
+#include "forms/target_size.h"
+
 #include <QFontDatabase>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace torvik {
+namespace {
+
+constexpr float quietness = 0.65F; // of a number: 1 is as dark as the line
+
+// The number stands before the line, in a quieter ink: it is no part of the program.
+class NumberedLine : public QStyledItemDelegate {
+public:
+    explicit NumberedLine(const ProgramLines& lines, QObject* parent)
+        : QStyledItemDelegate(parent), m_lines(lines) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem text = option;
+        text.rect.setLeft(option.rect.left() + m_lines.numberWidth());
+        QStyledItemDelegate::paint(painter, text, index);
+        QRect number = option.rect;
+        number.setWidth(m_lines.numberWidth() - option.fontMetrics.averageCharWidth() / 2);
+        QColor quiet = option.palette.color(QPalette::Text);
+        quiet.setAlphaF(quietness);
+        painter->setPen(quiet);
+        painter->setFont(option.font);
+        painter->drawText(number, Qt::AlignRight | Qt::AlignVCenter,
+                          QString::number(index.row() + 1));
+    }
+
+private:
+    const ProgramLines& m_lines;
+};
+
+} // namespace
 
 ProgramList::ProgramList(QWidget* parent) : QListView(parent), m_lines(new ProgramLines(this)) {
     setObjectName(QStringLiteral("lstProgram"));
@@ -11,17 +47,17 @@ ProgramList::ProgramList(QWidget* parent) : QListView(parent), m_lines(new Progr
     setToolTip(tr("Choose a line to see the piece when the machine gets there"));
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setUniformItemSizes(true);
-    setLayoutMode(QListView::Batched);
-    setBatchSize(10'000);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setTextElideMode(Qt::ElideNone);
     setModel(m_lines);
+    setItemDelegate(new NumberedLine(*m_lines, this));
 }
 
 void ProgramList::setText(std::string_view text) {
     const QFontMetrics metrics(font());
-    m_lines->setText(text, {metrics.averageCharWidth(), metrics.lineSpacing()});
+    m_lines->setText(text,
+                     {metrics.averageCharWidth(), std::max(metrics.lineSpacing(), leastTarget)});
 }
 
 void ProgramList::showLine(std::uint32_t line) {
@@ -32,6 +68,11 @@ void ProgramList::showLine(std::uint32_t line) {
     setCurrentIndex(m_lines->index(row));
     scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter);
     m_isShowing = false;
+}
+
+void ProgramList::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    scrollTo(currentIndex());
 }
 
 void ProgramList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

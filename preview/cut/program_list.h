@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of a program's lines, in which one line is highlighted. Choosing a line goes there.
+// The list of a program's lines with their numbers, in which one line is highlighted. Choosing a
+// line goes there.
 #pragma once
 
 #include "preview/cut/program_lines.h"
@@ -22,6 +23,8 @@ signals:
     void lineChosen(quint32 line); // by the user, from 1
 
 protected:
+    // The highlighted line stays in sight.
+    void resizeEvent(QResizeEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/solid_painter.h"
 
+#include "base/threads.h"
+
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cmath>
 #include <numbers>
-#include <thread>
 
 namespace torvik {
 namespace {
 
+constexpr float room = 1.03F;     // round the piece
 constexpr float viewAngle = 0.5F; // radians from the lower to the upper edge
 constexpr int stripRows = 16;     // pixels, what a thread takes at a time
 constexpr float never = 1e30F;
@@ -69,10 +70,11 @@ SolidPainter::SolidPainter(const SolidCells& cells, const SolidCamera& camera, Q
     const Vector right{-std::sin(turn), std::cos(turn), 0};
     const Vector up{-std::cos(turn) * std::sin(lift), -std::sin(turn) * std::sin(lift),
                     std::cos(lift)};
-    // Far enough to see all of it from every side, in a narrow window too.
+    // So far that a ball round all of it can be seen, in a narrow window too.
     const float narrow =
         std::min(1.0F, static_cast<float>(size.width()) / static_cast<float>(size.height()));
-    const float far = 0.47F * std::hypot(width, depth) / std::tan(viewAngle / 2) / narrow;
+    const float ball = room * std::hypot(width, depth, cells.thickness) / 2;
+    const float far = ball / std::sin(std::atan(std::tan(viewAngle / 2) * narrow));
     const Vector middle{width / 2, depth / 2, -cells.thickness / 2};
     m_eye = middle + back * (far / static_cast<float>(camera.zoom));
     const float step = 2 * std::tan(viewAngle / 2) / static_cast<float>(size.height());
@@ -192,17 +194,11 @@ void paintSolid(QImage& image, const SolidCells& cells, const SolidCamera& camer
     const std::ptrdiff_t lineLength = image.bytesPerLine() / std::ptrdiff_t{sizeof(QRgb)};
     const int width = image.width();
     const int height = image.height();
-    std::atomic<int> next = 0;
-    const auto work = [&] {
-        for (int first = next.fetch_add(stripRows); first < height;
-             first = next.fetch_add(stripRows))
-            for (int y = first; y < std::min(first + stripRows, height); ++y)
-                painter.paintRow(pixels + y * lineLength, y, width);
-    };
-    std::vector<std::jthread> others;
-    for (int i = 1; i < threads; ++i)
-        others.emplace_back(work);
-    work();
+    inThreads((height + stripRows - 1) / stripRows, threads, [&](int strip) {
+        const int first = strip * stripRows;
+        for (int y = first; y < std::min(first + stripRows, height); ++y)
+            painter.paintRow(pixels + y * lineLength, y, width);
+    });
 }
 
 } // namespace torvik

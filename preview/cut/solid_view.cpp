@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/cut/solid_view.h"
 
+#include "forms/spoken_role.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,6 +26,7 @@ constexpr double smoothness = 2; // rays a pixel, each way, when it stands
 
 SolidView::SolidView(QWidget* parent) : QWidget(parent), m_rest(new QTimer(this)) {
     setObjectName(QStringLiteral("picSolid"));
+    setSpokenRole(*this, QAccessible::Canvas);
     setAccessibleName(tr("The piece as a solid"));
     setToolTip(tr("Drag or arrow keys: turn. Wheel or + and -: zoom. 0: as at first."));
     setFocusPolicy(Qt::StrongFocus);

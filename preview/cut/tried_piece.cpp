@@ -3,6 +3,7 @@
 
 #include "job/job.h"
 #include "job/pens.h"
+#include "languages/shown_text.h"
 #include "tools/tool_list.h"
 #include "trial/trial.h"
 
@@ -47,7 +48,7 @@ CutPiece pieceOf(TriedProgram& tried, const Job& job, const ToolList& tools) {
             piece.tools[tool->intNumber] = {tool->sngDiameter,
                                             QString::fromStdString(tool->strType)};
     for (const TriedGroup& group : tried.groups)
-        piece.groups.push_back({group.firstLine, QString::fromStdString(group.name)});
+        piece.groups.push_back({group.firstLine, shownText(group.name)});
     for (const Path& path : job.drawing.gudtPaths)
         if (!isMachined(job.answers, path.intPen))
             piece.uncut.push_back(pointsOf(path));
