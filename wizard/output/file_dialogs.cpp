@@ -79,19 +79,22 @@ bool mayReplace(const std::filesystem::path& file, StdMessageBox& messages) {
 } // namespace
 
 QString plotFolder(const Registry& registry) {
-    return startFolder(registry, plotFolderSetting, named(programFolder() / "Sample files"));
+    return startFolder(registry, plotFolderSetting, named(sampleFolder()));
 }
 
 void rememberPlotFolder(Registry& registry, const QString& folder) {
     rememberFolder(registry, plotFolderSetting, folder);
 }
 
-std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent) {
+std::filesystem::path strGetInputFile(Registry& registry, const QStringList& otherFilters,
+                                      QWidget* parent) {
     QFileDialog dialog(
         parent, QCoreApplication::translate("FileDialogs", "Select the HPGL file to process"),
-        plotFolder(registry),
-        fileFilter(QCoreApplication::translate("FileDialogs", "HPGL files"),
-                   {QStringLiteral("plt")}));
+        plotFolder(registry));
+    dialog.setNameFilters(
+        QStringList{fileFilter(QCoreApplication::translate("FileDialogs", "HPGL files"),
+                               {QStringLiteral("plt")})} +
+        otherFilters);
     dialog.setObjectName(QStringLiteral("dlgOpen"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);

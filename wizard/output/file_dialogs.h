@@ -25,7 +25,8 @@ QString plotFolder(const Registry& registry);
 void rememberPlotFolder(Registry& registry, const QString& folder);
 
 // "Select the HPGL file to process". An empty path when the user cancels.
-std::filesystem::path strGetInputFile(Registry& registry, QWidget* parent);
+std::filesystem::path strGetInputFile(Registry& registry, const QStringList& otherFilters,
+                                      QWidget* parent);
 
 // The Save dialog of the target. It refuses the drawing itself, gives every name the target's
 // extension, and then asks before a file is replaced. An empty path when the user cancels.

@@ -1,29 +1,18 @@
 // SPDX-License-Identifier: MIT
-// The findings of a program as rows for people: the worst first, what is said again and again once.
+// What the output page and the question before a dangerous program say of findings.
 #pragma once
 
-#include "check/findings.h"
+#include "check/finding_rows.h"
 
 #include <QString>
 #include <QStringList>
 
-#include <vector>
-
 namespace torvik {
 
-struct FindingRow {
-    check::Kind kind;
-    std::uint32_t line; // the first; 0 where it is about no line
-    std::size_t count;  // how often the same is found
-    QString sentence;
-
-    check::Level level() const { return check::rowOf(kind).level; }
-    // "Line 213 and 4 more: …".
-    QString text() const;
-};
-
-// A kind with more findings than are kept counts the others to its last row.
-std::vector<FindingRow> findingRows(const check::Findings& findings);
+// "Line 213 and 4 more", empty where it is about no line; and what is said behind that.
+QString whereOf(const check::FindingRow& row);
+QString saidOf(const check::FindingRow& row);
+QString textOf(const check::FindingRow& row);
 
 // Whether the user must hear of it before the program is written: what is dangerous, and what is
 // not as the job asks for.

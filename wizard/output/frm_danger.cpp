@@ -3,7 +3,6 @@
 
 #include "forms/dialog_places.h"
 
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -42,29 +41,31 @@ FrmDanger::FrmDanger(const QStringList& findings, QWidget* parent) : QDialog(par
     found->setObjectName(QStringLiteral("lblDanger"));
     texts->addWidget(found);
     auto* const icon = new QLabel;
+    icon->setAccessibleName(tr("Warning"));
     icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(iconWidth));
     auto* const row = new QHBoxLayout;
     row->setSpacing(dialogMargin);
     row->addWidget(icon, 0, Qt::AlignTop);
     row->addLayout(texts, 1);
 
-    auto* const buttons = new QDialogButtonBox;
-    auto* const back = buttons->addButton(tr("&Go back"), QDialogButtonBox::RejectRole);
-    auto* const write = buttons->addButton(tr("&Write all the same"), QDialogButtonBox::AcceptRole);
-    back->setObjectName(QStringLiteral("cmdGoBack"));
+    auto* const back = makeDialogButton("cmdGoBack", tr("&Go back"),
+                                        tr("Change the answers first; nothing is written"));
+    auto* const write =
+        makeDialogButton("cmdWrite", tr("&Write all the same"), tr("Write the program as it is"));
     back->setDefault(true);
-    back->setToolTip(tr("Change the answers first; nothing is written"));
-    write->setObjectName(QStringLiteral("cmdWrite"));
     write->setAutoDefault(false);
-    write->setToolTip(tr("Write the program as it is"));
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(back, &QPushButton::clicked, this, &QDialog::reject);
+    connect(write, &QPushButton::clicked, this, &QDialog::accept);
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(back);
+    buttons->addWidget(write);
 
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(dialogMargin, dialogMargin, dialogMargin, dialogMargin);
     column->setSpacing(dialogMargin);
     column->addLayout(row);
-    column->addWidget(buttons);
+    column->addLayout(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);
     back->setFocus();
 }

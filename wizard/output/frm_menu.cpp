@@ -22,9 +22,9 @@ struct Choice {
 };
 
 constexpr std::array<Choice, 3> choices{{
-    {"cmdOpen", "&Process another file", "Open"},
-    {"cmdSave", "&Save code in another format", "Save"},
-    {"cmdClose", "&Close Torvik", "Close"},
+    {"cmdOpen", QT_TRANSLATE_NOOP("FrmMenu", "&Process another file"), "Open"},
+    {"cmdSave", QT_TRANSLATE_NOOP("FrmMenu", "&Save code in another format"), "Save"},
+    {"cmdClose", QT_TRANSLATE_NOOP("FrmMenu", "&Close Torvik"), "Close"},
 }};
 
 // The menu stays open behind the folder's window.
@@ -40,13 +40,14 @@ QPushButton* makeFolderButton(const QString& folder) {
 
 } // namespace
 
-FrmMenu::FrmMenu(const QString& writtenFile, const QString& minutes, const QString& folder,
-                 QWidget* parent)
+FrmMenu::FrmMenu(const QString& writtenFile, const QString& takingOut, const QString& minutes,
+                 const QString& folder, QWidget* parent)
     : QDialog(parent) {
     setObjectName(QStringLiteral("frmMenu"));
     setWindowTitle(QStringLiteral("Torvik"));
     auto* const label = new QLabel(
         tr("The program has been written to\n%1\n\n").arg(breakablePath(writtenFile)) +
+        (takingOut.isEmpty() ? QString() : takingOut + QStringLiteral("\n\n")) +
         (minutes.isEmpty() ? QString() : tr("It will take %1 on the machine.\n\n").arg(minutes)) +
         tr("What would you like to do next?"));
     label->setObjectName(QStringLiteral("lblMenu"));
@@ -57,7 +58,7 @@ FrmMenu::FrmMenu(const QString& writtenFile, const QString& minutes, const QStri
     layout->addWidget(label);
     layout->addSpacing(8);
     for (const Choice& choice : choices) {
-        auto* const button = new QPushButton(QString::fromUtf8(choice.text));
+        auto* const button = new QPushButton(tr(choice.text));
         button->setObjectName(QString::fromUtf8(choice.name));
         connect(button, &QPushButton::clicked, this, [this, choice] {
             setProperty(tagProperty, QString::fromUtf8(choice.word));

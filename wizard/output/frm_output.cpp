@@ -21,6 +21,9 @@ FrmOutput::FrmOutput(const Dialect& dialect, QWidget* parent)
         new QLabel(tr("Please enter the number that will identify this piece to %1")
                        .arg(QString::fromUtf8(dialect.name)));
     prompt->setObjectName(QStringLiteral("lblPrompt"));
+    prompt->setWordWrap(true);
+    constexpr int signsBesideTitle = 140; // pixels that a window manager may take
+    prompt->setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + signsBesideTitle);
     auto* const prefix = new QLabel(QString::fromUtf8(dialect.diskettePrefix));
     prefix->setObjectName(QStringLiteral("lblPrefix"));
     m_number->setObjectName(QStringLiteral("txtNumber"));

@@ -114,7 +114,8 @@ OutputPage::OutputPage(Workshop& workshop, CutPicture& picture, QWidget* parent)
     });
     connect(&m_trial, &TrialRun::ended, this, &OutputPage::trialEnded);
     connect(
-        m_panel, &TriedPanel::lookWanted, this, [this] { look(); }, Qt::QueuedConnection);
+        m_panel, &TriedPanel::lookWanted, this, [this](quint32 line) { look(line); },
+        Qt::QueuedConnection);
     showDrive();
 }
 
@@ -138,9 +139,13 @@ void OutputPage::trialEnded() {
     });
 }
 
-void OutputPage::look() {
-    if (m_work)
-        FrmCut(m_work, this).exec();
+void OutputPage::look(quint32 line) {
+    if (!m_work)
+        return;
+    FrmCut piece(m_work, this);
+    if (line > 0)
+        piece.showLine(line);
+    piece.exec();
 }
 
 QWidget* OutputPage::buildDrive() {

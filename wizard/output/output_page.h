@@ -45,7 +45,8 @@ private:
     void warnOfComments();
     void beginTrial();
     void trialEnded();
-    void look();
+    // At the whole piece, or with a line of its program at once.
+    void look(quint32 line);
 
     Workshop& m_workshop;
     QButtonGroup* m_targets = nullptr;

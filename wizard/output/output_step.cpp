@@ -11,9 +11,11 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "check/time/program_time.h"
+#include "forms/taking_out.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_size.h"
+#include "languages/shown_text.h"
 #include "wizard/host/group_name.h"
 #include "wizard/host/workshop.h"
 #include "wizard/output/drive_a.h"
@@ -28,6 +30,7 @@
 #include <QGuiApplication>
 
 #include <cmath>
+#include <vector>
 
 namespace torvik {
 namespace {
@@ -179,9 +182,12 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
                                    pathFromUtf8(m_workshop.job.drawing.gstrPlotFile), &m_window);
         if (file.empty() || !write(target, number, file))
             return;
-        PutSavedData(m_workshop.job, m_workshop.tools, savedSettingsFolder(), m_workshop.logger);
+        if (PutSavedData(m_workshop.job, m_workshop.tools, savedSettingsFolder(),
+                         m_workshop.logger))
+            m_answersKept();
         m_workshop.job.output.gblnUnsaved = false;
-        after = showMenu(dialect.needsNumber() ? "a:\\" + proposed : utf8FromPath(file), file);
+        after = dialect.needsNumber() ? showMenu("a:\\" + proposed, {file, sideTextPath(file)})
+                                      : showMenu(utf8FromPath(file), {file});
     });
     return after;
 }
@@ -208,13 +214,13 @@ bool OutputStep::write(std::int16_t target, std::int16_t number,
 }
 
 AfterOutput OutputStep::showMenu(const std::string& writtenFile,
-                                 const std::filesystem::path& file) {
+                                 const std::vector<std::filesystem::path>& files) {
     const TriedProgram* const tried = m_trial.tried();
     const QString minutes = tried != nullptr && tried->isTried()
-                                ? QString::fromStdString(check::timeText(tried->minutes))
+                                ? shownText(check::timeText(tried->minutes))
                                 : QString();
-    FrmMenu menu(QString::fromStdString(writtenFile), minutes,
-                 QString::fromStdString(utf8FromPath(file.parent_path())), &m_window);
+    FrmMenu menu(QString::fromStdString(writtenFile), takingOutText(files), minutes,
+                 QString::fromStdString(utf8FromPath(files.front().parent_path())), &m_window);
     menu.exec();
     const std::string word = menu.tag();
     if (word == "Open")

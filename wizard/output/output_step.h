@@ -7,7 +7,10 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 class QWidget;
 
@@ -34,8 +37,11 @@ class OutputStep {
 
 public:
     // Dialogs are shown over the window. The trial is finished before anything is written.
-    OutputStep(Workshop& workshop, TrialRun& trial, QWidget& window)
-        : m_workshop(workshop), m_trial(trial), m_window(window) {}
+    // `answersKept` is called when a program was written and its answers are saved.
+    OutputStep(Workshop& workshop, TrialRun& trial, QWidget& window,
+               std::function<void()> answersKept)
+        : m_workshop(workshop), m_trial(trial), m_window(window),
+          m_answersKept(std::move(answersKept)) {}
 
     // Asks what the target needs to know and calls WriteFile. gblnUnsaved becomes False only when
     // a file was really written.
@@ -59,12 +65,14 @@ private:
     bool mayOverwrite(const std::string& name);
     // False where the user gave up or the writing failed.
     bool write(std::int16_t target, std::int16_t number, const std::filesystem::path& file);
-    // The file as the user knows it, and where it really is.
-    AfterOutput showMenu(const std::string& writtenFile, const std::filesystem::path& file);
+    // The program as the user knows it, and where it really is, with the text beside it.
+    AfterOutput showMenu(const std::string& writtenFile,
+                         const std::vector<std::filesystem::path>& files);
 
     Workshop& m_workshop;
     TrialRun& m_trial;
     QWidget& m_window;
+    std::function<void()> m_answersKept;
     std::int64_t m_lines = 0; // of the program that is written
 };
 

@@ -4,8 +4,10 @@
 #include "base/picture.h"
 #include "check/time/program_time.h"
 #include "forms/quiet_line.h"
+#include "languages/shown_text.h"
+#include "preview/cut/tried_words.h"
 #include "trial/trial.h"
-#include "wizard/output/finding_rows.h"
+#include "wizard/output/finding_list.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -31,15 +33,6 @@ QString billetText(const check::Billet& billet) {
         return TriedPanel::tr("not given");
     return TriedPanel::tr("%1 × %2 × %3 mm")
         .arg(shown(billet.length), shown(billet.width), shown(billet.depth));
-}
-
-QString passesText(const TriedGroup& group) {
-    const auto passes = group.passes;
-    if (group.holes == 0)
-        return passes == 1 ? TriedPanel::tr("1 pass") : TriedPanel::tr("%1 passes").arg(passes);
-    const QString holes =
-        group.holes == 1 ? TriedPanel::tr("1 hole") : TriedPanel::tr("%1 holes").arg(group.holes);
-    return passes == 1 ? holes : TriedPanel::tr("%1, each in %2 steps").arg(holes).arg(passes);
 }
 
 // "T1 6.0 mm Slot drill – 5.2 mm deep – 3 passes"; a narrow page breaks it between the parts only.
@@ -71,18 +64,21 @@ QLabel* boldLabel(const QString& text) {
 
 TriedPanel::TriedPanel(QWidget* parent)
     : QGroupBox(parent), m_busy(plainLabel(tr("The program is being tried…"))),
-      m_facts(buildFacts()), m_findings(new QuietLine(QStringLiteral("lblFindings"), 0)),
-      m_groupsPlace(new QVBoxLayout), m_look(new QPushButton(tr("&Look at the piece…"))) {
+      m_facts(buildFacts()), m_state(new QuietLine(QStringLiteral("lblFindings"), 0)),
+      m_findings(new FindingList), m_groupsPlace(new QVBoxLayout),
+      m_look(new QPushButton(tr("&Look at the piece…"))) {
     setObjectName(QStringLiteral("fraTried"));
     setTitle(tr("What will be written"));
     m_busy->setObjectName(QStringLiteral("lblTrying"));
     m_look->setObjectName(QStringLiteral("cmdLook"));
     m_look->setToolTip(tr("The piece as the program cuts it, move by move, and as a solid"));
-    connect(m_look, &QPushButton::clicked, this, &TriedPanel::lookWanted);
+    connect(m_look, &QPushButton::clicked, this, [this] { emit lookWanted(0); });
+    connect(m_findings, &FindingList::lineChosen, this, &TriedPanel::lookWanted);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(groupGap);
     column->addWidget(m_busy);
     column->addWidget(m_facts);
+    column->addWidget(m_state);
     column->addWidget(m_findings);
     column->addLayout(m_groupsPlace);
     column->addWidget(m_look, 0, Qt::AlignLeft);
@@ -113,8 +109,9 @@ QWidget* TriedPanel::buildFacts() {
 void TriedPanel::showBusy() {
     m_busy->show();
     m_facts->hide();
-    m_findings->hide();
-    m_findings->say({});
+    m_state->hide();
+    m_state->say({});
+    m_findings->setRows({}, false, *m_look);
     showGroups({}, false);
     setPieceShown(false);
 }
@@ -134,7 +131,7 @@ void TriedPanel::showTried(const TriedProgram& tried, const std::string& partNam
 void TriedPanel::showFacts(const TriedProgram& tried, const std::string& partName) {
     m_part->setText(QString::fromStdString(partName));
     m_billet->setText(billetText(tried.billet));
-    m_minutes->setText(tried.isTried() ? QString::fromStdString(check::timeText(tried.minutes))
+    m_minutes->setText(tried.isTried() ? shownText(check::timeText(tried.minutes))
                                        : tr("not known"));
     m_changes->setText(tried.isTried() ? QString::number(tried.summary.changes) : tr("not known"));
     m_facts->show();
@@ -149,13 +146,13 @@ void TriedPanel::showFindings(const TriedProgram& tried, const QString& cause) {
         texts.push_back({tr("The program has more than %1 lines. That is too long to be tried.")
                              .arg(mostTriedLines),
                          QuietLine::Tone::warning});
+    else if (tried.groups.empty())
+        texts.push_back({tr("It mills nothing: every pen is left out."), QuietLine::Tone::warning});
     else if (tried.findings.isGood())
         texts.push_back({tr("Nothing dangerous or wrong is found in it.")});
-    for (const FindingRow& row : findingRows(tried.findings))
-        texts.push_back({row.text(), row.level() < check::Level::wrong ? QuietLine::Tone::plain
-                                                                       : QuietLine::Tone::warning});
-    m_findings->say(texts);
-    m_findings->setVisible(!texts.empty());
+    m_state->say(texts);
+    m_state->setVisible(!texts.empty());
+    m_findings->setRows(check::findingRows(tried.findings), !tried.moves.empty(), *m_look);
 }
 
 void TriedPanel::showGroups(const std::vector<TriedGroup>& groups, bool isTimed) {
@@ -172,10 +169,10 @@ void TriedPanel::showGroups(const std::vector<TriedGroup>& groups, bool isTimed)
         if (i > 0)
             grid->setRowMinimumHeight(row++, rowGap);
         grid->addWidget(boldLabel(QString::number(i + 1)), row, 0, Qt::AlignTop);
-        grid->addWidget(boldLabel(QString::fromStdString(groups[i].name)), row, 1);
+        grid->addWidget(boldLabel(shownText(groups[i].name)), row, 1);
         if (isTimed)
-            grid->addWidget(new QLabel(QString::fromStdString(check::timeText(groups[i].minutes))),
-                            row, 2, Qt::AlignTop | Qt::AlignRight);
+            grid->addWidget(new QLabel(shownText(check::timeText(groups[i].minutes))), row, 2,
+                            Qt::AlignTop | Qt::AlignRight);
         grid->addWidget(plainLabel(workText(groups[i])), row + 1, 1, 1, 2);
         row += 2;
     }

@@ -13,6 +13,7 @@ class QVBoxLayout;
 
 namespace torvik {
 
+class FindingList;
 class QuietLine;
 struct TriedGroup;
 struct TriedProgram;
@@ -30,7 +31,8 @@ public:
     void setPieceShown(bool isShown);
 
 signals:
-    void lookWanted();
+    // At a line of the program, or at the whole piece (0).
+    void lookWanted(quint32 line);
 
 private:
     QWidget* buildFacts();
@@ -44,7 +46,8 @@ private:
     QLabel* m_minutes = nullptr;
     QLabel* m_changes = nullptr;
     QWidget* m_facts;
-    QuietLine* m_findings;
+    QuietLine* m_state;
+    FindingList* m_findings;
     QVBoxLayout* m_groupsPlace;
     QWidget* m_groups = nullptr;
     QPushButton* m_look;

@@ -5,10 +5,11 @@
 
 #include <QPushButton>
 
+#include <limits>
+
 namespace torvik {
 
 WritingDialog::WritingDialog(std::int64_t lines, QWidget* parent) : QProgressDialog(parent) {
-    constexpr int patience = 500; // ms
     setObjectName(QStringLiteral("dlgWriting"));
     setWindowModality(Qt::ApplicationModal);
     setLabelText(tr("Writing the program, %1 lines…").arg(lines));
@@ -20,11 +21,16 @@ WritingDialog::WritingDialog(std::int64_t lines, QWidget* parent) : QProgressDia
     setAutoReset(false);
     setAutoClose(false);
     setRange(0, static_cast<int>(lines));
-    setMinimumDuration(lines > manyLines ? 0 : patience);
+    // Its own clock would bring it up over the message of a writing that failed.
+    setMinimumDuration(std::numeric_limits<int>::max());
     setValue(0);
+    m_since.start();
 }
 
 bool WritingDialog::goOn(std::int64_t written) {
+    constexpr qint64 patience = 500; // ms
+    if (maximum() > manyLines || m_since.elapsed() >= patience)
+        forceShow();
     setValue(static_cast<int>(std::min<std::int64_t>(written, maximum())));
     return !wasCanceled();
 }

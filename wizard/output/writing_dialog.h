@@ -3,6 +3,7 @@
 // a while.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QProgressDialog>
 
 #include <cstdint>
@@ -18,6 +19,9 @@ public:
 
     // So many lines are written. False where the user has ended the writing.
     bool goOn(std::int64_t written);
+
+private:
+    QElapsedTimer m_since;
 };
 
 } // namespace torvik
