@@ -2,6 +2,7 @@
 #include "wizard/colour_tree_view.h"
 
 #include "job/job.h"
+#include "languages/shown_text.h"
 #include "wizard/pen_pictures.h"
 
 #include <algorithm>
@@ -22,6 +23,7 @@ ColourTreeView::ColourTreeView(QWidget* parent) : QTreeWidget(parent) {
     setObjectName(QStringLiteral("tvwColours"));
     setAccessibleName(tr("Pen colours of the drawing"));
     setToolTip(tr("The pens of the drawing and their hole sizes; the one on show is bold"));
+    setHeaderLabel(accessibleName()); // only heard
     setHeaderHidden(true);
     setIconSize({24, 24});
     setSelectionMode(NoSelection);
@@ -69,7 +71,7 @@ void ColourTreeView::buildNodes(const std::vector<ColourNode>& tree) {
 }
 
 void ColourTreeView::decorate(QTreeWidgetItem& item, const ColourNode& node, const Job& job) {
-    const QString text = QString::fromStdString(node.text);
+    const QString text = shownText(node.text);
     const QString picture = penPictureText(node.image);
     QIcon& icon = m_pictures[node.image];
     if (icon.isNull())

@@ -5,6 +5,8 @@
 #include "answers/program_folder.h"
 #include "base/error_trap.h"
 #include "base/files.h"
+#include "forms/file_choice.h"
+#include "prepare/dialog/dragged_source.h"
 #include "wizard/output/file_dialogs.h"
 #include "wizard/recent_drawings.h"
 #include "wizard/skipped_line.h"
@@ -22,6 +24,10 @@ namespace {
 // Milliseconds between two looks whether a dialog has gone. One dialog can follow another at once.
 constexpr int lookTime = 100;
 
+bool isForeign(const std::filesystem::path& drawing) {
+    return isForeignDrawing(QString::fromStdString(utf8FromPath(drawing)));
+}
+
 } // namespace
 
 DrawingOpener::DrawingOpener(Workshop& workshop, WizardDriver& driver, SkippedLine& skipped,
@@ -32,15 +38,21 @@ void DrawingOpener::ReadFile() {
     withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
         if (!agreesToOpen())
             return;
-        const auto drawing = strGetInputFile(m_workshop.registry, &m_window);
-        if (!drawing.empty())
+        const auto drawing =
+            strGetInputFile(m_workshop.registry,
+                            {fileFilter(tr("SVG and DXF drawings"), foreignKinds())}, &m_window);
+        if (isForeign(drawing))
+            m_skipped.PrepareDrawing(drawing);
+        else if (!drawing.empty())
             importFrom(drawing);
     });
 }
 
 void DrawingOpener::ReadFile(const std::filesystem::path& drawing) {
     withErrorTrap(m_workshop.logger, {"ReadFile", "modHpgl"}, [&] {
-        if (agreesToOpen())
+        if (isForeign(drawing))
+            m_skipped.PrepareDrawing(drawing); // it asks when what it made is opened
+        else if (agreesToOpen())
             importFrom(drawing);
     });
 }

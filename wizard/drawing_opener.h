@@ -23,7 +23,8 @@ public:
     // `window` gets the drawing's name as its title, and dialogs stand over it.
     DrawingOpener(Workshop& workshop, WizardDriver& driver, SkippedLine& skipped, QWidget& window);
 
-    // Asks for a drawing, imports it and lays out step 2. Cancelling changes nothing.
+    // Asks for a drawing, imports it and lays out step 2. Cancelling changes nothing. A drawing of
+    // another kind goes to the dialog that prepares it.
     void ReadFile();
     // The same for a drawing that is named already (recent, dropped).
     void ReadFile(const std::filesystem::path& drawing);

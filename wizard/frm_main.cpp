@@ -4,6 +4,7 @@
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/help_key.h"
+#include "forms/reading_order.h"
 #include "prepare/dialog/dragged_source.h"
 #include "preview/cut/cut_picture.h"
 #include "preview/preview_widget.h"
@@ -31,6 +32,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -39,12 +41,12 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace torvik {
 namespace {
 
 constexpr QSize roomForFrame(16, 48); // what the window manager puts round the window
-constexpr int widestMinimum = 380;    // of a page, so that the window fits a screen of 800 by 600
 
 QPushButton* button(const QString& name, const QString& text, const QString& help) {
     auto* const result = new QPushButton(text);
@@ -53,14 +55,28 @@ QPushButton* button(const QString& name, const QString& text, const QString& hel
     return result;
 }
 
+// One of 1024 by 768 on which all is shown twice as large; the window fits 800 by 600 anyway.
+bool isNarrowScreen() {
+    return QGuiApplication::primaryScreen()->availableSize().width() < 800 - roomForFrame.width();
+}
+
+// Pixels; a page scrolls, and a picture may be small.
+int widestMinimum() {
+    return isNarrowScreen() ? 220 : 380;
+}
+
 // Keeps the scroll bar's room free beside the page while it is hidden: nothing moves when it comes.
+// A page that is too high with that room and not without it goes without.
 void keepRoomForBar(const QScrollArea& area) {
     const QScrollBar* const bar = area.verticalScrollBar();
-    const auto keep = [page = area.widget(), bar](int min, int max) {
+    auto keep = [page = area.widget(), bar, isKeeping = false](int min, int max) mutable {
+        if (std::exchange(isKeeping, true))
+            return;
         page->setContentsMargins(0, 0, max > min ? 0 : bar->sizeHint().width(), 0);
+        isKeeping = false;
     };
-    QObject::connect(bar, &QScrollBar::rangeChanged, area.widget(), keep);
     keep(bar->minimum(), bar->maximum());
+    QObject::connect(bar, &QScrollBar::rangeChanged, area.widget(), keep);
 }
 
 // A page that scrolls where the window is smaller than its form. The control with the focus is
@@ -72,7 +88,7 @@ QScrollArea* scrolling(QWidget* page) {
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     keepRoomForBar(*area);
-    area->setMinimumWidth(std::min(widestMinimum, page->minimumSizeHint().width()));
+    area->setMinimumWidth(std::min(widestMinimum(), page->minimumSizeHint().width()));
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
         if (now != nullptr && area->widget()->isAncestorOf(now))
             area->ensureWidgetVisible(now);
@@ -133,16 +149,19 @@ void FrmMain::buildWindow() {
     m_controls.opening = new StartPage;
     connect(m_controls.opening, &StartPage::continueWanted, this,
             [this] { m_driver.continueDrawing(); });
-    m_controls.pages->addWidget(m_controls.opening);
+    connect(m_controls.opening, &StartPage::drawingChosen, this,
+            [this](const QString& name) { ReadFileLater(pathFromUtf8(name.toStdString())); });
     for (QWidget* const page :
-         std::initializer_list<QWidget*>{m_controls.globals, m_controls.pens, m_controls.order,
-                                         m_controls.header, m_controls.output})
+         std::initializer_list<QWidget*>{m_controls.opening, m_controls.globals, m_controls.pens,
+                                         m_controls.order, m_controls.header, m_controls.output})
         m_controls.pages->addWidget(scrolling(page));
 
     m_controls.preview = new PreviewWidget(m_workshop.job, m_workshop.tools, m_workshop.logger);
     m_controls.pictures = new QStackedWidget;
     m_controls.pictures->addWidget(m_controls.preview);
     m_controls.pictures->addWidget(piece);
+    if (isNarrowScreen())
+        m_controls.pictures->setMinimumSize(100, 100);
     auto* const split = new QSplitter(Qt::Horizontal);
     split->setObjectName(QStringLiteral("splMain"));
     split->addWidget(buildSide());
@@ -153,6 +172,7 @@ void FrmMain::buildWindow() {
     split->setStretchFactor(1, 0);
     split->setStretchFactor(2, 1);
     split->setSizes({200, 440, 540});
+    readInOrder(*split);
 
     auto* const content = new QWidget;
     auto* const layout = new QVBoxLayout(content);
@@ -168,7 +188,6 @@ QWidget* FrmMain::buildSide() {
     treeLabel->setObjectName(QStringLiteral("lblColours"));
     m_controls.importedLabel = treeLabel;
     auto* const side = new QWidget;
-    side->setMinimumWidth(150);
     auto* const layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_controls.steps);
@@ -250,6 +269,12 @@ void FrmMain::showJobSheet() {
             styleExclamation, usualTitle);
 }
 
+QRect FrmMain::formPlace() const {
+    const QWidget& pages = *m_controls.pages;
+    const QPoint end = pages.mapToGlobal(pages.rect().bottomRight());
+    return {frameGeometry().topLeft(), end};
+}
+
 void FrmMain::showHelpFor(const QWidget* control) {
     for (; control != nullptr; control = control->parentWidget()) {
         const int context = control->property(helpContextProperty).toInt();
@@ -328,11 +353,18 @@ void FrmMain::end() {
 }
 
 void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedSource(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    if (draggedSource(*event->mimeData()).isEmpty())
+        return;
+    event->acceptProposedAction();
+    m_controls.opening->showDrag(true);
+}
+
+void FrmMain::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    m_controls.opening->showDrag(false);
 }
 
 void FrmMain::dropEvent(QDropEvent* event) {
+    m_controls.opening->showDrag(false);
     const QString name = draggedSource(*event->mimeData());
     if (name.isEmpty())
         return;

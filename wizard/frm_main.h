@@ -48,6 +48,9 @@ public:
     bool CheckClose();
     // Restores and raises the window for a second start of the program.
     void bringToFront();
+    // Where the steps and the page stand on the screen: what is not to be covered while it is
+    // filled in.
+    QRect formPlace() const;
     // Opens the topic of the control or of what it stands in; else that of the step.
     void showHelpFor(const QWidget* control);
     void showAbout() { m_services.showAbout(); }
@@ -55,6 +58,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     // The form previews the keys, whichever control has the focus.
     bool eventFilter(QObject* watched, QEvent* event) override;

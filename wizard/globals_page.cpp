@@ -10,17 +10,20 @@
 #include "forms/help_key.h"
 #include "forms/number_box.h"
 #include "forms/quiet_line.h"
+#include "wizard/heights_diagram.h"
 #include "wizard/host/finding_texts.h"
 #include "wizard/host/wizard_host.h"
 #include "wizard/host/workshop.h"
 #include "wizard/pens/pen_controls.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <limits>
 #include <string_view>
 
@@ -29,27 +32,38 @@ namespace {
 
 constexpr int helpHeights = 2;
 constexpr int heightLinesKept = 2;
+constexpr int hintLinesKept = 2;
 
 struct Height {
     const char* name;
     const char* caption;
     const char* tip;
+    int usual; // mm
 };
 
 constexpr std::array<Height, heightFields.size()> heights{{
     {QT_TRANSLATE_NOOP("GlobalsPage", "Tool Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage", "Tool &Change Height"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "Where the tool is changed, well above the work and its clamps")},
+                       "Where the tool is changed, well above the work and its clamps"),
+     50},
     {QT_TRANSLATE_NOOP("GlobalsPage", "Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage", "&Safe Height for Rapids"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "Where the tool travels quickly across the work without touching anything")},
+                       "Where the tool travels quickly across the work without touching anything"),
+     5},
     {QT_TRANSLATE_NOOP("GlobalsPage", "Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage", "&Rapid Down To"),
      QT_TRANSLATE_NOOP("GlobalsPage",
-                       "How far the tool comes down quickly; the rest it goes at its feed")},
+                       "How far the tool comes down quickly; the rest it goes at its feed"),
+     2},
 }};
+
+QString hintOf(std::size_t height) {
+    return GlobalsPage::tr("%1. Usual: %2 mm")
+        .arg(GlobalsPage::tr(heights[height].tip))
+        .arg(heights[height].usual);
+}
 
 QString wrong(HeightFault::Kind kind) {
     switch (kind) {
@@ -84,7 +98,7 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
         const Height& height = heights[static_cast<std::size_t>(i)];
         auto* const box = new NumberBox(signedMeasureHint);
         box->setObjectName(QStringLiteral("txtGlob%1").arg(i));
-        box->setToolTip(tr(height.tip));
+        box->setToolTip(hintOf(static_cast<std::size_t>(i)));
         addFormRow(*form, i, tr(height.caption), box, QStringLiteral("mm"), helpHeights);
         connect(box, &QLineEdit::textChanged, this, changed);
         m_heights[static_cast<std::size_t>(i)] = box;
@@ -115,8 +129,36 @@ GlobalsPage::GlobalsPage(Workshop& workshop, WizardHost& host, QWidget* parent)
     layout->addWidget(explanation);
     layout->addLayout(form);
     layout->addWidget(m_quiet);
+    layout->addWidget(makePicture());
     layout->addWidget(units);
     layout->addStretch(1);
+}
+
+QWidget* GlobalsPage::makePicture() {
+    m_diagram = new HeightsDiagram({tr(heights[0].name), tr(heights[1].name), tr(heights[2].name)});
+    m_diagram->setObjectName(QStringLiteral("picHeights"));
+    m_hint = new QLabel;
+    m_hint->setObjectName(QStringLiteral("lblHeightHint"));
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignTop);
+    m_hint->setMinimumHeight(hintLinesKept * m_hint->fontMetrics().lineSpacing());
+    markHeight(0);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        const auto* const at = std::find(m_heights.begin(), m_heights.end(), now);
+        if (at != m_heights.end())
+            markHeight(static_cast<std::size_t>(at - m_heights.begin()));
+    });
+    auto* const picture = new QWidget;
+    auto* const layout = new QVBoxLayout(picture);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_diagram);
+    layout->addWidget(m_hint);
+    return picture;
+}
+
+void GlobalsPage::markHeight(std::size_t height) {
+    m_diagram->mark(height);
+    m_hint->setText(hintOf(height));
 }
 
 HeightTexts GlobalsPage::texts() const {
@@ -127,6 +169,7 @@ HeightTexts GlobalsPage::texts() const {
 }
 
 void GlobalsPage::sayHeights() {
+    m_diagram->setTyped({m_heights[0]->text(), m_heights[1]->text(), m_heights[2]->text()});
     std::array<float, heightFields.size()> typed{};
     QuietLine::Texts missing;
     for (std::size_t i = typed.size(); i-- > 0;) {
@@ -144,10 +187,23 @@ void GlobalsPage::sayHeights() {
 }
 
 void GlobalsPage::SaveGlobals() {
-    withErrorTrap(m_workshop.logger, {"SaveGlobals", "modHpgl"}, [&] {
-        storeHeights(texts(), m_workshop.job.answers);
-        chooseFeedUnits(m_units[0]->isChecked(), m_workshop.job.answers);
-    });
+    withErrorTrap(m_workshop.logger, {"SaveGlobals", "modHpgl"},
+                  [&] { storeTyped(m_workshop.job.answers); });
+}
+
+void GlobalsPage::storeTyped(Answers& answers) const {
+    storeHeights(texts(), answers);
+    chooseFeedUnits(m_units[0]->isChecked(), answers);
+}
+
+std::vector<std::string> GlobalsPage::typedTexts() const {
+    const HeightTexts typed = texts();
+    return {typed.begin(), typed.end()};
+}
+
+void GlobalsPage::typeAgain(const std::vector<std::string>& texts) {
+    for (std::size_t i = 0; i < m_heights.size() && i < texts.size(); ++i)
+        m_heights[i]->setText(QString::fromStdString(texts[i]));
 }
 
 void GlobalsPage::RestoreGlobals() {

@@ -8,12 +8,14 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 class QLabel;
 class QRadioButton;
 
 namespace torvik {
 
+class HeightsDiagram;
 class NumberBox;
 class QuietLine;
 struct Workshop;
@@ -27,6 +29,11 @@ public:
 
     // Puts the boxes txtGlob0 to txtGlob2 and the unit options into the job.
     void SaveGlobals();
+    // The same into answers that are only looked at.
+    void storeTyped(Answers& answers) const;
+    // The texts of the boxes, and the same texts once more.
+    std::vector<std::string> typedTexts() const;
+    void typeAgain(const std::vector<std::string>& texts);
     // Fills them from the job: heights as whole millimetres, 0 as an empty box.
     void RestoreGlobals();
     // Whether all three heights are other than zero and can be stored; else says which is not,
@@ -45,6 +52,9 @@ private:
     HeightTexts texts() const;
     // What is missing or wrong with the heights, of all that the worst.
     void sayHeights();
+    // The heights from the side, and what is usual for the one that is asked for.
+    QWidget* makePicture();
+    void markHeight(std::size_t height);
 
     Workshop& m_workshop;
     WizardHost& m_host;
@@ -52,6 +62,8 @@ private:
     std::array<QRadioButton*, 2> m_units{};
     QLabel* m_damage = nullptr;
     QuietLine* m_quiet = nullptr;
+    HeightsDiagram* m_diagram = nullptr;
+    QLabel* m_hint = nullptr;
 };
 
 } // namespace torvik

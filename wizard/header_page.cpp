@@ -132,8 +132,12 @@ void HeaderPage::fill() {
 }
 
 void HeaderPage::readBoxes() {
+    storeTyped(m_workshop.job.answers);
+}
+
+void HeaderPage::storeTyped(Answers& answers) const {
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
-        m_workshop.job.answers.gstrHeader[static_cast<long>(i)] = m_boxes[i]->text().toStdString();
+        answers.gstrHeader[static_cast<long>(i)] = m_boxes[i]->text().toStdString();
 }
 
 bool HeaderPage::blnHeaderDone() {

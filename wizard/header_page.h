@@ -13,6 +13,7 @@ class QLineEdit;
 namespace torvik {
 
 class QuietLine;
+struct Answers;
 struct Workshop;
 
 class HeaderPage : public QWidget {
@@ -26,6 +27,8 @@ public:
     void fill();
     // The boxes as they stand, into gstrHeader.
     void readBoxes();
+    // The same into answers that are only looked at.
+    void storeTyped(Answers& answers) const;
     // Whether every box that must be filled is; else says which is not and gives it the focus.
     bool blnHeaderDone();
 

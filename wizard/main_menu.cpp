@@ -3,6 +3,7 @@
 
 #include "base/files.h"
 #include "wizard/frm_main.h"
+#include "wizard/language_menu.h"
 #include "wizard/later.h"
 #include "wizard/recent_drawings.h"
 
@@ -63,6 +64,9 @@ void MainMenu::buildView(QWidget& tree) {
         });
     whole->setObjectName(QStringLiteral("mnuViewFullScreen"));
     whole->setCheckable(true);
+    QMenu* const languages = view->addMenu(tr("&Language (from the next start)"));
+    languages->setObjectName(QStringLiteral("mnuLanguage"));
+    addLanguages(*languages);
 }
 
 void MainMenu::buildHelp() {

@@ -8,7 +8,9 @@
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
 #include "forms/quiet_line.h"
+#include "forms/spoken_role.h"
 #include "job/pens.h"
+#include "languages/shown_text.h"
 #include "wizard/host/finding_texts.h"
 #include "wizard/host/workshop.h"
 #include "wizard/order_words.h"
@@ -59,6 +61,7 @@ OrderPage::OrderPage(Workshop& workshop, QWidget* parent) : QWidget(parent), m_w
 QWidget* OrderPage::buildList() {
     m_list = new QFrame;
     m_list->setObjectName(QStringLiteral("picOrderList"));
+    setSpokenRole(*m_list, QAccessible::List);
     m_list->setAccessibleName(tr("Machining order"));
     static_cast<QFrame*>(m_list)->setFrameShape(QFrame::StyledPanel);
     m_list->setBackgroundRole(QPalette::Base);
@@ -77,6 +80,9 @@ QWidget* OrderPage::buildButtons() {
     m_down = new QPushButton(tr("Move &Down"));
     m_down->setObjectName(QStringLiteral("cmdDown"));
     m_down->setToolTip(tr("Machine the selected colour later (arrow down)"));
+    // A click leaves the focus with the colours: Enter leads on then, as on every page.
+    for (QPushButton* const button : {m_up, m_down})
+        button->setFocusPolicy(Qt::TabFocus);
     connect(m_up, &QPushButton::clicked, this, [this] { ColourReOrder(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { ColourReOrder(1); });
     auto* const column = new QWidget;
@@ -88,7 +94,7 @@ QWidget* OrderPage::buildButtons() {
     return column;
 }
 
-void OrderPage::ShowOrder(std::int16_t /*direction*/) {
+void OrderPage::ShowOrder(std::int16_t direction) {
     withErrorTrap(m_workshop.logger, {"ShowOrder", "modHpgl"}, [&] {
         Job& job = m_workshop.job;
         for (const Row& row : m_rows)
@@ -104,8 +110,12 @@ void OrderPage::ShowOrder(std::int16_t /*direction*/) {
                 addRow(pen);
             }
         }
-        if (!m_rows.empty())
+        placeRowsInTabOrder();
+        if (!m_rows.empty()) {
             select(1);
+            if (direction > 0)
+                m_rows.front().picOrd->setFocus();
+        }
         sayOrder();
     });
 }
@@ -116,6 +126,7 @@ void OrderPage::addRow(std::int16_t pen) {
     row.picOrd->setObjectName(QStringLiteral("picOrd%1").arg(number));
     row.lblOrd->setObjectName(QStringLiteral("lblOrd%1").arg(number));
     row.picOrd->setFocusPolicy(Qt::StrongFocus);
+    setSpokenRole(*row.picOrd, QAccessible::ListItem);
     row.lblOrdWork->setObjectName(QStringLiteral("lblOrdWork%1").arg(number));
     // The first line of both stands beside the picture's middle.
     const int above = std::max(0, (pictureSide - fontMetrics().height()) / 2);
@@ -139,23 +150,45 @@ void OrderPage::addRow(std::int16_t pen) {
         widget->installEventFilter(this);
     m_rowsLayout->insertWidget(number - 1, row.frame);
     m_rows.push_back(row);
-    showPen(row, pen);
+    showPen(m_rows.back(), pen);
+}
+
+// Rows are made later than the buttons beside them.
+void OrderPage::placeRowsInTabOrder() {
+    QWidget* last = m_up->previousInFocusChain();
+    while ((last->focusPolicy() & Qt::TabFocus) == 0 && last != m_up)
+        last = last->previousInFocusChain();
+    for (const Row& row : m_rows) {
+        setTabOrder(last, row.picOrd);
+        last = row.picOrd;
+    }
 }
 
 void OrderPage::showPen(const Row& row, std::int16_t pen) {
     const Job& job = m_workshop.job;
-    const QString colour = QString::fromStdString(job.answers.gudtPens[pen].strColour);
+    const QString colour = shownText(job.answers.gudtPens[pen].strColour);
     row.picOrd->setPixmap(penPicture(static_cast<std::int16_t>(imageCut + pen), job)
                               .pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
-    row.picOrd->setAccessibleName(colour);
     row.lblOrd->setText(colour);
     row.lblOrd->setProperty(tagProperty, QString::number(pen));
     const QString work = machiningText(job.answers, m_workshop.tools, pen);
     row.lblOrdWork->setText(work.isEmpty() ? work : QStringLiteral("\u00A0– ") + work);
     row.lblOrdWork->setAccessibleName(work);
+    sayRow(row);
+}
+
+// The row that has the focus says all of it: "2: Red, drilled, T3 5.0 mm Drill".
+void OrderPage::sayRow(const Row& row) const {
+    const qsizetype number = &row - m_rows.data() + 1;
+    const QString work = row.lblOrdWork->accessibleName();
+    row.picOrd->setAccessibleName(tr("%1: %2").arg(number).arg(row.lblOrd->text()) +
+                                  (work.isEmpty() ? work : QStringLiteral(", ") + work));
 }
 
 void OrderPage::sayOrder() {
+    if (m_rows.empty())
+        return m_quiet->say(
+            {{tr("Every pen is left out, so nothing is milled."), QuietLine::Tone::warning}});
     std::vector<std::int16_t> order;
     for (const Row& row : m_rows)
         order.push_back(penOf(*row.lblOrd));
@@ -234,14 +267,16 @@ void OrderPage::KeyCheck(int keyCode) {
 }
 
 void OrderPage::readOrder() {
-    withErrorTrap(m_workshop.logger, {"readOrder", "modHpgl"}, [&] {
-        Job& job = m_workshop.job;
-        job.answers.gintOrder.fill(0);
-        job.answers.gintOrderCount = static_cast<std::int16_t>(m_rows.size());
-        for (std::int16_t i = 1; i <= job.answers.gintOrderCount; ++i)
-            job.answers.gintOrder[i] = penOf(*m_rows[static_cast<std::size_t>(i - 1)].lblOrd);
-        job.answers.gblnOrderSet = true;
-    });
+    withErrorTrap(m_workshop.logger, {"readOrder", "modHpgl"},
+                  [&] { storeTyped(m_workshop.job.answers); });
+}
+
+void OrderPage::storeTyped(Answers& answers) const {
+    answers.gintOrder.fill(0);
+    answers.gintOrderCount = static_cast<std::int16_t>(m_rows.size());
+    for (std::int16_t i = 1; i <= answers.gintOrderCount; ++i)
+        answers.gintOrder[i] = penOf(*m_rows[static_cast<std::size_t>(i - 1)].lblOrd);
+    answers.gblnOrderSet = true;
 }
 
 std::int16_t OrderPage::rowOf(const QObject* widget) const {

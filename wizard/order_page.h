@@ -15,6 +15,7 @@ class QVBoxLayout;
 namespace torvik {
 
 class QuietLine;
+struct Answers;
 struct Workshop;
 
 class OrderPage : public QWidget {
@@ -24,7 +25,7 @@ public:
     explicit OrderPage(Workshop& workshop, QWidget* parent = nullptr);
 
     // Builds the rows from the order list, which is rebuilt from the pens while gblnOrderSet is
-    // clear, and selects row 1. Callers pass 1.
+    // clear, and selects row 1, which gets the focus on the way forward (1).
     void ShowOrder(std::int16_t direction);
     // Selects the row (from 1) that shows the pen.
     void ListItemClicked(std::int16_t row, std::int16_t pen);
@@ -35,6 +36,8 @@ public:
 
     // The rows as they stand, into gintOrder; gblnOrderSet is then set.
     void readOrder();
+    // The same into answers that are only looked at.
+    void storeTyped(Answers& answers) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -53,6 +56,8 @@ private:
     QWidget* buildButtons();
     void addRow(std::int16_t pen);
     void showPen(const Row& row, std::int16_t pen);
+    void sayRow(const Row& row) const;
+    void placeRowsInTabOrder();
     // Below the rows: the tool changes, and what makes no sense in this order.
     void sayOrder();
     void highlight(std::int16_t row, bool selected);

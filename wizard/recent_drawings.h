@@ -10,6 +10,8 @@ namespace torvik {
 
 inline constexpr int maxRecentDrawings = 8;
 
+// All of them, also those that are gone.
+QStringList rememberedDrawings();
 // Those of them that still exist.
 QStringList recentDrawings();
 void addRecentDrawing(const std::filesystem::path& drawing);

@@ -7,6 +7,7 @@
 #include "prepare/dialog/frm_prepare.h"
 #include "wizard/later.h"
 #include "wizard/output/file_dialogs.h"
+#include "wizard/output/own_settings.h"
 #include "wizard/pens/pen_controls.h"
 #include "wizard/status_lines.h"
 
@@ -61,12 +62,20 @@ void SkippedLine::PrepareDrawing(const std::filesystem::path& source) {
             return m_workshop.messages.intStdMsgBox(question, styleQuestion, title) == buttonYes;
         };
         surroundings.openResult = [&](const std::filesystem::path& drawing) { toOpen = drawing; };
+        for (const Tool& tool : m_workshop.tools.gudtTools)
+            if (tool.intNumber > 0 && !tool.strUnreadable)
+                surroundings.tools.push_back(
+                    {tool.intNumber, QString::fromStdString(tool.strType), tool.sngDiameter});
+        surroundings.settings.read = [](const QString& key) { return ownSettings()->value(key); };
+        surroundings.settings.save = saveOwnSetting;
         FrmPrepare dialog(std::move(surroundings), window());
         if (!source.empty())
             dialog.openSource(source);
         else if (m_workshop.job.gintWizardStep > 1)
             dialog.openSource(pathFromUtf8(m_workshop.job.drawing.gstrPlotFile));
         dialog.exec();
+        // Two windows have gone at once; some window managers then give the keyboard to none.
+        window()->activateWindow();
         if (!toOpen.empty())
             emit drawingPrepared(toOpen);
     });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/step_list.h"
 
+#include "forms/spoken_role.h"
+
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -16,6 +18,7 @@ QStringList stepNames() {
 
 StepList::StepList(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("lstSteps"));
+    setSpokenRole(*this, QAccessible::List);
     setAccessibleName(tr("Steps"));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -24,12 +27,23 @@ StepList::StepList(QWidget* parent) : QFrame(parent) {
     for (int i = 0; i < stepCount; ++i) {
         auto* const label = new QLabel(tr("%1  %2").arg(i + 1).arg(names[i]), this);
         label->setObjectName(QStringLiteral("lblStep%1").arg(i + 1));
+        setSpokenRole(*label, QAccessible::ListItem);
         label->setContentsMargins(8, 5, 8, 5);
         label->setAutoFillBackground(true);
         layout->addWidget(label);
         m_labels[static_cast<std::size_t>(i)] = label;
     }
+    keepRoomForBold();
     showStep(1);
+}
+
+// So that nothing moves from step to step.
+void StepList::keepRoomForBold() {
+    QFont bold = font();
+    bold.setBold(true);
+    for (QLabel* const label : m_labels)
+        label->setFont(bold);
+    setMinimumWidth(minimumSizeHint().width());
 }
 
 void StepList::showStep(int step) {
@@ -42,7 +56,8 @@ void StepList::showStep(int step) {
         QFont font = this->font();
         font.setBold(current);
         label->setFont(font);
-        label->setAccessibleName(current ? tr("%1, current step").arg(names[i]) : names[i]);
+        const QString name = tr("%1 %2").arg(i + 1).arg(names[i]);
+        label->setAccessibleName(current ? tr("%1, current step").arg(name) : name);
     }
 }
 

@@ -22,6 +22,8 @@ public:
     void showStep(int step);
 
 private:
+    void keepRoomForBold();
+
     std::array<QLabel*, stepCount> m_labels{};
 };
 

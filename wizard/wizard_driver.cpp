@@ -8,6 +8,7 @@
 #include "tools/dialogs/frm_tool_select.h"
 #include "wizard/colour_tree_view.h"
 #include "wizard/globals_page.h"
+#include "wizard/going_on.h"
 #include "wizard/header_page.h"
 #include "wizard/host/group_name.h"
 #include "wizard/later.h"
@@ -25,8 +26,9 @@
 namespace torvik {
 
 WizardDriver::WizardDriver(Workshop& workshop, const MainControls& controls, QWidget& window)
-    : m_workshop(workshop), m_controls(controls), m_window(window) {
+    : m_workshop(workshop), m_controls(controls), m_window(window), m_autosave(workshop, controls) {
     setParent(&window);
+    m_autosave.setParent(this);
     m_flash.setParent(this);
     m_toolSelect.setParent(this);
     m_flash.setObjectName(QStringLiteral("tmrFlash"));
@@ -66,6 +68,7 @@ void WizardDriver::Wizard(std::int16_t intDirection) {
         default:
             break;
         }
+        m_autosave.saveNow();
         // Where the control with the focus has gone with its page, Enter must not lead back.
         if (intDirection > 0 && m_controls.back->hasFocus())
             m_controls.next->setFocus();
@@ -78,6 +81,7 @@ void WizardDriver::fromStep2(std::int16_t direction) {
     Job& job = m_workshop.job;
     m_controls.globals->SaveGlobals();
     if (direction < 0) {
+        m_autosave.saveNow();
         m_kept.keep(job);
         showStep(1);
         later(*this, [this] {
@@ -147,8 +151,9 @@ void WizardDriver::fromStep6(std::int16_t direction) {
 
 void WizardDriver::writeOutput() {
     m_controls.output->rememberTarget();
-    switch (OutputStep(m_workshop, m_controls.output->trial(), m_window)
-                .run(m_controls.output->target())) {
+    switch (OutputStep(m_workshop, m_controls.output->trial(), m_window, [this] {
+                m_autosave.programWritten();
+            }).run(m_controls.output->target())) {
     case AfterOutput::openOther:
         returnToStart();
         break;
@@ -182,6 +187,7 @@ void WizardDriver::startToolSelection() {
 
 void WizardDriver::selectTool() {
     withErrorTrap(m_workshop.logger, {"tmrToolSelect_Timer", "frmMain"}, [&] {
+        m_autosave.stop(); // until the groups have followed the list
         const ToolsOfGroups before(m_workshop.job, m_workshop.tools);
         FrmToolSelect dialog(m_workshop.tools, m_workshop.registry, m_workshop.logger,
                              m_workshop.messages, &m_window);
@@ -191,10 +197,13 @@ void WizardDriver::selectTool() {
         emit toolsUnsaved(m_workshop.tools.toolsUnsaved || m_workshop.tools.typesUnsaved);
         const std::int16_t chosen = dialog.chosenPosition();
         before.follow(m_workshop.job, dialog.removedPlaces());
+        m_autosave.start();
         if (dialog.hasDeleted())
             warnOfToolChanges(before, chosen);
         m_controls.pens->ToolSelection(chosen);
     });
+    m_autosave.start(); // after an error too
+    m_autosave.saveNow();
 }
 
 void WizardDriver::warnOfToolChanges(const ToolsOfGroups& before, std::int16_t chosen) {
@@ -259,6 +268,7 @@ void WizardDriver::savePage() {
 
 void WizardDriver::beforeImport() {
     savePage();
+    m_autosave.stop();
     m_before = m_kept;
     if (m_workshop.job.gintWizardStep > 1)
         m_before.keep(m_workshop.job);
@@ -270,7 +280,7 @@ void WizardDriver::refuseImport() {
 }
 
 void WizardDriver::layOutImported(const std::string& damage) {
-    m_kept.giveBack(m_workshop.job);
+    const bool cameBack = m_kept.giveBack(m_workshop.job);
     CreateTree(m_workshop.job.answers, m_workshop.job.position, m_workshop.logger);
     showStep(2);
     updateTree();
@@ -281,6 +291,8 @@ void WizardDriver::layOutImported(const std::string& damage) {
     m_controls.globals->enter();
     if (m_workshop.job.drawing.gintPathCount == 0)
         warnOfEmptyDrawing();
+    if (auto stopped = m_autosave.open(cameBack))
+        goOn(m_workshop, m_controls, *this, std::move(*stopped));
 }
 
 void WizardDriver::continueDrawing() {
@@ -307,6 +319,7 @@ void WizardDriver::returnToStart() {
 }
 
 void WizardDriver::stop() {
+    m_autosave.stop();
     m_flash.stop();
     m_toolSelect.stop();
 }
@@ -321,6 +334,7 @@ void WizardDriver::focusNext() {
 
 void WizardDriver::updateTree() {
     m_controls.tree->showTree(m_workshop.job);
+    m_autosave.saveSoon(); // a choice was made, or there is another page
 }
 
 void WizardDriver::PlotLines() {

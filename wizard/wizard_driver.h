@@ -4,6 +4,7 @@
 #pragma once
 
 #include "answers/kept_answers.h"
+#include "wizard/autosave.h"
 #include "wizard/host/wizard_host.h"
 #include "wizard/host/workshop.h"
 #include "wizard/main_controls.h"
@@ -28,11 +29,10 @@ public:
     void showStep(std::int16_t step);
     // What the page on show holds goes into the job.
     void savePage();
-    // The same, and the job's answers are kept in case the
-    // import that follows is refused.
+    // The same, and the job's answers are kept in case the import that follows is refused.
     void beforeImport();
-    // Lays out step 2 for the drawing that was just imported, with the answers kept for it. damage:
-    // why saved answers were not used, or empty.
+    // Lays out step 2 for the drawing that was just imported, with the answers kept for it, or goes
+    // on where an earlier run stopped. damage: why saved answers were not used, or empty.
     void layOutImported(const std::string& damage);
     // Shows the start page. The answers of the drawing before come back when it is opened next.
     void refuseImport();
@@ -40,7 +40,7 @@ public:
     void continueDrawing();
     // Forgets the job and shows the start page.
     void returnToStart();
-    // Stops the timers: nothing opens or blinks any more.
+    // Keeps the answers and stops the timers: nothing opens or blinks any more.
     void stop();
 
     void setNextEnabled(bool enabled) override;
@@ -84,6 +84,7 @@ private:
     QWidget& m_window;
     KeptAnswers m_kept;
     KeptAnswers m_before; // those of the drawing that an import takes the place of
+    Autosave m_autosave;
     QTimer m_flash;
     QTimer m_toolSelect;
 };

@@ -2,10 +2,10 @@
 // Findings as a page shows them.
 #pragma once
 
-#include "check/findings.h"
+#include "check/finding_rows.h"
 #include "forms/quiet_line.h"
+#include "languages/shown_text.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace torvik {
@@ -14,20 +14,12 @@ namespace torvik {
 // is told elsewhere may be left out.
 inline QuietLine::Texts findingTexts(const check::Findings& findings,
                                      std::optional<check::Kind> toldElsewhere = {}) {
-    std::vector<check::Finding> sorted = findings.byLine();
-    const auto level = [](const check::Finding& finding) {
-        return check::rowOf(finding.kind).level;
-    };
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [&](const auto& a, const auto& b) { return level(a) > level(b); });
     QuietLine::Texts texts;
-    for (const check::Finding& finding : sorted) {
-        if (finding.kind == toldElsewhere)
-            continue;
-        texts.push_back({QString::fromStdString(check::sentenceOf(finding)),
-                         level(finding) < check::Level::wrong ? QuietLine::Tone::plain
-                                                              : QuietLine::Tone::warning});
-    }
+    for (const check::FindingRow& row : check::findingRows(findings))
+        if (row.kind != toldElsewhere)
+            texts.push_back({shownFilled(row.sentence, check::rowOf(row.kind).sentence),
+                             row.level() < check::Level::wrong ? QuietLine::Tone::plain
+                                                               : QuietLine::Tone::warning});
     return texts;
 }
 

@@ -5,6 +5,7 @@
 #include "forms/help_key.h"
 #include "forms/number_box.h"
 #include "forms/quiet_line.h"
+#include "forms/spoken_role.h"
 #include "wizard/pens/pen_diagram.h"
 #include "wizard/pens/pen_words.h"
 
@@ -17,6 +18,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace torvik {
 namespace {
@@ -80,6 +83,8 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.choice = new QButtonGroup(&page);
     auto* column = new QVBoxLayout;
     column->setSpacing(6);
+    controls.place = makeLabel(page, "lblPenPlace"); // here it takes no room from the rows
+    column->addWidget(controls.place);
     for (std::size_t i = 0; i < controls.optCut.size(); ++i) {
         auto* option = new QRadioButton(&page);
         option->setObjectName("optCut" + QString::number(i));
@@ -98,6 +103,8 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
 
     controls.diagram = new PenDiagram(&page);
     controls.diagram->setObjectName("picCut");
+    setSpokenRole(*controls.diagram, QAccessible::Graphic);
+    controls.diagram->setAccessibleName(tr("The work seen from the side"));
     controls.diagram->setToolTip(tr("What the details below are about, seen from the side"));
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
@@ -117,9 +124,9 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     for (std::size_t i = 0; i < toolLabelTexts.size(); ++i) {
         const ToolLabelText& about = toolLabelTexts[i];
         const int column = static_cast<int>(i);
-        grid->addWidget(
-            makeLabel(*controls.toolPanel, QString(about.name) + "Caption", tr(about.caption)), 0,
-            column);
+        grid->addWidget(makeWrappedLabel(*controls.toolPanel, QString(about.name) + "Caption",
+                                         tr(about.caption)),
+                        0, column, Qt::AlignBottom);
         QLabel* label = makeLabel(*controls.toolPanel, about.name);
         label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | QFrame::Sunken);
         label->setAlignment(Qt::AlignCenter);
@@ -129,6 +136,10 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
         controls.toolLabels[i] = label;
         grid->addWidget(label, 1, column);
         grid->setColumnStretch(column, i == toolType ? 3 : 2);
+        constexpr int leastLetters = 10; // of a type's name
+        if (i == toolType)
+            grid->setColumnMinimumWidth(column,
+                                        page.fontMetrics().averageCharWidth() * leastLetters);
     }
     controls.cmdTool = new QPushButton(tr("Choose too&l..."), controls.toolPanel);
     controls.cmdTool->setObjectName("cmdTool");
@@ -176,6 +187,26 @@ void makeRows(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     layout.addWidget(controls.quiet);
 }
 
+// The picture points at what the box with the focus asks for.
+void connectDiagram(const PenControls& controls) {
+    PenDiagram* const diagram = controls.diagram;
+    QObject::connect(qApp, &QApplication::focusChanged, diagram,
+                     [diagram, boxes = controls.txtDet](QWidget*, const QWidget* now) {
+                         const auto* const at = std::find(boxes.begin(), boxes.end(), now);
+                         if (at == boxes.end())
+                             diagram->unmark();
+                         else
+                             diagram->mark(static_cast<std::size_t>(at - boxes.begin()),
+                                           (*at)->text());
+                     });
+    for (std::size_t i = 0; i < penRowCount; ++i)
+        QObject::connect(controls.txtDet[i], &QLineEdit::textChanged, diagram,
+                         [diagram, i](const QString& text) {
+                             if (diagram->marked() == i)
+                                 diagram->mark(i, text);
+                         });
+}
+
 void setTabOrder(const PenControls& controls) {
     QWidget* last = controls.optCut[0];
     const auto then = [&](QWidget* next) {
@@ -213,6 +244,7 @@ PenControls makePenControls(QWidget& page) {
     makeRows(controls, *content, *layout);
     layout->addStretch();
     setTabOrder(controls);
+    connectDiagram(controls);
     return controls;
 }
 

@@ -26,6 +26,7 @@ enum ToolLabel : std::size_t { toolNumber, toolType, toolDiameter };
 
 // All owned by the page.
 struct PenControls {
+    QLabel* place = nullptr; // among the pens
     QLabel* title = nullptr;
     std::array<QRadioButton*, 2> optCut{};
     QButtonGroup* choice = nullptr;

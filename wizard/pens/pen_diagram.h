@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A small picture of what a pen page asks for: a groove cut in passes, or a drilled hole, seen from
-// the side.
+// the side. It points at what the row with the focus is about, with what was typed there.
 #pragma once
 
 #include "answers/pen_rows.h"
 
+#include <QString>
 #include <QWidget>
+
+#include <optional>
 
 namespace torvik {
 
@@ -14,6 +17,9 @@ public:
     explicit PenDiagram(QWidget* parent = nullptr);
 
     void setForm(PenForm form);
+    void mark(std::size_t row, const QString& typed);
+    void unmark();
+    std::optional<std::size_t> marked() const { return m_marked; }
     QSize sizeHint() const override;
 
 protected:
@@ -21,6 +27,8 @@ protected:
 
 private:
     PenForm m_form = PenForm::cutting;
+    std::optional<std::size_t> m_marked;
+    QString m_typed;
 };
 
 } // namespace torvik

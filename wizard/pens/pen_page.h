@@ -41,6 +41,11 @@ public:
     // page of a drilled one there is nothing to put. False where a number could not be stored: the
     // user was told, the box is selected, nothing is changed, and the page may not be left.
     bool SaveDetails();
+    // The same into answers that are only looked at; a number that could not be stored stays out.
+    void storeTyped(Answers& answers) const;
+    // The texts of the boxes and whether to machine was chosen; and the same once more.
+    std::vector<std::string> typedTexts() const;
+    void typeAgain(const std::vector<std::string>& texts);
 
     // Sets the numbers that follow from row Index, and cmdNext.
     void FinalDepth(std::int16_t Index);

@@ -5,6 +5,7 @@
 #include "base/picture.h"
 #include "forms/help_key.h"
 #include "forms/number_box.h"
+#include "languages/shown_text.h"
 #include "wizard/pens/pen_page.h"
 #include "wizard/pens/pen_words.h"
 
@@ -64,7 +65,7 @@ void PenPage::showState() {
         drilled ? std::array{tr("&Drill the %1 holes"), tr("Do NO&T drill the %1 holes")}
                 : std::array{tr("&Cut the %1 lines"), tr("Do NO&T cut the %1 lines")};
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        const QString caption = captions[i].arg(QString::fromStdString(pen.strColour));
+        const QString caption = captions[i].arg(shownText(pen.strColour));
         m_controls.optCut[i]->setText(caption);
         m_controls.optCut[i]->setAccessibleName(QString(caption).remove(u'&'));
         m_controls.optCut[i]->setProperty(helpContextProperty, drilled ? helpDrill : helpCut);

@@ -18,6 +18,7 @@
 namespace torvik {
 namespace {
 
+constexpr const char* machineWord = "machine";
 constexpr int wholeText = 99; // letters that a refused box has selected
 
 } // namespace
@@ -41,6 +42,7 @@ void PenPage::showDetails() {
     Job& job = m_workshop.job;
     const PenForm form = currentForm(job);
     const Settings& settings = currentSettings(job);
+    m_controls.place->setText(pagePlaceText(job));
     m_controls.title->setText(tr("Please give the details for the %1").arg(pageSubjectText(job)));
     showPenRows(m_controls, form, job.answers.gstrFeedUnits, !isOwnPageOfDrilledPen(job));
     m_controls.chkPeck->setChecked(settings.blnPeck);
@@ -169,6 +171,43 @@ bool PenPage::SaveDetails() {
         kept = !refused;
     });
     return kept;
+}
+
+void PenPage::storeTyped(Answers& answers) const {
+    const Job& job = m_workshop.job;
+    const PenForm form = currentForm(job);
+    if (!asksForDetails() || m_shown != std::pair(job.position.gintCurrentSettings, form))
+        return;
+    PenTexts texts = boxes().text;
+    const auto store = [&] {
+        return storeTexts(texts, m_controls.chkPeck->isChecked(), form, job.answers.gsngFeedFactor,
+                          m_workshop.tools, answers.gudtSettings[job.position.gintCurrentSettings]);
+    };
+    for (auto refused = store(); refused; refused = store())
+        texts[*refused].clear();
+}
+
+std::vector<std::string> PenPage::typedTexts() const {
+    const PenTexts typed = boxes().text;
+    std::vector<std::string> texts{typed.begin(), typed.end()};
+    texts.emplace_back(m_choice == machine ? machineWord : "");
+    return texts;
+}
+
+void PenPage::typeAgain(const std::vector<std::string>& texts) {
+    if (!asksForDetails() || texts.size() != penRowCount + 1)
+        return;
+    {
+        const QScopedValueRollback hold(m_busy, true);
+        PenBoxes state = boxes();
+        std::copy_n(texts.begin(), penRowCount, state.text.begin());
+        writeBoxes(state);
+    }
+    FinalDepth(0);
+    if (texts.back() == machineWord)
+        offerTool();
+    focusFirstEmptyBox();
+    focusNextIfDone();
 }
 
 void PenPage::edited(std::size_t row) {

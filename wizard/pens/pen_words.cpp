@@ -3,6 +3,7 @@
 
 #include "answers/pen_position.h"
 #include "base/picture.h"
+#include "languages/shown_text.h"
 
 #include <QCoreApplication>
 
@@ -117,14 +118,20 @@ QString faultText(PenForm form, const InputFault& fault) {
 
 QString penText(const Job& job) {
     const Pen& pen = currentPen(job);
-    return (pen.blnDrill ? tr("%1 holes") : tr("%1 lines"))
-        .arg(QString::fromStdString(pen.strColour));
+    return (pen.blnDrill ? tr("%1 holes") : tr("%1 lines")).arg(shownText(pen.strColour));
 }
 
 QString pageSubjectText(const Job& job) {
     if (!isHolePage(job))
         return penText(job);
     return tr("%1 mm diam. holes").arg(QString::fromStdString(formatFixed(holeDiameter(job), 1)));
+}
+
+QString pagePlaceText(const Job& job) {
+    const PenPlace place = penPlace(job);
+    const QString pen = tr("Pen %1 of %2").arg(place.pen).arg(place.pens);
+    return place.size == 0 ? pen
+                           : pen + tr(", hole size %1 of %2").arg(place.size).arg(place.sizes);
 }
 
 } // namespace torvik

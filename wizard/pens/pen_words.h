@@ -30,4 +30,7 @@ QString penText(const Job& job);
 // What the page on show is about: "6.0 mm diam. holes", "Red holes" or "Red lines".
 QString pageSubjectText(const Job& job);
 
+// How far the pages have come: "Pen 3 of 8", "Pen 3 of 8, hole size 1 of 2".
+QString pagePlaceText(const Job& job);
+
 } // namespace torvik
