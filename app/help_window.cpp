@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "app/help_window.h"
 
+#include "app/beside.h"
 #include "app/resources.h"
+#include "forms/reading_order.h"
+#include "languages/language.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTextOption>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -20,7 +26,16 @@
 namespace torvik {
 namespace {
 
-const QString helpFolder = QStringLiteral(":/help");
+constexpr QSize usualSize(860, 620);
+constexpr QSize leastSize(420, 400); // with its frame
+constexpr int widestContents = 270;
+// The topics in the language of the program.
+QString helpFolder() {
+    const QString english = QStringLiteral(":/help");
+    const QString own = english + u'/' + languageInUse();
+    return QDir(own).exists() ? own : english;
+}
+
 constexpr int fileRole = Qt::UserRole;
 constexpr int wordsRole = Qt::UserRole + 1;
 
@@ -37,7 +52,7 @@ QString contentsOf(const QString& file) {
 
 HelpWindow::HelpWindow(QWidget* parent)
     : QMainWindow(parent), m_search(new QLineEdit), m_contents(new QListWidget),
-      m_page(new QTextBrowser), m_back(new QAction(tr("←  &Back"), this)),
+      m_page(new QTextBrowser), m_split(new QSplitter), m_back(new QAction(tr("←  &Back"), this)),
       m_forward(new QAction(tr("&Forward  →"), this)) {
     loadResources();
     setObjectName(QStringLiteral("frmHelp"));
@@ -51,9 +66,11 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_page->setObjectName(QStringLiteral("txtHelp"));
     m_page->setAccessibleName(tr("Topic"));
     m_page->document()->setDocumentMargin(16);
+    m_page->setWordWrapMode(QTextOption::WordWrap); // narrow columns of a table break no word
     m_page->document()->setDefaultStyleSheet(QStringLiteral(
         "table { margin-top: 6px; margin-bottom: 8px; } li { margin-bottom: 4px; }"));
     m_contents->setSpacing(1);
+    m_contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // long titles end in "…"
     layOut();
     connectControls();
     fillContents();
@@ -70,14 +87,21 @@ void HelpWindow::layOut() {
     sideLayout->setContentsMargins(0, 0, 0, 0);
     sideLayout->addWidget(m_search);
     sideLayout->addWidget(m_contents, 1);
-    auto* const split = new QSplitter;
+    QSplitter* const split = m_split;
     split->addWidget(side);
     split->addWidget(m_page);
     split->setStretchFactor(1, 1);
-    split->setSizes({270, 560});
+    shareWidth(usualSize.width());
+    readInOrder(*split);
     split->setChildrenCollapsible(false);
     setCentralWidget(split);
-    resize(860, 620);
+    resize(usualSize);
+}
+
+// A narrow window leaves the room to the topic.
+void HelpWindow::shareWidth(int width) {
+    const int contents = std::min(widestContents, width / 3);
+    m_split->setSizes({contents, width - contents});
 }
 
 void HelpWindow::connectControls() {
@@ -105,7 +129,7 @@ void HelpWindow::connectControls() {
 }
 
 void HelpWindow::fillContents() {
-    const QDir folder(helpFolder);
+    const QDir folder(helpFolder());
     for (const QString& name :
          folder.entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name)) {
         const QString file = folder.filePath(name);
@@ -130,12 +154,14 @@ void HelpWindow::filterContents(const QString& words) {
 }
 
 QString HelpWindow::topicFile(int helpContext) {
-    return helpFolder + QStringLiteral("/topic-%1.html").arg(helpContext, 3, 10, QChar(u'0'));
+    return helpFolder() + QStringLiteral("/topic-%1.html").arg(helpContext, 3, 10, QChar(u'0'));
 }
 
-void HelpWindow::showTopic(int helpContext) {
+void HelpWindow::showTopic(int helpContext, const QRect& form) {
     m_search->clear();
     openFile(topicFile(helpContext));
+    if (!isVisible() && !form.isNull())
+        openBeside(form);
     comeToFront();
 }
 
@@ -148,6 +174,21 @@ void HelpWindow::markTopic(const QUrl& source) {
     for (int i = 0; i < m_contents->count(); ++i)
         if (urlOf(m_contents->item(i)->data(fileRole).toString()) == source)
             m_contents->setCurrentRow(i);
+}
+
+void HelpWindow::openBeside(const QRect& form) {
+    const QScreen* const screen = QGuiApplication::screenAt(form.center());
+    if (screen == nullptr)
+        return;
+    // The system's frame is not known before the window is shown.
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const QSize frame(2 * border, title + border);
+    const QRect place =
+        placeBeside(form, screen->availableGeometry(), usualSize + frame, leastSize);
+    resize(place.size() - frame);
+    move(place.topLeft());
+    shareWidth(width());
 }
 
 void HelpWindow::comeToFront() {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_up.h"
+#include "base/library_places.h"
 #include "base/stop_signals.h"
 #include "base/user_folders.h"
 #include "sheet/command/sheet_command.h"
@@ -21,12 +22,14 @@ int runWithoutWindow(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    torvik::loadOnlyOwnLibraries();
     torvik::tidyUpWhenStopped();
     if (torvik::isSheetCommand({argv, argv + argc}))
         return runWithoutWindow(argc, argv);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Torvik"));
     QApplication::setApplicationVersion(QStringLiteral(TORVIK_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("torvik"));
     // Help stays open on its own; the main window alone ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     // The one word that it takes is the drawing that was double-clicked.

@@ -5,8 +5,8 @@
 #include "app/about_box.h"
 #include "app/help_key.h"
 #include "app/help_window.h"
-#include "app/indicator_style.h"
 #include "app/message_window.h"
+#include "app/readable_style.h"
 #include "app/resources.h"
 #include "app/single_instance.h"
 #include "base/files.h"
@@ -14,12 +14,16 @@
 #include "base/user_folders.h"
 #include "forms/key_guard.h"
 #include "forms/plain_texts.h"
+#include "languages/language.h"
+#include "languages/shown_text.h"
 #include "tools/settings/open_registry.h"
 #include "tools/tool_store.h"
 #include "wizard/frm_main.h"
+#include "wizard/output/own_settings.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QLoggingCategory>
 
 #include <memory>
@@ -39,8 +43,9 @@ bool guardInstance(SingleInstance& instance, const QString& drawing, StdMessageB
     if (instance.claim())
         return true;
     if (!instance.activateOther(drawing))
-        messages.intStdMsgBox(std::string(usualTitle) +
-                                  " cannot start as a previous instance is still running",
+        messages.intStdMsgBox(shownText(std::string(usualTitle) +
+                                        " cannot start as a previous instance is still running")
+                                  .toStdString(),
                               styleExclamation, usualTitle);
     return false;
 }
@@ -48,10 +53,12 @@ bool guardInstance(SingleInstance& instance, const QString& drawing, StdMessageB
 } // namespace
 
 int runDesktop(const QString& drawing) {
-    QApplication::setStyle(new IndicatorStyle);
+    QApplication::setStyle(new ReadableStyle);
     QApplication::setWindowIcon(programIcon());
     // What the renderer of pictures passes over is counted and said in the report.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
+    speak(spokenLanguage(ownSettings()->value(languageKey).toString(),
+                         QLocale::system().uiLanguages()));
     KeyGuard keyGuard;
     const PlainTexts plainTexts;
     MessageWindow messages;
@@ -64,17 +71,20 @@ int runDesktop(const QString& drawing) {
     const auto registry = openRegistry();
     logger.setSwitches(logSwitches(*registry));
     logger.setReport([&messages](const ErrorReport& report) {
-        messages.intStdMsgBox(report.message(), styleExclamation, usualTitle);
+        messages.intStdMsgBox(shownText(report.message()).toStdString(), styleExclamation,
+                              usualTitle);
     });
     Workshop workshop{*registry, logger, messages};
 
     std::unique_ptr<HelpWindow> help;
-    const auto showHelp = [&help](int context) {
+    FrmMain* window = nullptr;
+    const auto showHelp = [&help, &window](int context) {
         if (!help)
             help = std::make_unique<HelpWindow>();
-        help->showTopic(context);
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        help->showTopic(context, dialog != nullptr ? dialog->window()->frameGeometry()
+                                                   : window->formPlace());
     };
-    FrmMain* window = nullptr;
     const auto shutdown = [&] {
         help.reset();
         window->close();
