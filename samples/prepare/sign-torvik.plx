@@ -1,4 +1,4 @@
-03c224b910fb60568672f1c3eb630090
+62b984fdc360f8043c8d8a54561d6e4c
 "4 June 2025"
 "Lea Okoro"
 "Mr Weiss"
