@@ -8,6 +8,7 @@
 #include "job/hpgl_reader.h"
 #include "job/job.h"
 #include "job/pens.h"
+#include "job/sort_paths.h"
 
 #include <algorithm>
 #include <cmath>
