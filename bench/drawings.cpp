@@ -26,6 +26,17 @@ private:
 const char* const start = "IN;\nSP1;\n";
 const char* const end = "SP0;\n";
 
+template <typename RadiusOf>
+std::string circlesOf(long circles, RadiusOf radiusOf) {
+    Numbers numbers;
+    std::string text = start;
+    for (long i = 0; i < circles; ++i) {
+        text += "PU" + numbers.point() + ";\n";
+        text += "CI" + std::to_string(radiusOf(i)) + ";\n";
+    }
+    return text + end;
+}
+
 } // namespace
 
 std::string lineDrawing(long lines) {
@@ -46,15 +57,12 @@ std::string arcDrawing(long arcs) {
     return text + end;
 }
 
-std::string circleDrawing(long circles, long sizes) {
-    constexpr long smallest = 40;
-    Numbers numbers;
-    std::string text = start;
-    for (long i = 0; i < circles; ++i) {
-        text += "PU" + numbers.point() + ";\n";
-        text += "CI" + std::to_string(smallest + i % sizes) + ";\n";
-    }
-    return text + end;
+std::string circleDrawing(long circles, long sizes, long smallest) {
+    return circlesOf(circles, [=](long i) { return smallest + i % sizes; });
+}
+
+std::string shrinkingCircles(long circles) {
+    return circlesOf(circles, [=](long i) { return smallestRadius + circles - i; });
 }
 
 } // namespace torvik

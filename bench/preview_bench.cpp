@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Showing drawings of 30 000 elements in a preview of 1000 by 800 pixels, on a screen at 100 % and
+// Showing drawings of 30 000 elements in a preview of 1280 by 1000 pixels, on a screen at 100 % and
 // at 200 %: the line preview, one frame of the blinking, and the finished piece. Each frame is
-// copied to the screen's memory as a window does it.
+// copied to the screen's memory as a window does it. The time of all threads is counted.
 #include "base/logger.h"
 #include "bench/drawings.h"
 #include "job/hpgl_reader.h"
@@ -23,6 +23,8 @@
 namespace torvik {
 namespace {
 
+constexpr int width = 1280;
+constexpr int height = 1000;
 constexpr long elements = 30000;
 constexpr float cutter = 3; // mm
 constexpr float drill = 1;
@@ -41,7 +43,7 @@ public:
         m_tools.gudtTools.append({1, "Slot drill", drilled ? drill : cutter});
         m_tools.gintToolCount = 1;
         m_view.pixelRatio = static_cast<double>(pixelRatio);
-        m_size = QSize(1000, 800) * m_view.pixelRatio;
+        m_size = QSize(width, height) * m_view.pixelRatio;
         m_screen = QImage(m_size, QImage::Format_RGB32);
 
         LineScale lines;
@@ -58,7 +60,7 @@ public:
 
     void blink(const std::vector<std::int16_t>& paths, bool visible) {
         m_lines.PlotLines(m_job, m_view, m_size);
-        m_lines.plotBlink(m_job, paths, visible);
+        m_lines.plotBlink(paths, visible);
         copyToScreen(m_lines.image());
     }
 
@@ -78,7 +80,7 @@ public:
 private:
     void copyToScreen(const QImage& image) { QPainter(&m_screen).drawImage(0, 0, image); }
 
-    const FrameSize m_frame{1000 * twipsPerPixel, 800 * twipsPerPixel};
+    const FrameSize m_frame{width * twipsPerPixel, height* twipsPerPixel};
     Job m_job;
     ToolList m_tools;
     Logger m_logger;
@@ -134,6 +136,28 @@ std::string circlesDrawing() {
     return circleDrawing(elements, 20);
 }
 
+// Lines of 20 to 40 mm, anywhere on such a sheet.
+std::string longLinesDrawing() {
+    std::minstd_rand engine{1};
+    const auto below = [&](long limit) { return static_cast<long>(engine()) % limit; };
+    std::string text = "SP1;\n";
+    for (long i = 0; i < elements; ++i) {
+        const long x = 1600 + below(12800);
+        const long y = 1600 + below(8800);
+        const double angle = static_cast<double>(below(6283)) / 1000;
+        const auto length = static_cast<double>(800 + below(800));
+        text += "PU" + std::to_string(x) + "," + std::to_string(y) + ";\nPD" +
+                std::to_string(x + std::lround(length * std::cos(angle))) + "," +
+                std::to_string(y + std::lround(length * std::sin(angle))) + ";\n";
+    }
+    return text;
+}
+
+// Circles of 40 mm in 20 sizes.
+std::string largeCirclesDrawing() {
+    return circleDrawing(elements, 20, 800);
+}
+
 // 200 by 150 holes, 2 mm from one another, in 20 sizes of up to 1.5 mm.
 std::string plateDrawing() {
     std::string text = "SP1;\n";
@@ -185,12 +209,22 @@ void drawPiece(benchmark::State& state, Drawing drawing, bool drilled) {
 }
 
 void screens(benchmark::internal::Benchmark* benchmark) {
-    benchmark->ArgName("scale")->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+    benchmark->ArgName("scale")
+        ->Arg(1)
+        ->Arg(2)
+        ->Unit(benchmark::kMillisecond)
+        ->MeasureProcessCPUTime();
 }
 
 BENCHMARK_CAPTURE(plotLines, lines, linesDrawing)->Name("drawing lines")->Apply(screens);
 BENCHMARK_CAPTURE(plotLines, arcs, arcsDrawing)->Name("drawing arcs")->Apply(screens);
 BENCHMARK_CAPTURE(plotLines, circles, circlesDrawing)->Name("drawing circles")->Apply(screens);
+BENCHMARK_CAPTURE(plotLines, longLines, longLinesDrawing)
+    ->Name("drawing long lines")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(plotLines, largeCircles, largeCirclesDrawing)
+    ->Name("drawing large circles")
+    ->Apply(screens);
 BENCHMARK_CAPTURE(firstBlinkFrame, lines, linesDrawing)
     ->Name("first frame of blinking lines")
     ->Apply(screens);
@@ -209,6 +243,12 @@ BENCHMARK_CAPTURE(drawPiece, lines, linesDrawing, false)
 BENCHMARK_CAPTURE(drawPiece, arcs, arcsDrawing, false)->Name("the piece, cut arcs")->Apply(screens);
 BENCHMARK_CAPTURE(drawPiece, circles, circlesDrawing, false)
     ->Name("the piece, cut circles")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, longLines, longLinesDrawing, false)
+    ->Name("the piece, cut long lines")
+    ->Apply(screens);
+BENCHMARK_CAPTURE(drawPiece, largeCircles, largeCirclesDrawing, false)
+    ->Name("the piece, cut large circles")
     ->Apply(screens);
 BENCHMARK_CAPTURE(drawPiece, holes, plateDrawing, true)
     ->Name("the piece, drilled holes")

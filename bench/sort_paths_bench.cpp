@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Sorting paths by the depth of their groups: eight depths, met in turns.
-#include "job/pens.h"
 #include "job/records.h"
+#include "job/sort_paths.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

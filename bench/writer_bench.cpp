@@ -3,12 +3,11 @@
 // the program's bytes.
 #include "base/logger.h"
 #include "bench/drawings.h"
+#include "bench/ten_passes.h"
 #include "gcode/dialects.h"
 #include "gcode/output_file.h"
 #include "gcode/program_output.h"
-#include "job/hpgl_reader.h"
 #include "job/job.h"
-#include "job/pens.h"
 #include "tools/tool_list.h"
 
 #include <benchmark/benchmark.h>
@@ -24,21 +23,6 @@ public:
 private:
     std::size_t m_count = 0;
 };
-
-// The drawing with pen 1 cut in ten passes.
-Job jobInTenPasses(std::string drawing, Logger& logger) {
-    Job job;
-    readInstructions(job.drawing, std::move(drawing), "drawing", logger);
-    SetUpPens(job, logger);
-    Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
-    settings.intTool = 1;
-    settings.sngFeedHorizontal = 600;
-    settings.sngFeedVertical = 150;
-    settings.sngDepth = 10;
-    settings.sngDepthPerPass = 1;
-    rebuildOrder(job);
-    return job;
-}
 
 void writePasses(benchmark::State& state, const Dialect& dialect,
                  std::string (*drawing)(long elements)) {
