@@ -52,7 +52,7 @@ TEST_F(Command, WritesBesideTheDrawingAndOverwritesOnlyWhenTold) {
 TEST_F(Command, OneBadDrawingDoesNotStopTheRest) {
     const std::string a = folder.file("a.plt", "SP12;PD40,0;").string();
     const std::string b = folder.file("b.plt", "LBtext\x03PD40,0,40,40").string();
-    EXPECT_EQ(run("@a.plt @none.plt @b.plt --output-dir @out"), 4);
+    EXPECT_EQ(run("@a.plt @none.plt @b.plt --text none --output-dir @out"), 4);
     EXPECT_EQ(content("out/b-torvik.plt"), square);
     EXPECT_FALSE(fs::exists(folder.path() / "out/a-torvik.plt"));
     EXPECT_EQ(err.str(), "torvik-prepare: " + a +
@@ -66,9 +66,9 @@ TEST_F(Command, OneBadDrawingDoesNotStopTheRest) {
 }
 
 TEST_F(Command, TakesEveryOption) {
-    folder.file("a.plt", "SP9;PU0,0;PD100,0;PU200,0;PD;PU;SP2;PU0,0;PD0,1000;PD0,0;");
+    folder.file("a.plt", "PC0,9,9,9;SP0;PU0,0;PD100,0;PU200,0;PD;PU;SP2;PU0,0;PD0,1000;PD0,0;");
     EXPECT_EQ(run("@a.plt --tolerance=0.02 --round-turn 30 --no-arcs --optimize --drop-duplicates "
-                  "--origin=-1,2 --scale 2 --mirror x --rotate 90 --dots 1 --pen 9=1 "
+                  "--origin=-1,2 --scale 2 --mirror x --rotate 90 --dots 1 --pen 0=1 "
                   "--pen #FF0000=3 --report"),
               0)
         << err.str();
@@ -84,16 +84,43 @@ TEST_F(Command, TakesPicturesAndTheirColours) {
                            R"(</svg>)");
     EXPECT_EQ(run("@a.b.SVG --pen #102030=1"), 0);
     EXPECT_EQ(content("a.b-torvik.plt"), square);
+    // The same line by another way: a layer with an equals sign in its name, in an odd unit.
+    folder.file("c.dxf", "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nA=B\n10\n0\n20\n0\n11\n2.54\n21\n0\n"
+                         "0\nENDSEC\n0\nEOF\n");
+    EXPECT_EQ(run("@c.dxf --units inch --pen layer:a=b=3"), 0) << err.str();
+    EXPECT_EQ(content("c-torvik.plt"), "IN;\nSP3;\nPU0,0;\nPD2580.64,0;\nSP0;\n");
+    folder.file(
+        "d.svg",
+        R"(<svg width="720" height="720"><path d="M0,720h72" stroke="red" fill="none"/></svg>)");
+    EXPECT_EQ(run("@d.svg --dpi 72"), 0) << err.str();
+    EXPECT_EQ(content("d-torvik.plt"), "IN;\nSP2;\nPU0,0;\nPD1016,0;\nSP0;\n");
 }
 
 TEST_F(Command, SaysWhatIsWrongWithItsUsage) {
     folder.file("a.plt", "PD40,0");
-    for (const char* const line :
-         {"--unknown @a.plt", "@a.plt --tolerance 0", "@a.plt --tolerance 0,01",
-          "@a.plt --round-turn 91", "@a.plt --scale -1", "@a.plt --dots nan", "@a.plt --origin 1",
-          "@a.plt --mirror z", "@a.plt --rotate 45", "@a.plt --pen 1=9", "@a.plt --pen #12345=1",
-          "@a.plt --output ", "@a.plt --output-dir ", "@a.plt ", "@a.plt --output b --output-dir c",
-          "@a.plt @sub/a.plt --output b", "@a.plt @sub/a.plt --output-dir c"}) {
+    for (const char* const line : {"--unknown @a.plt",
+                                   "@a.plt --tolerance 0",
+                                   "@a.plt --tolerance 0,01",
+                                   "@a.plt --round-turn 91",
+                                   "@a.plt --scale -1",
+                                   "@a.plt --dots nan",
+                                   "@a.plt --origin 1",
+                                   "@a.plt --mirror z",
+                                   "@a.plt --rotate 45",
+                                   "@a.plt --text no",
+                                   "@a.plt --dpi 0",
+                                   "@a.plt --units km",
+                                   "@a.plt --pen layer:=1",
+                                   "@a.plt --pen layer:A=9",
+                                   "@a.plt --pen -1=1",
+                                   "@a.plt --pen 1=9",
+                                   "@a.plt --pen #12345=1",
+                                   "@a.plt --output ",
+                                   "@a.plt --output-dir ",
+                                   "@a.plt ",
+                                   "@a.plt --output b --output-dir c",
+                                   "@a.plt @sub/a.plt --output b",
+                                   "@a.plt @sub/a.plt --output-dir c"}) {
         EXPECT_EQ(run(line), 1) << line;
         const std::string message = err.str();
         EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;

@@ -38,6 +38,11 @@ Stroke dented(double by) {
     return stroke;
 }
 
+// One arc, whose sweep is no number that can be written.
+Stroke nearlyRound(double sweep) {
+    return {1, {200, 0}, {arcSegment({200, 0}, {}, sweep)}};
+}
+
 // The first stroke of a drawing.
 Stroke drawn(const std::string& drawing) {
     return readHpgl(drawing, "").strokes.at(0);
@@ -62,6 +67,8 @@ TEST(Fitting, MakesFewPiecesOfStrokes) {
     addChords(slot, {1000, 200}, 180, 12);
     slot.segments.push_back(lineSegment({0, 400}));
     addChords(slot, {0, 200}, 180, 12);
+    Stroke noRadius{1, {5, 5}, {}};
+    noRadius.segments.push_back(arcSegment({5, 5}, {5, 5}, 30));
     const std::string quarters = "PU100,0;PD;AA0,0,-90;AA0,0,-90;AA0,0,-90";
     const struct {
         const char* says;
@@ -82,8 +89,14 @@ TEST(Fitting, MakesFewPiecesOfStrokes) {
         {"a line that comes back stays", drawn("PD100,0,50,0"), "1: 0,0 L100,0 L50,0"},
         {"a point within the tolerance goes", drawn("PD50,0.39,100,0"), "1: 0,0 L100,0"},
         {"a point outside stays", drawn("PD50,0.41,100,0"), "1: 0,0 L50,0.41 L100,0"},
+        {"an arc that lacks 0.04 of its circle is the circle", nearlyRound(359.98854),
+         "1: O0,0 r200"},
+        // 200 units and 0.1719 degrees: the end lies 0.6 below the start and 0.0009 left of it.
+        {"one that lacks 0.6 keeps its place", nearlyRound(359.82814),
+         "1: 200,0 A0,0 359.828>199.999,-0.6"},
         {"a straight curve is a line", drawn("PD;BZ30,0,60,0,90,0"), "1: 0,0 L90,0"},
         {"what is too small to be written goes", drawn("PD0.00001,0"), ""},
+        {"and an arc of no radius", noRadius, ""},
         {"a dot stays", {1, {5, 5}, {}}, "1: 5,5"},
     };
     for (const auto& row : rows)
@@ -155,6 +168,17 @@ TEST(Circles, AreFoundByTheBestCentre) {
     const Point centre = found.segments[0].first;
     for (const Segment& corner : hole.segments)
         EXPECT_NEAR(distance(corner.end, centre), distance(found.start, centre), 0.389);
+}
+
+TEST(Circles, AreArcsThatAllButEndWhereTheyBegan) {
+    const auto isCircle = [](double sweep) {
+        FitReport report;
+        const Point start{100, 0};
+        return fit({1, start, {arcSegment(start, {}, sweep)}}, {}, report).at(0).isCircle();
+    };
+    EXPECT_TRUE(isCircle(-359.8)); // a gap of 0.35
+    EXPECT_TRUE(isCircle(360.2));
+    EXPECT_FALSE(isCircle(359.7)); // of 0.52
 }
 
 TEST(Circles, NearMissesAreReportedWithTheToleranceThatTakesThem) {

@@ -4,6 +4,7 @@
 #include "prepare/source/instruction_table.h"
 #include "stroke_text.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -43,6 +44,8 @@ const std::vector<Case>& cases() {
          "1: 0,0 L10,0; 1: 10,-5 L10,5"},
         {"SP without a number puts the pen away, and nothing is drawn",
          "SP3;PD10,0;SP;PD20,0;SP0PD30,0;SP1;PD40,0", "3: 0,0 L10,0; 1: 30,0 L40,0"},
+        {"PC gives pen 0 a colour, with which it draws", "SP0;PC0,9,9,9;PD9,0;PC0;PD9,9",
+         "0: 0,0 L9,0"},
         {"SP may part a stroke", "SP1;PD10,0;SP2;PD10,10;PU", "1: 0,0 L10,0; 2: 10,0 L10,10"},
         {"PU moves through its pairs without drawing", "PU1,2,30,40;PD50,60", "1: 30,40 L50,60"},
         {"after a bare PD PA draws", "PU;PA5,5;PD;PA10,5,10,10;PU;PA0,0", "1: 5,5 L10,5 L10,10"},
@@ -111,6 +114,13 @@ const std::vector<Case>& cases() {
         {"a circle in a polygon is a part of its own", "PU5,5;PM0;CI2;PM2;EP", "1: O5,5 r2"},
         {"edges may be arcs and curves", "PU10,0;PM0;PD;AA0,0,180;BR0,5,5,5,5,0;PM2;EP",
          "1: 10,0 A0,0 180>-10,0 B-10,5 -5,5>-5,0 L10,0"},
+        {"where the pen goes up from a closed outline, no edge leads to the next one",
+         "PM0;PD9,0,9,9,0,0;PU3,3;PD5,3,5,5,3,3;PU7,3;PD8,3,8,4,7,3;PM2;FP",
+         "1: 0,0 L9,0 L9,9 L0,0; 1: 3,3 L5,3 L5,5 L3,3; 1: 7,3 L8,3 L8,4 L7,3"},
+        {"nor does EP draw one", "PM0;PU1,1;PD9,1,9,9,1,1;PU;PA2,2;PD;PA3,2,3,3,2,2;PM2;EP",
+         "1: 1,1 L9,1 L9,9 L1,1; 1: 2,2 L3,2 L3,3 L2,2"},
+        {"FP after EP draws only what the pen left out", "PM;PD10,0;PU10,10;PD0,10;PM2;EP;FP",
+         "1: 0,0 L10,0; 1: 10,10 L0,10 L0,0; 1: 10,0 L10,10"},
         {"FP draws edges of the pen up, too", "PM0;PU9,0,9,9;PM2;FP", "1: 0,0 L9,0 L9,9 L0,0"},
         {"EP after FP draws nothing more", "PM0;PD9,0,9,9;PM2;FP;EP", "1: 0,0 L9,0 L9,9 L0,0"},
         {"EP by another pen after FP does", "SP1;PM0;PD9,0,9,9;PM2;FP;SP2;EP",
@@ -148,7 +158,7 @@ const std::vector<Case>& cases() {
         {"BP and CO may be bare, MG quoted", "BP;CO;PD2,0;BPPD3,0MG\"PD9,9;\"", "1: 0,0 L2,0 L3,0"},
         {"CO is quoted or ends with ;", "CO\"PD9,9;\"PD2,0;CO PD8,8;PD3,0", "1: 0,0 L2,0 L3,0"},
         {"SM takes one character", "SMP;PD2,0;SM;PD3,0", "1: 0,0 L2,0 L3,0"},
-        {"PB and UC draw nothing", "PB;UC99,5,5,-99,3;PD2,0", "1: 0,0 L2,0"},
+        {"UC draws nothing", "UC99,5,5,-99,3;PD2,0", "1: 0,0 L2,0"},
         {"LT, IW and pages change no line", "LT2,4;IW0,0,1,1;PD9,0;PG;AF;AH;FR;", "1: 0,0 L9,0"},
         {"CT counts its number", "CT1;CI5", "1: O0,0 r5"},
         {"what changes no stroke is passed over", "PT0.3;VS20;PC1,255,0,0;OE;PD2,0", "1: 0,0 L2,0"},
@@ -171,9 +181,76 @@ const std::vector<Case>& cases() {
     return table;
 }
 
+// The letter I is a line in the middle of its width. In the first lines a letter is 100 wide and
+// 200 high, which makes cells of 150 and lines 400 apart.
+const std::vector<Case>& labelCases() {
+    const std::string size = "SI.25,.5;";
+    static const std::vector<Case> table{
+        {"LB writes letter by letter, and the pen goes on behind the last one",
+         size + "PD;LBII\x03PA300,50", "1: 50,200 L50,0; 1: 200,200 L200,0; 1: 300,0 L300,50"},
+        {"a new line begins below where the pen came from",
+         size + "PU10,0;LBII\r\nI\x03LB\r\nI\x03",
+         "1: 60,200 L60,0; 1: 210,200 L210,0; 1: 60,-200 L60,-400; 1: 60,-600 L60,-800"},
+        {"the pen steps back, half a step back, and a line up", size + "LBI\bI\v\tI\x03",
+         "1: 50,200 L50,0; 1: 50,200 L50,0; 1: 125,600 L125,400"},
+        {"DI sets the direction, in which the next line begins at the pen",
+         size + "LBI\x03"
+                "DI0,1;LBI\x03"
+                "DI;LBI\r\nI\x03",
+         "1: 50,200 L50,0; 1: -50,50 L150,50; 1: 200,350 L200,150; 1: 200,-50 L200,-250"},
+        {"DR counts in the corners' distances", "IP0,0,2000,1000;DR1,2;" + size + "LBI\x03",
+         "1: -106.066,176.777 L35.355,35.355"},
+        {"SR counts in hundredths of the corners' distance",
+         "IP0,0,2000,1000;SR5,20;LBI\x03SR;LBI\x03", "1: 50,200 L50,0; 1: 157.5,15 L157.5,0"},
+        {"without a size letters are small, or larger on paper whose size is told",
+         "LBI\x03PS4000,2000;PU0,0;LBI\x03", "1: 37.4,107.6 L37.4,0; 1: 57,150 L57,0"},
+        {"a negative width writes to the left", "SI-.25,.5;LBI\x03", "1: -50,200 L-50,0"},
+        {"SL leans letters over", size + "SL1;LBI\x03SL;LBI\x03",
+         "1: 250,200 L50,0; 1: 200,200 L200,0"},
+        {"ES adds parts of cells and lines", size + "ES1,.5;LBII\r\nI\x03",
+         "1: 50,200 L50,0; 1: 350,200 L350,0; 1: 50,-400 L50,-600"},
+        {"LO puts each line's middle to the pen", size + "LO5;LBII\rI\x03",
+         "1: -75,100 L-75,-100; 1: 75,100 L75,-100; 1: 0,100 L0,-100"},
+        {"LO above 10 keeps half a letter away",
+         size + "LO11;LBI\x03PU0,0;LO19LBI\x03PU0,0;LO14;LBI\x03",
+         "1: 100,300 L100,100; 1: -100,-100 L-100,-300; 1: 0,300 L0,100"},
+        {"CP moves by cells and lines",
+         size + "CP2,1;LBI\x03"
+                "CP;LBI\x03",
+         "1: 350,600 L350,400; 1: 50,200 L50,0"},
+        {"RO turns labels", "PS4000,2000;RO90;PU0,0;" + size + "LBI\x03", "1: 3800,50 L4000,50"},
+        {"DT with mode 0 writes its character, too", size + "DTI;LBIDTI,0;LBIPD200,0",
+         "1: 50,200 L50,0; 1: 150,0 L200,0"},
+        {"BL keeps a label that PB writes", size + "BLI\x03PU9,0;PB", "1: 59,200 L59,0"},
+        {"a label within a polygon is not written", "PM;LBI\x03PM2;PD1,0", "1: 0,0 L1,0"},
+    };
+    return table;
+}
+
+TEST(Instructions, WriteLabels) {
+    for (const Case& one : labelCases())
+        EXPECT_EQ(strokesText(readHpgl(one.drawing, "test.plt").strokes), one.expected) << one.name;
+}
+
+TEST(Instructions, TakeLettersFromTheSetThatIsSelected) {
+    const std::string umlaut = strokesText(readHpgl("LB\xC3\x84\x03", "").strokes); // UTF-8
+    EXPECT_EQ(std::count(umlaut.begin(), umlaut.end(), ':'), 5); // of A and its two dots
+    for (const char* const drawing :
+         {"CS33LB[\x03", "CA33LB\x0E[\x03", "CA33;SA;LB[\x03", "SA;CS33;SSLB[\x03", "LB\xD8\x03",
+          "SD1,14LB\xC4\x03", "CA33;SA;LB\x0F\x0E[\x03"})
+        EXPECT_EQ(strokesText(readHpgl(drawing, "").strokes), umlaut) << drawing;
+    const SourceReport report = readHpgl("LB\xE3\x80\x03LB \x03LB\x81\x03LO10;SI1;", "").report;
+    EXPECT_EQ(report.texts, 2);
+    EXPECT_EQ(report.unknownLetters,
+              3); // no UTF-8, and none of the three bytes stands for a letter
+    EXPECT_EQ(report.lost(Loss::malformed), 2);
+}
+
 TEST(Instructions, DrawWhatTheirRowSays) {
+    SourceOptions options;
+    options.texts = false;
     for (const Case& one : cases()) {
-        const SourceDrawing drawing = readHpgl(one.drawing, "test.plt");
+        const SourceDrawing drawing = readHpgl(one.drawing, "test.plt", options);
         EXPECT_EQ(strokesText(drawing.strokes), one.expected) << one.name;
         EXPECT_EQ(drawing.report.strayCharacters, 0) << one.name;
     }
@@ -181,7 +258,10 @@ TEST(Instructions, DrawWhatTheirRowSays) {
 
 TEST(Instructions, HaveACaseForEveryRowThatDoesSomething) {
     std::set<std::string> seen;
-    for (const Case& one : cases())
+    std::vector<Case> all = cases();
+    all.insert(all.end(), labelCases().begin(), labelCases().end());
+    all.push_back({"", "CS;CA;SS;SA;SD;ES;", ""});
+    for (const Case& one : all)
         for (const auto& [name, count] : readHpgl(one.drawing, "test.plt").report.instructions)
             seen.insert(name);
     for (const Instruction& row : instructionTable()) {
@@ -203,10 +283,12 @@ TEST(Instructions, DrawEllipsesWhereUnitsDiffer) {
 }
 
 TEST(SourceReport, CountsWhatIsNotCarriedOver) {
+    SourceOptions options;
+    options.texts = false;
     const auto report =
         readHpgl("LBa\x03;LBb\x03;FP;RA1,1;WG1,0,9;LT2;LT;LT3,4;IW;IW0,0,1,1;SM*;SM;UC1;CI9,45;"
                  "AA5,5,90,30;PD1;AA1;SP0;PD9,9;CI4;?!;QQ;QQ1,2;PG",
-                 "test.plt")
+                 "test.plt", options)
             .report;
     // From texts to instructions without numbers, as they stand in Loss.
     EXPECT_EQ(report.losses, (std::array<long, lossCount>{2, 2, 3, 2, 1, 0, 0, 2, 2, 1, 0, 2}));
@@ -234,7 +316,7 @@ TEST(HpglSource, RefusesWithFileLineAndCause) {
         {"a text", "Dear all,\nthe drawing of the base plate is not here but in the other letter",
          "a.plt: this is no drawing in HPGL: "},
     };
-    HpglSourceOptions options;
+    SourceOptions options;
     options.segmentLimit = 3;
     for (const Case& one : refusals) {
         const std::string said = refusal([&] { readHpgl(one.drawing, "a.plt", options); });

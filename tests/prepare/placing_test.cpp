@@ -38,10 +38,26 @@ TEST(Placement, MovesScalesMirrorsAndTurnsOnThePaper) {
     EXPECT_THROW(placed({1, Mirror::none, 0, Point{0, -1e7}}), RunTimeError);
 }
 
+TEST(Placing, GoesByTheDrawnCurve) {
+    // The parabola's top lies at half its control points' height, the wave's ends at a fifth.
+    std::vector<Stroke> strokes{{1, {0, 0}, {curveSegment({0, -40}, {30, -40}, {30, 0})}}};
+    place(strokes, {1, Mirror::none, 0, Point{0, 0}});
+    EXPECT_EQ(strokesText(strokes), "1: 0,30 B0,-10 30,-10>30,30");
+    const StrokeExtents wave =
+        extentsOf(std::vector<Stroke>{{1, {0, 0}, {curveSegment({10, 30}, {20, -30}, {30, 0})}}});
+    EXPECT_NEAR(wave.high.y, 30 / std::sqrt(12.0), 1e-9);
+    EXPECT_NEAR(wave.low.y, -30 / std::sqrt(12.0), 1e-9);
+    EXPECT_NEAR(wave.high.x, 30, 1e-9);
+}
+
 TEST(Pens, AreMappedAndAbove8Refused) {
     std::vector<Stroke> strokes{line(12, {}, {1, 0}), line(3, {}, {1, 0}), line(9, {}, {1, 0})};
     auto mapped = strokes;
-    mapPens(mapped, {{12, 1}, {9, 3}, {3, 4}});
+    mapped.push_back(line(0, {}, {1, 0}));
+    auto withPenZero = mapped;
+    EXPECT_EQ(mapPens(mapped, {{12, 1}, {9, 3}, {3, 4}}).size(), 1U);
+    EXPECT_TRUE(mapPens(withPenZero, {{0, 2}, {12, 1}, {9, 3}}).empty());
+    EXPECT_EQ(withPenZero.back().pen, 2);
     EXPECT_EQ(strokesText(mapped), "1: 0,0 L1,0; 4: 0,0 L1,0; 3: 0,0 L1,0");
     EXPECT_THROW(mapPens(strokes, {}), RunTimeError);
 }

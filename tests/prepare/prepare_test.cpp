@@ -179,13 +179,20 @@ TEST(Preparing, JoinsLinesThatWereDrawnOneByOne) {
     EXPECT_EQ(prepared(drawing).text, "IN;\nSP1;\nPU0,0;\nCI1000;\nSP0;\n");
 }
 
+TEST(Preparing, LeavesNothingOfWhatHasNoSize) {
+    EXPECT_EQ(prepared("PU5,5;EW0,0,9;PU9,9;PM0;PD9,9;PM2;FP;PU0,0;PD40,0").text,
+              "IN;\nSP1;\nPU0,0;\nPD40,0;\nSP0;\n");
+    EXPECT_EQ(refusal([] { prepared("EW0,0,9;"); }), "the drawing holds nothing to draw");
+}
+
 TEST(Preparing, RefusesWhatCannotBecomeAJob) {
     const auto refused = [](const std::string& drawing) {
         return refusal([&] { prepared(drawing); });
     };
     EXPECT_EQ(refused("IN;PU5,5;"), "the drawing holds nothing to draw");
-    EXPECT_EQ(refused("IN;PU5,5;LBtext\x03"),
-              "the drawing holds nothing to draw; not carried over: texts (not drawn): 1");
+    EXPECT_EQ(refused("IN;PU5,5;UC1"),
+              "the drawing holds nothing to draw; not carried over: symbols and "
+              "characters of the drawing's own (not drawn): 1");
     std::string many = "PD";
     for (int i = 0; i < 32769; ++i)
         many += std::to_string(i * 50) + (i % 2 == 0 ? ",0," : ",99,");
@@ -193,15 +200,16 @@ TEST(Preparing, RefusesWhatCannotBecomeAJob) {
 }
 
 TEST(Report, SaysWhatWasReadDoneAndLost) {
-    const auto result = prepared("VS5;XQ;LBa\x03PD1000,0,1000,1000;PU2000,0;PD;PU;");
-    EXPECT_EQ(lossLine(result.report),
-              "texts (not drawn): 1, dots (not drawn without a diameter): 1, "
-              "unknown XQ: 1");
+    const auto result = prepared("VS5;XQ;UC1;PD1000,0,1000,1000;PU2000,0;PD;PU;");
+    EXPECT_EQ(lossLine(result.report), "symbols and characters of the drawing's own (not drawn): "
+                                       "1, dots (not drawn without a diameter): 1, "
+                                       "unknown XQ: 1");
     EXPECT_EQ(reportText("a.plt", result.report),
-              "Drawing: a.plt\n  Read: LB 1, PD 2, PU 2\n  Without effect on lines: VS 1\n"
+              "Drawing: a.plt\n  Read: PD 2, PU 2, UC 1\n  Without effect on lines: VS 1\n"
               "  Unknown, passed over: XQ 1\n"
               "  Pen: none is selected; everything is drawn by pen 1\n"
-              "  Lost: texts (not drawn): 1\n  Dots: 1, not drawn without a diameter\n"
+              "  Lost: symbols and characters of the drawing's own (not drawn): 1\n  Dots: 1, not "
+              "drawn without a diameter\n"
               "  Largest deviation: 0.000 mm\n  Pen 1 Black: 2 lines, 0 arcs, 0 circles\n"
               "  Extents: X 0.000 to 25.000 mm, Y 0.000 to 25.000 mm\n  Elements: 2\n"
               "  Cut length: 50.000 mm\n  Air length: 0.000 mm\n");

@@ -49,6 +49,29 @@ TEST(Samples, BecomePrograms) {
     }
 }
 
+// Outside a plate of 100 mm by 50 mm from 10, 10 the middle of a tool of 6 mm is 3 mm further out.
+TEST(Samples, OfCadAndOfADrawingProgramBecomeTheSamePlate) {
+    const TemporaryFolder folder;
+    std::vector<std::string> texts;
+    for (const char* const name : {"doorplate.dxf", "doorplate.svg"}) {
+        const std::string drawing = (folder.path() / name).string() + ".plt";
+        std::ostringstream out;
+        std::ostringstream err;
+        QStringList words =
+            QStringLiteral("torvik-prepare %1/prepare/%2 -o %3 --report --run 2=outside:6 "
+                           "--run 4=inside:3 --run 3=pocket:6 --tabs 2=5:4:3")
+                .arg(TORVIK_SAMPLES, QString::fromUtf8(name), QString::fromStdString(drawing))
+                .split(u' ');
+        ASSERT_EQ(runPreparer(words, out, err), 0) << err.str();
+        for (const char* const row :
+             {"Extents: X 7.000 to 113.000 mm, Y 7.000 to 63.000 mm", "Texts drawn: 1",
+              "Pen 4 Blue: 0 lines, 0 arcs, 4 circles", "Tabs: 4"})
+            EXPECT_NE(out.str().find(row), std::string::npos) << name << ": " << row;
+        texts.push_back(readWholeFile(drawing, 1 << 20));
+    }
+    EXPECT_EQ(texts[0], texts[1]);
+}
+
 TEST(Samples, OfTheJobsOwnKindLoseNothing) {
     for (const char* const name : {"allpens", "bracket", "clockface", "gear", "nameplate"}) {
         const auto file = std::filesystem::path(TORVIK_SAMPLES) / (std::string(name) + ".plt");
