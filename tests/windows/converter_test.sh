@@ -36,30 +36,36 @@ sameFolders() { # HERE THERE
   done
 }
 
-# Of the samples those that the package brings: without SVG the picture is not among them.
 prepareDrawings() {
   local name warnings=$WINEPREFIX/warnings
   mkdir -p "$WINEPREFIX/prepared" "$drawings"
   for name in badge.hpgl plate.plt sign.svg; do
-    if [[ ! -e "$folder/Sample files/$name" ]]; then
-      step "  $name is not in the package"
-      continue
-    fi
     "$preparer" "$samples/prepare/$name" --quiet --output-dir "$WINEPREFIX/prepared" 2>"$warnings"
     wine "$folder/torvik-prepare.exe" "$folderThere\\Sample files\\$name" --quiet \
       --output-dir "$drawingsThere" 2>>"$warnings" || fail "$(<"$warnings")"
+  done
+  # Tools beside the lines, tabs and texts, from CAD and from a drawing program.
+  local -ra tools=(--quiet --run 2=outside:6 --tabs 2=5:4:3 --run 3=pocket:6 --origin 10,10 --optimize)
+  for name in doorplate.dxf doorplate.svg; do
+    "$preparer" "$samples/prepare/$name" "${tools[@]}" -o "$WINEPREFIX/prepared/$name.plt" \
+      2>"$warnings"
+    wine "$folder/torvik-prepare.exe" "$folderThere\\Sample files\\$name" "${tools[@]}" \
+      -o "$drawingsThere\\$name.plt" 2>>"$warnings" || fail "$(<"$warnings")"
   done
   sameFolders "$WINEPREFIX/prepared" "$drawings"
 }
 
 convertDrawings() {
-  local target here
+  local target here name
   local -a names
   cp "$samples"/*.plt "$drawings/"
   cp "$drawings/gear.plt" "$drawings/Zahnrad für Öl.plt"
   mkdir -p "$folder/PlotSave" "$WINEPREFIX/home"
   cp "$samples"/*.plx "$samples"/prepare/*.plx "$folder/PlotSave/"
   cp "$samples/gear.plx" "$folder/PlotSave/Zahnrad für Öl.plx"
+  for name in doorplate.dxf doorplate.svg; do
+    cp "$samples/prepare/doorplate-torvik.plx" "$folder/PlotSave/$name.plx"
+  done
   ln -s "$folder/PlotSave" "$WINEPREFIX/home/PlotSave"
   mapfile -t names < <(cd "$drawings" && ls -- *.plt)
   mapfile -t namesThere < <(there "${names[@]}")

@@ -26,8 +26,11 @@ isActive() {
 }
 
 # Pressed and released before a dialog can go: it would take the release along, and the next press of
-# the key would count as a repetition.
-keys() { xdotool key --delay 0 "$@"; }
+# the key would count as a repetition. The pause is for Wine, which loses keys of the same moment.
+keys() {
+  xdotool key --delay 0 "$@"
+  sleep 0.3
+}
 
 # shot NAME: a picture of the screen, when nothing on it changes any more.
 shot() {
@@ -57,7 +60,8 @@ clickNext() { clickAt -50 -22; }
 toOutput() {
   local page
   openDrawing "$1"
-  keys Return Return
+  keys Return
+  keys Return
   for page in pens order header output; do
     shot "$1-$page" # when it has come
     [[ $page == output ]] || clickNext
@@ -99,7 +103,9 @@ wincamProgram() {
   keys space # another drawing
   until_ 'the menu does not close' isGone "$window"
   toOutput again
-  keys Up Up Up
+  keys Up
+  keys Up
+  keys Up
   keys Return
   waitFor '^WinCAM'
   shot number
