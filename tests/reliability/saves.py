@@ -1,0 +1,117 @@
+# SPDX-License-Identifier: MIT
+"""The saves of the console programs, each in folders of its own, and what counts as whole."""
+
+import os
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+SAMPLES = ROOT / 'samples'
+HOOK = {'ASAN_OPTIONS': 'verify_asan_link_order=0:detect_leaks=0', 'QT_QPA_PLATFORM': 'offscreen',
+        'LC_ALL': 'C.UTF-8', 'QT_HASH_SEED': '0'}  # the same fonts in the same order in a PDF
+
+
+class Fault(Exception):
+    """Something is not as it must be."""
+
+
+def plain(name, content):
+    """A file's bytes without the times in it."""
+    if name.endswith('.pdf'):
+        content = re.sub(rb'(?s)(?<=startxref\n).*', b'', content)
+        content = re.sub(rb'/(Creation|Mod)Date \(.*?\)|/ID \[.*?\]', b'', content)
+        content = re.sub(rb'<xmp:(Create|Modify|Metadata)Date>.*?<|uuid:[-0-9a-f]+', b'', content)
+    return content
+
+
+def files_in(folder):
+    return {str(path.relative_to(folder)): plain(path.name, path.read_bytes())
+            for path in sorted(folder.rglob('*')) if path.is_file() or path.is_symlink()}
+
+
+class Place:
+    """Folders for one worker: the user's home, and the disk that the faults are on."""
+
+    def __init__(self, folder, build):
+        self.folder, self.build = Path(folder), build
+        self.home, self.disk = self.folder / 'home', self.folder / 'disk'
+        self.log = self.folder / 'calls'
+        self.environment = {**os.environ, **HOOK, 'HOME': str(self.home), 'TMPDIR': str(self.folder),
+                            'XDG_CONFIG_HOME': str(self.folder / 'config'),
+                            'XDG_DATA_HOME': str(self.home), 'XDG_CACHE_HOME': str(self.home),
+                            'XDG_RUNTIME_DIR': str(self.folder / 'run'),
+                            'TORVIK_HOME': str(self.home)}
+        self.clear()
+
+    def clear(self):
+        shutil.rmtree(self.folder, ignore_errors=True)
+        for folder in (self.home, self.disk, self.folder / 'config' / 'Baltrum'):
+            folder.mkdir(parents=True)
+        (self.folder / 'run').mkdir(mode=0o700)
+
+    def put(self, files):
+        shutil.rmtree(self.disk, ignore_errors=True)
+        self.disk.mkdir()
+        for name, content in files.items():
+            (self.disk / name).parent.mkdir(parents=True, exist_ok=True)
+            (self.disk / name).write_bytes(content)
+
+    def with_order(self, order):
+        self.log.unlink(missing_ok=True)
+        shim = self.build / 'tests/faults/libfault_shim.so'
+        return {**self.environment, 'LD_PRELOAD': str(shim), 'TORVIK_FAULT_LOG': str(self.log),
+                'TORVIK_FAULT': f'{order} {self.disk}'}
+
+    def calls(self):
+        return self.log.read_text().splitlines() if self.log.exists() else []
+
+    def run(self, arguments, environment=None, seconds=20):
+        """Exit code, standard output, standard error; raises Fault for a hang."""
+        try:
+            done = subprocess.run(arguments, env=environment or self.environment,
+                                  stdin=subprocess.DEVNULL, capture_output=True, timeout=seconds,
+                                  check=False)
+        except subprocess.TimeoutExpired:
+            raise Fault(f'no end after {seconds} s: {arguments}') from None
+        return done.returncode, done.stdout.decode(), done.stderr.decode('utf-8', 'replace')
+
+
+class ConsoleSave:
+    """A save of a console program: its arguments, and the files that stand there before."""
+
+    def __init__(self, name, program, arguments, old, durable=False):
+        self.name, self.program, self.arguments = name, program, arguments
+        self.old = {file: plain(file, content) for file, content in old.items()}
+        self.durable = durable
+
+    def command(self, place):
+        return [str(place.build / 'bin' / self.program)] + [
+            argument.replace('DISK', str(place.disk)) for argument in self.arguments]
+
+    def save(self, place, order):
+        """Exit code and what was told."""
+        place.put(self.old)
+        code, _, told = place.run(self.command(place), place.with_order(order))
+        return code, told
+
+
+def sample(name):
+    return str(SAMPLES / name)
+
+
+JOB = [sample('bracket.plt'), '--answers', sample('bracket.plx'), '--tools', sample('Maskor.ini')]
+CONVERT = JOB + ['--target', 'winnc', '--number', '1', '--output-dir', 'DISK', '--force', '--quiet']
+PREPARE = [sample('prepare/badge.hpgl'), '--output', 'DISK/badge.plt', '--quiet']
+PROGRAM = {'oprg1': b'old', 'oprg1.txt': b'old text'}
+
+CONSOLE_SAVES = [
+    ConsoleSave('program', 'torvik-convert', CONVERT, PROGRAM),
+    ConsoleSave('program, --sync', 'torvik-convert', CONVERT + ['--sync'], PROGRAM, True),
+    ConsoleSave('prepared drawing', 'torvik-prepare', PREPARE, {'badge.plt': b'old'}),
+    ConsoleSave('prepared drawing, --sync', 'torvik-prepare', PREPARE + ['--sync'],
+                {'badge.plt': b'old'}, True),
+    ConsoleSave('job sheet', 'torvik', ['--sheet', 'DISK/bracket.pdf'] + JOB,
+                {'bracket.pdf': b'%PDF-1.4 old'}),
+]
