@@ -9,3 +9,7 @@ if(TORVIK_GTEST_SOURCE)
   endforeach()
 endif()
 add_subdirectory(tools)
+get_property(programs GLOBAL PROPERTY TORVIK_PROGRAMS)
+list(TRANSFORM programs REPLACE ".+" "$<TARGET_FILE:\\0>")
+add_test(NAME windows_hardening
+         COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/windows/hardening_test.sh" ${programs})

@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "base/logger.h"
+#include "base/user_folders.h"
 #include "job/job.h"
 #include "job/pens.h"
 #include "tests/answers/workshop_tools.h"
@@ -178,6 +179,10 @@ TEST(ProgramFolder, IsTheUsersOwnWhereTheProgramsCannotBeWritten) {
     EXPECT_EQ(programFolder(), folder.path() / "none" / "yet");
     EXPECT_EQ(savedSettingsFolder(), folder.path() / "none" / "yet" / "PlotSave");
     EXPECT_EQ(logFile("Torvik"), folder.path() / "none" / "yet" / "Torvik.log");
+    EXPECT_EQ(sampleFolder(), executableFolder().parent_path() / "share/torvik/samples");
+    setenv("TORVIK_HOME", folder.path().c_str(), 1);
+    std::filesystem::create_directory(folder.path() / "Sample files");
+    EXPECT_EQ(sampleFolder(), folder.path() / "Sample files");
     unsetenv("TORVIK_HOME");
 }
 

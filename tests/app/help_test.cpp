@@ -28,16 +28,19 @@ void expectShown(const HelpWindow& help, int topic) {
 
 TEST(HelpTopics, AreAllBuiltIn) {
     loadResources();
-    EXPECT_EQ(QDir(":/help").entryList(), QDir(TORVIK_HELP).entryList(QDir::Files));
+    const QStringList topics = QDir(TORVIK_HELP).entryList(QDir::Files);
+    EXPECT_EQ(QDir(":/help").entryList(QDir::Files), topics);
+    EXPECT_EQ(QDir(":/help/de").entryList(QDir::Files), topics);
 }
 
 TEST(HelpTopics, AreTitledPagesWhoseLinksLeadSomewhere) {
     loadResources();
-    const QDir folder(":/help");
     const QRegularExpression link("<a href=\"([^\"]*)\">");
-    for (const QString& name : folder.entryList()) {
-        SCOPED_TRACE(name.toStdString());
-        QFile file(folder.filePath(name));
+    for (const QFileInfo& entry :
+         QDir(":/help").entryInfoList(QDir::Files) + QDir(":/help/de").entryInfoList(QDir::Files)) {
+        SCOPED_TRACE(entry.filePath().toStdString());
+        const QDir folder = entry.dir();
+        QFile file(entry.filePath());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QString html = QString::fromUtf8(file.readAll());
         QTextDocument page;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Each kind of finding in the good program with one line changed.
 #include "check/check.h"
+#include "check/finding_rows.h"
 #include "tests/check/good_program.h"
 
 #include <algorithm>
@@ -139,6 +140,9 @@ TEST(Check, LinesThatEndOtherwise) {
     const Report report = checkProgram(program);
     EXPECT_EQ(report.findings.count(Kind::lineEnd), 81U);
     EXPECT_EQ(report.findings.byLine().size(), Findings::keptOfKind);
+    const std::vector<FindingRow> told = findingRows(report.findings);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0].where(), "line 1 and 80 more");
 }
 
 // Two pens of one tool and one speed, each a line cut in passes; the numbers are the heights.

@@ -111,6 +111,15 @@ TEST(Checker, AProgramIsLaidBesideItsJob) {
     EXPECT_EQ(found.code, 5);
     EXPECT_NE(found.out.find(": speed-differs: "), std::string::npos) << found.out;
 
+    // The answers themselves: the circle of this job bulges out of its billet.
+    const std::string cut = TORVIK_GOLDEN "/cut_job/";
+    const std::string outside = cut + "expected.mxc";
+    EXPECT_EQ(run({outside, "--quiet", "--drawing", cut + "drawing.plt", "--answers",
+                   cut + "drawing.plx", "--tools", cut + "Maskor.ini"})
+                  .out,
+              outside + ": billet-outside: The drawing reaches X-10.000, outside the billet that "
+                        "lies from 0 to X120.000.\n");
+
     const std::string foreign = TORVIK_GOLDEN "/cut_job/drawing.plx";
     const CheckRun other =
         run({good, "--drawing", job + "drawing.plt", "--answers", foreign, "--tools", sources[5]});

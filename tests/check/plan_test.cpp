@@ -2,6 +2,8 @@
 // The good program beside the job that asks for it, with some lines changed; and jobs whose program
 // cannot be what they ask for.
 #include "check/plan/plan.h"
+#include "check/program_reader.h"
+#include "check/targets.h"
 #include "tests/check/good_program.h"
 #include "tests/check/random_job.h"
 #include "tests/gcode/job_to_write.h"
@@ -88,6 +90,9 @@ const struct {
     {"the way up is missing", {{31, ""}}, "way-differs 31"},
     {"the quick way down is missing", {{33, ""}}, "way-differs 33"},
     {"the program ends lower", {{78, "G0 Z49.00 M5"}}, "way-differs 78"},
+    {"a stop before the right tool, another height behind it",
+     {{11, "G0 Z50.00 M5\nT3 G43 H3"}, {13, "G0 Z6.00"}},
+     "way-differs 11"},
     {"another tool is taken", {{40, "T3 G43 H3"}}, "tool-differs 40"},
     {"no tool is taken", {{40, ""}}, "tool-differs 40"},
     {"the spindle turns faster", {{41, "S1300 M3"}}, "speed-differs 41"},
@@ -147,6 +152,52 @@ TEST(Plan, WhatTheWriterCannotWriteRightIsFound) {
     EXPECT_EQ(sentencesOf("SP1;PU400,-0.4;AA0,0,360;", ""),
               "circle-lost: The drawing has a full circle here, but its end is written a little "
               "behind its start: only 0.010 mm of it are cut.");
+}
+
+TEST(Plan, HeightsThatAreAlikeOrTurnedRoundAreNoFaultOfTheProgram) {
+    struct Row {
+        const char* heights;
+        const char* more; // of the drawing
+        const char* found;
+    };
+    const char* const holes = "SP2;PU800,800;CI120;PU1600,800;CI120;";
+    const Row rowsOfHeights[]{
+        {"toolChange=5 safe=5 down=2", holes, ""},
+        {"toolChange=5 safe=5 down=5", holes, ""},
+        {"toolChange=2 safe=5 down=2", holes, ""},
+        {"toolChange=5 safe=2 down=5", holes, ""},
+        {"toolChange=-10 safe=-10 down=-10", "", "deeper-than-asked;deeper-than-asked;"},
+    };
+    for (const auto& [heights, more, found] : rowsOfHeights)
+        for (const Dialect& dialect : dialects()) {
+            JobToWrite work(std::string("SP1;PU400,400;PD800,400;PU400,800;PD800,800;") + more);
+            work.change(std::string("1.depth=2 ") + heights);
+            if (*more != 0)
+                work.change("2/1.tool=2 2/1.depth=4 2/1.step=2");
+            StringSink program;
+            writeProgram(work.job, work.tools, dialect, 1, program, work.logger);
+            std::string named;
+            for (const std::string& text : planOf(work, program.bytes()))
+                named += text.substr(0, text.find(' ')) + ";";
+            EXPECT_EQ(named, found) << heights << ", " << dialect.name;
+        }
+}
+
+TEST(Plan, AStopEndsTheCheckWhereverItHasGot) {
+    const JobToWrite work = goodJob();
+    const std::string program = changedProgram({});
+    std::stop_source stop;
+    const auto stopped = [&](const Walked& walked, Findings& findings) {
+        stop.request_stop();
+        EXPECT_THROW(findPlan(walked, work.job, work.tools, findings, stop.get_token()), Cancelled);
+    };
+    const Target* const target = checkProgram(program, {}, nullptr, stopped).target;
+    ASSERT_TRUE(stop.stop_requested());
+    Findings none;
+    EXPECT_THROW(readProgram(*target, program, none, stop.get_token()), Cancelled);
+    EXPECT_THROW(checkProgram({}, {}, target, {}, stop.get_token()), Cancelled);
+    EXPECT_THROW(checkProgramOfJob(program, {}, work.job, work.tools, nullptr, stop.get_token()),
+                 Cancelled);
 }
 
 // One pen that starts where a deeper one ended is the only fault that these jobs can have.

@@ -52,6 +52,9 @@ public:
         job.answers.gstrHeader[headerBilletZ] = "6";
     }
 
+    // The drawing that the job is made from.
+    const std::string& drawing() const { return m_text; }
+
     Job job;
     ToolList tools;
 

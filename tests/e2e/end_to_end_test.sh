@@ -72,7 +72,7 @@ secondStart() {
   "$program" 2>>"$home/errors" &
   second=$!
   waitForEnd "$second"
-  waitFor "$opening"
+  until_ 'the first copy does not come to the front' isActive "$opening"
   kill -0 "$running" || fail 'the first copy has ended'
 }
 

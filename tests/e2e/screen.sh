@@ -92,9 +92,17 @@ isActive() {
 }
 
 # waitFor TITLE_PATTERN: until the window has the keyboard. A dialog takes no Enter, Space or Escape
-# in its first 300 ms.
+# in its first 300 ms. A window manager that is short of time may leave a window in view without
+# giving it the keyboard; then the window is asked to the front, as a person would click on it.
 waitFor() {
-  until_ "no window '$1' came to the front" isActive "$1"
+  local end=$((SECONDS + patience)) ask=$((SECONDS + patience / 3))
+  until isActive "$1"; do
+    ((SECONDS < end)) || fail "no window '$1' came to the front"
+    if ((SECONDS >= ask)) && window=$(windowOf "$1"); then
+      xdotool windowactivate "$window" 2>/dev/null || true
+    fi
+    sleep 0.025
+  done
   sleep 0.35
 }
 

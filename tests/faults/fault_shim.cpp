@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/fault_shim.h"
 
+#include "tests/faults/fault_order.h"
+
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +14,7 @@
 #include <fcntl.h>
 #include <string>
 #include <sys/sendfile.h>
+#include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -27,31 +31,56 @@ Function* next(const char* name) {
 }
 
 bool isInside(const char* path) {
-    if (armed == nullptr)
+    if (armed == nullptr || path == nullptr)
         return false;
     const std::size_t size = std::strlen(armed->folder);
     return std::strncmp(path, armed->folder, size) == 0 &&
            (path[size] == '/' || path[size] == '\0');
 }
 
-bool isInside(int descriptor) {
-    if (armed == nullptr)
-        return false;
+// The name of an open file.
+struct OpenName {
+    explicit OpenName(int descriptor) {
+        const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+        if (armed == nullptr || readlink(link.c_str(), path, sizeof path - 1) < 0)
+            path[0] = '\0';
+    }
+    operator const char*() const { return path; }
     char path[PATH_MAX] = {};
-    const std::string name = "/proc/self/fd/" + std::to_string(descriptor);
-    return readlink(name.c_str(), path, sizeof path - 1) > 0 && isInside(path);
+};
+
+int errorOf(Call call) {
+    if (armed->error != usualFailure)
+        return armed->error;
+    return call == Call::sync || call == Call::close ? EIO : ENOSPC;
 }
 
-template <typename Where>
-bool fails(Call call, Where where) {
-    if (!isInside(where) || armed->call != call)
+bool isTurn() {
+    if (seen == armed->k)
+        return true;
+    const bool again = armed->error == EINTR || armed->error == halfWritten;
+    return armed->forEver && seen > armed->k && (!again || (seen - armed->k) % 2 == 0);
+}
+
+// Whether the call is to fail; errno then says why.
+bool fails(Call call, const char* where) {
+    if (!isInside(where))
         return false;
-    ++seen;
-    if (seen < armed->k || (seen > armed->k && !armed->forEver))
+    const bool counts = armed->call == call || armed->call == Call::any;
+    seen += counts ? 1 : 0;
+    const bool failing = counts && isTurn();
+    noteCall(call, where, failing);
+    if (!failing)
         return false;
     ++made;
-    errno = call == Call::sync || call == Call::close ? EIO : ENOSPC;
+    if (armed->error == killed)
+        kill(getpid(), SIGKILL);
+    errno = errorOf(call);
     return true;
+}
+
+bool fails(Call call, int descriptor) {
+    return armed != nullptr && fails(call, OpenName(descriptor));
 }
 
 bool isUnknownTo(const char* path) {
@@ -110,9 +139,10 @@ FILE* fopen64(const char* path, const char* mode) {
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
-    return fails(Call::write, file)
-               ? -1
-               : next<ssize_t(int, const void*, size_t)>("write")(file, bytes, size);
+    const auto real = next<ssize_t(int, const void*, size_t)>("write");
+    if (!fails(Call::write, file))
+        return real(file, bytes, size);
+    return armed->error == halfWritten ? real(file, bytes, (size + 1) / 2) : -1;
 }
 
 ssize_t writev(int file, const iovec* parts, int count) {
@@ -157,6 +187,42 @@ int linkat(int fromFolder, const char* from, int toFolder, const char* to, int f
                ? -1
                : next<int(int, const char*, int, const char*, int)>("linkat")(fromFolder, from,
                                                                               toFolder, to, flags);
+}
+
+int stat(const char* path, struct stat* found) noexcept {
+    return fails(Call::stat, path) ? -1 : next<int(const char*, struct stat*)>("stat")(path, found);
+}
+
+int stat64(const char* path, struct stat64* found) noexcept {
+    return fails(Call::stat, path) ? -1
+                                   : next<int(const char*, struct stat64*)>("stat64")(path, found);
+}
+
+int lstat(const char* path, struct stat* found) noexcept {
+    return fails(Call::stat, path) ? -1
+                                   : next<int(const char*, struct stat*)>("lstat")(path, found);
+}
+
+int lstat64(const char* path, struct stat64* found) noexcept {
+    return fails(Call::stat, path) ? -1
+                                   : next<int(const char*, struct stat64*)>("lstat64")(path, found);
+}
+
+int statx(int folder, const char* path, int flags, unsigned wanted, struct statx* found) noexcept {
+    return fails(Call::stat, path) ? -1
+                                   : next<int(int, const char*, int, unsigned, struct statx*)>(
+                                         "statx")(folder, path, flags, wanted, found);
+}
+
+int access(const char* path, int rights) noexcept {
+    return fails(Call::stat, path) ? -1 : next<int(const char*, int)>("access")(path, rights);
+}
+
+// The disk that the system is asked for stands where the environment says.
+char* realpath(const char* path, char* resolved) noexcept {
+    const char* const disk = std::getenv("TORVIK_TEST_DISK");
+    const bool isDisk = disk != nullptr && std::strncmp(path, "/sys/dev/block/", 15) == 0;
+    return next<char*(const char*, char*)>("realpath")(isDisk ? disk : path, resolved);
 }
 
 int unlink(const char* path) noexcept {

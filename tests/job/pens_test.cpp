@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/picture.h"
 #include "job/pens.h"
+#include "job/sort_paths.h"
 #include "tests/job/drawing.h"
 
 #include <gtest/gtest.h>
@@ -84,8 +85,8 @@ TEST(SetUpPens, StopsWhereTheGroupsExceed16Bits) {
 }
 
 TEST(SortPaths, KeepsFileOrderAmongEqualKeys) {
-    const float keys[] = {3, 1, 2, 1, 3};
-    EXPECT_EQ(SortPaths(keys), (std::vector<std::size_t>{1, 3, 2, 0, 4}));
+    const float keys[] = {3, 1e-9F, -2, 1e-9F, 3e9F, 0, 3, -0.0F, -2.5F};
+    EXPECT_EQ(SortPaths(keys), (std::vector<std::size_t>{8, 2, 5, 7, 1, 3, 0, 6, 4}));
 }
 
 TEST(RebuildOrder, HoldsTheMachinedPensInPenOrder) {

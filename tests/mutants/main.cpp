@@ -2,7 +2,6 @@
 // Puts faults into good programs and prints how many of them the check finds: laid beside the job,
 // and from the text alone. Programs in which the machine does the same as before are left out.
 // usage: mutants [PROGRAMS OF A KIND [FIRST SEED [good]]]     ("good": no faults)
-#include "check/machine.h"
 #include "check/plan/plan.h"
 #include "check/program_reader.h"
 #include "check/sense/sense.h"
@@ -61,7 +60,7 @@ std::vector<std::array<double, 10>> walked(const std::string& text, const check:
     std::vector<std::array<double, 10>> steps;
     check::Findings ignored;
     const auto known = [](double value) { return std::isnan(value) ? -1e9 : value; };
-    for (const check::Move& move : check::walk(check::readProgram(target, text, ignored))) {
+    for (const check::Move& move : check::readProgram(target, text, ignored).moves) {
         const bool isStill = (move.isRapid() || move.kind == check::MoveKind::feedHeight) &&
                              move.from.x == move.to.x && move.from.y == move.to.y &&
                              move.from.z == move.to.z;

@@ -38,13 +38,13 @@ TEST_P(LinePictureTest, HiddenPathsLeaveNoTraceAndNoGapAndComeBack) {
     others.answers.gudtPens[1].blnOmit = true; // never drawn at all
     const QImage without = plot(others);
     const QImage before = plot(job);
-    picture.plotBlink(job, {1}, false);
+    picture.plotBlink({1}, false);
     EXPECT_EQ(picture.image(), without);
-    picture.plotBlink(job, {1}, true);
+    picture.plotBlink({1}, true);
     EXPECT_EQ(picture.image(), before);
-    picture.DrawLine(job, 2, 1);
+    picture.DrawLine(2, 1);
     EXPECT_NE(picture.image(), before);
-    picture.DrawLine(job, 2, 0);
+    picture.DrawLine(2, 0);
     EXPECT_EQ(picture.image(), before);
 }
 

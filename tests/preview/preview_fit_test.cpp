@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "preview/outlines.h"
+#include "preview/path_points.h"
 #include "preview/preview_fit.h"
 #include "tests/preview/machined_job.h"
 

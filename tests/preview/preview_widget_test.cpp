@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/depths.h"
 #include "preview/preview_widget.h"
+#include "preview/scale_length.h"
+#include "preview/scale_line.h"
 #include "tests/base/temporary_folder.h"
 #include "tests/preview/machined_job.h"
 
@@ -18,7 +20,7 @@ namespace {
 class PreviewWidgetTest : public QObject, public testing::Test {
 protected:
     PreviewWidgetTest() {
-        preview.resize(700, 500);
+        preview.resize(700, 530);
         preview.setAttribute(Qt::WA_DontShowOnScreen);
         preview.show();
         read("SP1;PU400,400;PD4400,2400", {{1, 2}});
@@ -74,11 +76,42 @@ TEST_F(PreviewWidgetTest, ThePieceFitStaysInForceUntilTheNextDrawing) {
     EXPECT_EQ(child("picPlot")->geometry(), plot);
     preview.PlotLines();
     EXPECT_EQ(preview.fit().gsngScale, piece);
-    preview.resize(720, 500);
+    preview.resize(720, 530);
     EXPECT_FLOAT_EQ(preview.fit().gsngScale,
                     static_cast<float>((child("picBack")->width() - 16) * 15) / 106);
     preview.GetScale();
     EXPECT_GT(preview.fit().gsngScale, piece * 106 / 100);
+}
+
+TEST_F(PreviewWidgetTest, TheScaleBarIsAsLongAsItSaysInEveryFit) {
+    const auto& line = *preview.findChild<ScaleLine*>("picScale");
+    const auto expectTrue = [&] {
+        EXPECT_EQ(line.accessibleName(), "Drawing, 100.0 mm wide, 50.0 mm high");
+        EXPECT_EQ(line.barLength(), 20);
+        EXPECT_NEAR(line.barPixels(), 20 * preview.fit().gsngScale / 15, 0.5);
+    };
+    expectTrue();
+    preview.DrawPiece();
+    expectTrue();
+    preview.resize(640, 500);
+    expectTrue();
+    preview.resize(220, 500); // the bar and its text have less room, but some
+    EXPECT_GE(line.barPixels(), 12);
+    EXPECT_NEAR(line.barPixels(), line.barLength() * preview.fit().gsngScale / 15, 0.5);
+    preview.resize(120, 500);
+    EXPECT_EQ(line.barPixels(), 0);
+    preview.clear();
+    EXPECT_EQ(line.accessibleName(), "");
+}
+
+TEST(ScaleBar, IsARoundLength) {
+    struct Row {
+        double most;
+        double length;
+    };
+    for (const Row& row : {Row{1, 1}, Row{1.99, 1}, Row{2, 2}, Row{49, 20}, Row{50, 50},
+                           Row{999, 500}, Row{0.3, 0.2}, Row{0, 0}, Row{-4, 0}})
+        EXPECT_DOUBLE_EQ(roundLength(row.most), row.length) << row.most;
 }
 
 TEST_F(PreviewWidgetTest, BothPartsOfTheFrameShowThePicture) {
@@ -196,6 +229,31 @@ TEST_F(PreviewWidgetTest, ABlinkThatFailsIsLoggedOnceAndNotReported) {
         preview.plotBlink({7}, false);
     std::ifstream lines(log);
     EXPECT_EQ(std::count(std::istreambuf_iterator<char>(lines), {}, '\n'), 1);
+}
+
+// Painted in the background; the window closes while a picture is on its way.
+TEST_F(PreviewWidgetTest, AThousandfoldDrawingLooksAsASingleOne) {
+    std::string drawing = "SP1;PU400,400;PD4400,2400;PU400,600;PD440,640;";
+    read(drawing.c_str(), {{1, 2}});
+    const QImage lines = preview.picture();
+    preview.DrawPiece();
+    QCoreApplication::processEvents(); // the legend takes its room
+    const QImage piece = preview.picture();
+    for (int i = 0; i < 2000; ++i)
+        drawing += "PU400,600;PD440,640;";
+    const auto becomes = [&](const QImage& image) {
+        return QTest::qWaitFor([&] { return preview.picture() == image; });
+    };
+    read(drawing.c_str(), {{1, 2}});
+    EXPECT_TRUE(becomes(lines));
+    preview.plotBlink({2}, false);
+    EXPECT_TRUE(becomes(lines));
+    preview.DrawPiece();
+    EXPECT_TRUE(becomes(piece));
+    preview.resize(600, 400);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview.picture().width() < piece.width(); }));
+    preview.resize(700, 530);
+    preview.picture();
 }
 
 TEST_F(PreviewWidgetTest, EveryNewPictureComesToTheScreen) {

@@ -6,7 +6,6 @@
 #include "base/errors.h"
 #include "base/files.h"
 #include "check/command/program_files.h"
-#include "check/machine.h"
 #include "check/opening_lines.h"
 #include "check/program_reader.h"
 #include "tests/mutants/written_job.h"
@@ -74,7 +73,7 @@ void printMoves(const fs::path& path) {
     if (target == nullptr)
         throw FileError(utf8FromPath(path), "this is a program of no control");
     check::Findings ignored;
-    check::Moves moves = check::walk(check::readProgram(*target, text, ignored));
+    check::Moves moves = check::readProgram(*target, text, ignored).moves;
     for (std::size_t i = 1; i < moves.size(); ++i)
         if (moves[i].kind == MoveKind::spindleOff)
             std::swap(moves[i - 1], moves[i]);

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The job sheet: one page whatever the job, and what the shell is told.
 #include "base/files.h"
+#include "gcode/dialects.h"
+#include "job/job.h"
 #include "sheet/command/sheet_command.h"
 #include "sheet/sheet_page.h"
 #include "tests/base/temporary_folder.h"
+#include "trial/trial.h"
 
 #include <QPainter>
 
@@ -77,6 +80,19 @@ TEST(SheetCommand, TheShellIsToldWhatIsWrong) {
         EXPECT_FALSE(told.err.empty()) << row.what;
         EXPECT_FALSE(fs::exists(output)) << row.what;
     }
+}
+
+TEST(SheetContent, WhatIsFoundAgainAndAgainIsToldOnceTheWorstFirst) {
+    TriedProgram tried;
+    tried.findings.add(check::Kind::noList, 1);
+    for (const std::uint32_t line : {15U, 16U})
+        tried.findings.add(check::Kind::rapidDown, line, {"-1.00"});
+    tried.findings.add(check::Kind::heightLow, 0, {"Safe Height"});
+    QStringList told;
+    for (const SheetFinding& finding :
+         sheetContent(Job{}, dialectFor(targetKestra), tried, {}).findings)
+        told.append(finding.text.section(u':', 0, 0));
+    EXPECT_EQ(told.join(u'|').toStdString(), "Danger|Danger, line 15 and 1 more|Note, line 1");
 }
 
 // Everything that is painted below the lists' end or beside the page would be lost on paper.

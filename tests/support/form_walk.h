@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QTabBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -15,9 +16,8 @@
 
 namespace torvik {
 
-// Of what the form shows: no access key has two meanings, and every control that the Tab key goes
-// to has a name for the ear and an object name.
-inline void expectReachable(QWidget& form) {
+// Of what the form shows, no access key has two meanings.
+inline void expectKeysUnique(QWidget& form) {
     std::set<QChar> keys;
     const auto take = [&](QString text) {
         const qsizetype at = text.replace("&&", "  ").indexOf('&');
@@ -25,7 +25,7 @@ inline void expectReachable(QWidget& form) {
         EXPECT_TRUE(isNew) << text.toStdString();
     };
     for (QWidget* const control : form.findChildren<QWidget*>()) {
-        if (!control->isVisible() || control->objectName().startsWith("qt_"))
+        if (!control->isVisible())
             continue;
         if (const auto* const menus = qobject_cast<QMenuBar*>(control))
             for (const QAction* menu : menus->actions())
@@ -35,6 +35,18 @@ inline void expectReachable(QWidget& form) {
         const auto* const caption = qobject_cast<QLabel*>(control);
         if (caption != nullptr && caption->buddy() != nullptr)
             take(caption->text());
+        if (const auto* const tabs = qobject_cast<QTabBar*>(control))
+            for (int i = 0; i < tabs->count(); ++i)
+                take(tabs->tabText(i));
+    }
+}
+
+// The same, and every control that the Tab key goes to has a name for the ear and an object name.
+inline void expectReachable(QWidget& form) {
+    expectKeysUnique(form);
+    for (QWidget* const control : form.findChildren<QWidget*>()) {
+        if (!control->isVisible() || control->objectName().startsWith("qt_"))
+            continue;
         if ((control->focusPolicy() & Qt::TabFocus) == 0)
             continue;
         const std::string name = control->objectName().toStdString();

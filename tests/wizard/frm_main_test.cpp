@@ -3,6 +3,9 @@
 #include "tests/wizard/main_window_fixture.h"
 #include "tools/tool_edits.h"
 #include "tools/tool_store.h"
+#include "wizard/drawing_pictures.h"
+#include "wizard/drawing_tile.h"
+#include "wizard/recent_drawings.h"
 
 #include <QDragEnterEvent>
 #include <QMenu>
@@ -136,6 +139,7 @@ TEST_F(FrmMainTest, BackFromStepTwoKeepsAllAnswersForTheSameDrawingAlone) {
     for (const Then then : {Then::same, Then::changed, Then::otherFirst}) {
         window.reset();
         startDrawing();
+        messages.take(); // no, it does not go on where the row before stopped
         fillHeights();
         click("cmdNext");
         type("txtDet0", "4000");
@@ -196,6 +200,7 @@ TEST_F(FrmMainTest, WhatOfTheSavedAnswersIsNotUsedIsSaid) {
     workshop.tools.gudtTools[job.answers.gudtSettings[1].intTool].intNumber = 99;
     job.output.gblnUnsaved = false;
     window->ReadFile(drawing);
+    messages.take(); // no, without the answers of before
     go(3);
     EXPECT_EQ(label("lblToolNote"), "Tool T1 is no longer in the tool list");
 
@@ -207,6 +212,41 @@ TEST_F(FrmMainTest, WhatOfTheSavedAnswersIsNotUsedIsSaid) {
                     .starts_with("The saved answers are damaged and were not used: " +
                                  saved.string() + ", line "));
     job.output.gblnUnsaved = false;
+}
+
+TEST_F(FrmMainTest, TheStartPageShowsDrawingsThatAreThereAndOpensThem) {
+    std::filesystem::create_directory(folder.path() / "Sample files");
+    folder.file("Sample files/one.plt", threePens);
+    const auto recentOne = folder.file("a & b.plt", threePens);
+    const auto gone = folder.file("gone.plt", threePens);
+    const auto broken = folder.file("broken.plt", "SP9;PD10,10;");
+    for (const auto& name : {gone, recentOne, broken})
+        addRecentDrawing(name);
+    std::filesystem::remove(gone);
+    start();
+    const auto tiles = [this] { return window->findChildren<DrawingTile*>(); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tiles().size() == 2; }));
+    settle();
+    EXPECT_EQ(find<DrawingTile>("cmdRecent1").accessibleName(), "Open a & b.plt");
+    EXPECT_EQ(find<DrawingTile>("cmdSample1").accessibleName(), "Open one.plt");
+    EXPECT_EQ(focus(), "cmdStart");
+    find<DrawingTile>("cmdRecent1").setFocus();
+    key(Qt::Key_Return);
+    EXPECT_EQ(shown() + caption(),
+              "picGlobals Back -NextTorvik - importing from HPGL file " + recentOne.string());
+}
+
+TEST(DrawingPicture, HasTheLinesOfTheDrawingInItsPensColours) {
+    const TemporaryFolder folder;
+    // 10 mm by 10 mm: 32 pixels within the margins of 8, 8 more to the left of them.
+    const auto drawing = folder.file("square.plt", "SP2;PU0,0;PD400,0;PD400,400;PD0,400;PD0,0;");
+    const QImage picture = drawingPicture(drawing, {64, 48}, 2);
+    EXPECT_EQ(picture.size(), QSize(128, 96));
+    EXPECT_EQ(picture.pixelColor(64, 48), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(64, 16), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(64, 80), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(32, 48), QColor(Qt::red));
+    EXPECT_TRUE(drawingPicture(folder.path(), {64, 48}, 2).isNull());
 }
 
 TEST_F(FrmMainTest, TheStartPageLeadsBackToTheDrawingThatWasLeft) {
@@ -511,7 +551,7 @@ TEST_F(FrmMainTest, EveryPageIsWalkedThroughWithoutTheMouse) {
         {4, "", "picOrd1 picOrd2 picOrd3 cmdUp ", {}, ""},
         {5, "", "txtHead0 txtHead1 txtHead2 txtHead3 txtHead4 txtHead5 txtHead6 txtHead7 txtHead8 ",
          Qt::Key_M, "txtHead5"},
-        {6, "", "optOutput4 cmdLook cmdDriveA picCut ", Qt::Key_3, "optOutput3"},
+        {6, "", "optOutput4 cmdFinding cmdLook cmdDriveA picCut ", Qt::Key_3, "optOutput3"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.order);

@@ -2,6 +2,9 @@
 #include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
 #include "wizard/globals_page.h"
+#include "wizard/heights_diagram.h"
+
+#include <QLabel>
 
 namespace torvik {
 namespace {
@@ -43,6 +46,19 @@ TEST_F(GlobalsPageTest, HeightsAreStoredAsTypedAndShownAsWholeMillimetres) {
             EXPECT_EQ(box(i).text(), shown) << typed;
         }
     }
+}
+
+TEST_F(GlobalsPageTest, ThePictureAndTheHintFollowTheFocus) {
+    const auto& diagram = *page.findChild<HeightsDiagram*>("picHeights");
+    const auto& hint = *page.findChild<QLabel*>("lblHeightHint");
+    const char* const usual[] = {"Usual: 50 mm", "Usual: 5 mm", "Usual: 2 mm"};
+    for (const int i : {2, 0, 1}) {
+        box(i).setFocus();
+        EXPECT_EQ(diagram.marked(), static_cast<std::size_t>(i));
+        EXPECT_TRUE(hint.text().endsWith(usual[i])) << hint.text().toStdString();
+    }
+    unit(0).setFocus(); // the last height stays
+    EXPECT_EQ(diagram.marked(), 1U);
 }
 
 TEST_F(GlobalsPageTest, TheUnitDecidesFactorAndCaption) {

@@ -32,7 +32,7 @@ protected:
             text += row(i)->autoFillBackground() ? "[" + caption + "] " : caption + " ";
             EXPECT_EQ(caption,
                       job.answers.gudtPens[row(i)->property("Tag").toString().toInt()].strColour);
-            EXPECT_EQ(picture(i)->accessibleName(), row(i)->text());
+            EXPECT_EQ(picture(i)->accessibleName(), QString("%1: ").arg(i) + row(i)->text());
         }
         text += button("cmdUp").isEnabled() ? "up " : "";
         return text + (button("cmdDown").isEnabled() ? "down" : "");
@@ -112,6 +112,15 @@ TEST_F(OrderPageTest, RowsSayHowTheirPensAreMachinedAndALineTheToolChanges) {
                           "Tool changes: 3. With another order of the pens there would be only 2.");
     page.ColourReOrder(1);
     EXPECT_EQ(said(), holes + " – cut – T7 6.0 mm – 5.2 mm deep\n" + blue + "Tool changes: 2");
+}
+
+TEST_F(OrderPageTest, TheColoursKeepTheFocusWhileTheMousePressesTheButtons) {
+    show({1, 3, 4});
+    page.ShowOrder(1); // now that the window is active
+    EXPECT_TRUE(picture(1)->hasFocus());
+    click(&button("cmdDown"));
+    EXPECT_EQ(rows(), "Green [Black] Blue up down");
+    EXPECT_TRUE(picture(2)->hasFocus());
 }
 
 TEST_F(OrderPageTest, ASingleRowLeavesDownOpenAndGoesNowhere) {

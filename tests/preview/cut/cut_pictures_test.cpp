@@ -67,6 +67,26 @@ TEST_F(CutPicturesTest, ZoomingKeepsWhatLiesUnderThePointer) {
     EXPECT_TRUE(view.isWhole());
 }
 
+TEST_F(CutPicturesTest, TheWholeSolidIsSeenFromEverySideInAnyWindow) {
+    const SolidCells cells(work->whole(), work->billet());
+    for (const QSize size : {QSize(120, 200), QSize(200, 120)})
+        for (SolidCamera camera; camera.turn < 4.4; camera.turn += 0.35) {
+            QImage solid(size, QImage::Format_RGB32);
+            paintSolid(solid, cells, camera, 1);
+            const auto isEdge = [&](int x, int y) {
+                return x == 0 || y == 0 || x == size.width() - 1 || y == size.height() - 1;
+            };
+            int edge = 0;
+            int inner = 0;
+            for (int y = 0; y < size.height(); ++y)
+                for (int x = 0; x < size.width(); ++x)
+                    if (solid.pixel(x, y) != camera.background)
+                        ++(isEdge(x, y) ? edge : inner);
+            EXPECT_EQ(edge, 0) << camera.turn;
+            EXPECT_GT(inner, size.width() * size.height() / 8) << camera.turn;
+        }
+}
+
 TEST_F(CutPicturesTest, FromAboveTheSolidShowsSurfaceFloorsAndThroughTheHole) {
     const SolidCells cells(work->whole(), work->billet());
     SolidCamera camera;

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSlider>
+#include <QTabWidget>
 #include <QTest>
 
 namespace torvik {
@@ -83,6 +84,29 @@ TEST_F(FrmCutTest, ChoosingALineGoesThere) {
     EXPECT_EQ(depthAt(30, 30), 0);
 }
 
+// Hiding the picture hands the focus to the list, which must not choose a line then.
+TEST_F(FrmCutTest, TheOtherTabShowsTheSameMoment) {
+    EXPECT_EQ(lineShown(), 25) << "the last one";
+    canvas.setFocus();
+    dialog.findChild<QTabWidget*>()->setCurrentIndex(1);
+    EXPECT_EQ(slider.value(), slider.maximum());
+    EXPECT_EQ(depthAt(30, 30), 100);
+}
+
+TEST_F(FrmCutTest, ALineIsShownAsSoonAsThePieceIsThere) {
+    const auto early = std::make_shared<CutWork>(pieceOfProgram(badgeProgram));
+    FrmCut later(early);
+    later.setAttribute(Qt::WA_DontShowOnScreen);
+    later.show();
+    later.showLine(13);
+    auto& lines = *later.findChild<ProgramList*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lines.isEnabled(); }));
+    EXPECT_EQ(lines.currentIndex().row() + 1, 13);
+    EXPECT_EQ(later.focusWidget(), &lines);
+    const sweep::Field& field = early->moment();
+    EXPECT_EQ(field.depths[field.at(field.grid.columnAt(30), field.grid.rowAt(30))], 100);
+}
+
 TEST_F(FrmCutTest, TheSliderShowsTheCutAsItGrows) {
     EXPECT_EQ(slider.value(), slider.maximum());
     const auto slot = [](const check::Move& move) { return move.line == 13; };
@@ -116,6 +140,31 @@ TEST_F(FrmCutTest, KeysZoomAndMoveThePicture) {
     EXPECT_LT(pixelOf(30, 30).x(), before.x());
     QTest::keyClick(&canvas, Qt::Key_0);
     EXPECT_EQ(canvas.view().scale(), scale);
+}
+
+TEST(ProgramListTest, ALineFarDownIsBroughtIntoSight) {
+    std::string text;
+    for (int i = 0; i < 30'000; ++i)
+        text += "N1 G0 Z5.00\r\n";
+    ProgramList list;
+    list.setAttribute(Qt::WA_DontShowOnScreen);
+    list.setText(text);
+    list.show();
+    list.showLine(29'000);
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex())));
+    list.resize(300, 90);
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex())));
+}
+
+TEST(PlayBarTest, LongProgramsAreToldInHours) {
+    PlayBar bar;
+    const auto told = [&](double seconds) {
+        bar.setLength(seconds);
+        bar.goTo(65);
+        return bar.findChild<QLabel*>("lblPlayTime")->text().toStdString();
+    };
+    EXPECT_EQ(told(3599), "1:05 / 59:59");
+    EXPECT_EQ(told(68407), "1:05 / 19:00:07");
 }
 
 TEST(CutWorkTest, EndingItStopsTheSweep) {

@@ -56,7 +56,7 @@ TEST_F(ToolGridTest, EachHeaderKeepsItsDirection) {
 
 TEST_F(ToolGridTest, TheSelectedToolStaysSelectedAndInSight) {
     fill(drills(20));
-    grid.fitSize();
+    grid.fitSize({});
     open(grid);
     grid.selectRow(1);
     GridSort(grid, columnDiameter, logger);

@@ -6,6 +6,7 @@
 #include "tests/wizard/main_window_fixture.h"
 #include "wizard/output/drive_a.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
 
@@ -204,7 +205,10 @@ TEST_F(OutputTest, ALongProgramIsAskedAboutAndCanBeCancelled) {
 TEST_F(OutputTest, WhatIsDangerousIsShownAndNamedBeforeItIsWritten) {
     const auto found = [&] {
         EXPECT_TRUE(QTest::qWaitFor([&] { return find<QWidget>("cmdLook").isEnabled(); }));
-        return find<QWidget>("lblFindings").accessibleName().toStdString();
+        QString texts = find<QWidget>("lblFindings").accessibleName();
+        for (const QLabel* label : find<QWidget>("lstFindings").findChildren<QLabel*>())
+            texts += u'\n' + label->text();
+        return texts.toStdString();
     };
     EXPECT_TRUE(found().starts_with("Nothing dangerous or wrong is found in it."));
     Settings& settings = job.answers.gudtSettings[job.answers.gudtPens[1].intSettings];
@@ -233,6 +237,48 @@ TEST_F(OutputTest, WhatIsDangerousIsShownAndNamedBeforeItIsWritten) {
     answers.expect("frmMenu", DialogAnswers::cancel);
     click("cmdNext");
     EXPECT_TRUE(std::filesystem::exists(drive / "oprg1"));
+}
+
+TEST_F(OutputTest, AProgramThatMillsNothingSaysSo) {
+    for (Pen& pen : job.answers.gudtPens)
+        pen.blnOmit = true;
+    job.answers.gblnOrderSet = false;
+    click("cmdBack");
+    click("cmdBack");
+    EXPECT_EQ(find<QWidget>("lblQuietOrder").accessibleName().toStdString(),
+              "Every pen is left out, so nothing is milled.");
+    go(6);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find<QWidget>("lblFindings").isVisible(); }));
+    EXPECT_EQ(find<QWidget>("lblFindings").accessibleName().toStdString(),
+              "It mills nothing: every pen is left out.");
+}
+
+TEST_F(OutputTest, AFindingLeadsToItsLineInThePiece) {
+    job.answers.gsngRapidDownTo =
+        -1; // the quick way down to the second pass goes into the material
+    choose(2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find<QWidget>("cmdLook").isEnabled(); }));
+    auto& finding = find<QPushButton>("cmdFinding");
+    const int line =
+        finding.accessibleName().mid(5).section(u':', 0, 0).section(u' ', 0, 0).toInt();
+    ASSERT_GT(line, 1) << finding.accessibleName().toStdString();
+    EXPECT_EQ(finding.findChild<QLabel*>()->foregroundRole(), QPalette::WindowText);
+    const auto looked = [&](QDialog& dialog) {
+        auto& list = *dialog.findChild<QAbstractItemView*>("lstProgram");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return list.isEnabled(); }));
+        EXPECT_EQ(list.currentIndex().row() + 1, line);
+        EXPECT_EQ(dialog.focusWidget(), &list);
+        dialog.reject();
+    };
+    answers.expect("FrmCut", looked);
+    QTest::mouseClick(&finding, Qt::LeftButton);
+    settle();
+    answers.expect("FrmCut", looked);
+    finding.setFocus();
+    key(Qt::Key_Return);
+    find<QRadioButton>("optOutput2").setFocus();
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focus(), "cmdFinding") << "Tab leads to it from the controls";
 }
 
 TEST_F(OutputTest, TextsThatACommentCannotHoldAreNamedForTheTargetsConcerned) {

@@ -86,6 +86,7 @@ TEST_F(PenPageTest, CirclesAreDrilledSizeBySize) {
 
     page.ShowPen(1);
     EXPECT_EQ(label("lblDetTitle"), "Please give the details for the 5.0 mm diam. holes");
+    EXPECT_EQ(label("lblPenPlace"), "Pen 2 of 3, hole size 2 of 2");
     EXPECT_EQ(host.blinking, (std::vector<std::int16_t>{3}));
     EXPECT_EQ(state(), "- ");
     choose(0);

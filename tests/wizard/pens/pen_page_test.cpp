@@ -2,6 +2,7 @@
 // The settings of a pen page, driven through its controls.
 #include "forms/quiet_line.h"
 #include "tests/wizard/pens/pen_page_fixture.h"
+#include "wizard/pens/pen_diagram.h"
 
 #include <QScreen>
 
@@ -24,6 +25,18 @@ TEST_F(PenPageTest, UnitsFollowTheChoiceAndTheFormOfThePage) {
     EXPECT_EQ(option(0).text() + option(1).text(),
               "&Drill the Red holesDo NO&T drill the Red holes");
     EXPECT_EQ(option(1).property("helpContext").toInt(), 52);
+}
+
+TEST_F(PenPageTest, ThePictureFollowsTheFocus) {
+    open();
+    page.SetTool(1);
+    const auto& diagram = *static_cast<PenDiagram*>(page.findChild<QWidget*>("picCut"));
+    for (const std::size_t row : {rowDepth, rowPass, rowFeed}) {
+        box(static_cast<int>(row)).setFocus();
+        EXPECT_EQ(diagram.marked(), row);
+    }
+    option(0).setFocus();
+    EXPECT_FALSE(diagram.marked());
 }
 
 TEST_F(PenPageTest, TypingFillsTheRowsThatFollow) {
