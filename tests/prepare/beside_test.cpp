@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tool beside the line. Drawings are in plotter units of 1/40 mm, tools in mm.
 #include "base/errors.h"
-#include "prepare/arcs.h"
 #include "prepare/beside/crossings.h"
 #include "prepare/beside/pocket.h"
 #include "prepare/beside/run_values.h"
@@ -9,6 +8,7 @@
 #include "prepare/placing/inside_first.h"
 #include "prepare/prepare.h"
 #include "tests/prepare/stroke_text.h"
+#include "tests/prepare/swept.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -139,22 +139,6 @@ std::string drawn(const std::vector<Corners>& outlines) {
     return text;
 }
 
-// What the tool sweeps, with the arcs of the way as fine chords.
-Area swept(const PreparedDrawing& drawing, double radius) {
-    std::vector<Stroke> chords;
-    for (const Stroke& stroke : drawing.strokes) {
-        Stroke& line = chords.emplace_back(Stroke{1, stroke.start, {}});
-        Point start = stroke.start;
-        for (const Segment& segment : stroke.segments) {
-            for (int i = 1; i < 64 && isArc(segment); ++i)
-                line.segments.push_back(lineSegment(pointOnArc(start, segment, i / 64.0)));
-            line.segments.push_back(lineSegment(segment.end));
-            start = segment.end;
-        }
-    }
-    return Area::sweptAlong(chords, radius, 0.02);
-}
-
 TEST(Beside, TheToolNeverEntersThePartAndClearsThePocket) {
     std::mt19937 chance(7);
     constexpr double radius = 60; // a tool of 3 mm
@@ -164,14 +148,14 @@ TEST(Beside, TheToolNeverEntersThePartAndClearsThePocket) {
         const Area part = Area::enclosedBy(outlines);
         const Area core = part.grown(-allowed, 0.02);
         const auto outside = prepared(drawn(outlines), "1=outside:3");
-        EXPECT_LT(swept(outside, radius).within(core).size(), 1e-3) << i;
+        EXPECT_LT(swept(outside.strokes, radius).within(core).size(), 1e-3) << i;
         // All of the part's wall that the tool can reach is touched.
         const Area reached = part.grown(radius, 0.02).grown(-radius, 0.02);
         const Area skin = reached.grown(2 * allowed, 0.02).without(reached.grown(allowed, 0.02));
-        EXPECT_LT(skin.without(swept(outside, radius)).size(), skin.size() * 1e-3) << i;
+        EXPECT_LT(skin.without(swept(outside.strokes, radius)).size(), skin.size() * 1e-3) << i;
 
         const auto pocket = prepared(drawn(outlines), "1=pocket:3");
-        const Area cleared = swept(pocket, radius);
+        const Area cleared = swept(pocket.strokes, radius);
         EXPECT_LT(cleared.without(part.grown(allowed, 0.02)).size(), 1e-3) << i;
         const Area reachable = part.grown(-radius, 0.02).grown(radius, 0.02);
         EXPECT_LT(reachable.without(cleared).size(), reachable.size() * 1e-3) << i;
