@@ -110,4 +110,5 @@ def main():
           + ', '.join(f'{name} {count}' for name, count in made.items()) + ')')
 
 
-main()
+if __name__ == '__main__':
+    main()

@@ -6,6 +6,7 @@ import re
 import select
 import shutil
 import subprocess
+import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
@@ -53,8 +54,12 @@ class Place:
         (self.folder / 'run').mkdir(mode=0o700)
 
     def put(self, files):
-        shutil.rmtree(self.disk, ignore_errors=True)
-        self.disk.mkdir()
+        self.disk.mkdir(exist_ok=True)
+        for path in self.disk.iterdir():
+            if path.is_dir():
+                shutil.rmtree(path)
+            else:
+                path.unlink()
         for name, content in files.items():
             (self.disk / name).parent.mkdir(parents=True, exist_ok=True)
             (self.disk / name).write_bytes(content)
@@ -82,6 +87,7 @@ class ConsoleSave:
 
     def __init__(self, name, program, arguments, old, durable=False):
         self.name, self.program, self.arguments = name, program, arguments
+        self.word = re.sub('[^a-z]+', '-', name)
         self.old = {file: plain(file, content) for file, content in old.items()}
         self.durable = durable
 
@@ -89,9 +95,10 @@ class ConsoleSave:
         return [str(place.build / 'bin' / self.program)] + [
             argument.replace('DISK', str(place.disk)) for argument in self.arguments]
 
-    def save(self, place, order):
-        """Exit code and what was told."""
+    def save(self, place, order, before=lambda: None):
+        """Exit code and what was told; `before` is done when the old files are there."""
         place.put(self.old)
+        before()
         place.log.unlink(missing_ok=True)
         environment = {**place.with_faults(), 'TORVIK_FAULT': f'{order} {place.disk}'}
         code, _, told = place.run(self.command(place), environment)
@@ -110,6 +117,7 @@ class DesktopSave:
     def __init__(self, name, save, variables, old):
         self.name, self.word, self.variables, self.old = name, save, variables, old
         self.running = {}
+        self.seconds = 0  # that the last save took
 
     def process(self, place):
         running = self.running.get(place)
@@ -135,13 +143,16 @@ class DesktopSave:
         if self.ask(place, 'prepare') != 'ready\n':
             raise Fault(f'{self.name}: not prepared: ' + (place.folder / 'said').read_text())
 
-    def save(self, place, order, files=None):
+    def save(self, place, order, before=lambda: None):
         """0 where the user takes it for saved, else 1 (the exit code of a process that ended), and
-        what was told."""
+        what was told; `before` is done when all is ready and the old files are there."""
         self.prepare(place)
-        place.put(self.old if files is None else files)
+        place.put(self.old)
+        before()
         place.log.unlink(missing_ok=True)
+        began = time.monotonic()
         answer = self.ask(place, f'{order} {place.disk}')
+        self.seconds = time.monotonic() - began
         if not answer:
             code = self.running.pop(place).wait()
             return code, (place.folder / 'said').read_text()

@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 
 // A save holds its lock for milliseconds.
-constexpr auto longestWait = 1800ms;
+constexpr auto longestWait = 1600ms;
 constexpr unsigned long pollMilliseconds = 20;
 
 } // namespace

@@ -15,7 +15,7 @@ namespace torvik {
 // The name of the lock that QSettings takes for a file, and the age at which it is left over for
 // sure.
 QString settingsLockName(const QString& settingsFile);
-inline constexpr std::chrono::milliseconds settingsStaleAge{1500};
+inline constexpr std::chrono::milliseconds settingsStaleAge{1200};
 
 // For all waits of one save together.
 QDeadlineTimer settingsDeadline();
