@@ -61,7 +61,7 @@ void UnfinishedFile::begin(const std::optional<Unfinished>& found) {
     *this = {};
     if (found) {
         m_file = found->file;
-        m_kept = found->bytes;
+        m_kept = m_tried = found->bytes;
     }
 }
 
@@ -74,15 +74,19 @@ void UnfinishedFile::keep(const Job& job, const ToolList& tools, const WizardPla
     if (job.answers.gstrSavedFile.empty())
         return;
     std::string answers = answersText(job, tools);
-    if (m_kept.empty() && answers == m_settled)
+    if (m_kept.empty() && answers == m_settled) {
+        m_tried.clear();
         return;
+    }
     std::string bytes = formatUnfinished({place, std::move(boxes), std::move(answers)});
     std::error_code unknown;
     if (!m_kept.empty() && !std::filesystem::exists(m_file, unknown))
         forgetBytes(); // another copy has removed it
-    if (bytes == m_kept || bytes == m_tried)
+    if (bytes == m_tried)
         return;
     m_tried = bytes;
+    if (bytes == m_kept)
+        return;
     m_file = fileOf(job);
     makeFolder(m_file.parent_path());
     saveWhole(m_file, bytes);

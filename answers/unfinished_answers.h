@@ -44,6 +44,8 @@ public:
               std::vector<std::string> boxes);
     // The file goes, unless another copy of the program has written it since. Raises FileError.
     void forget();
+    // Whether what was last to be kept is not what the file holds.
+    bool isUnkept() const { return m_tried != m_kept; }
 
 private:
     std::string forgetBytes(); // those that were kept

@@ -25,10 +25,9 @@ public:
 
     // Takes the lock until this object ends; makes the file where it is missing. Never waits.
     Result tryLock(const std::filesystem::path& file);
-
-private:
     void release();
 
+private:
 #ifdef _WIN32
     void* m_file = nullptr;
 #else

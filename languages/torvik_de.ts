@@ -2006,6 +2006,10 @@ Er bleibt nur gemerkt, bis Torvik endet.</translation>
 %1</translation>
     </message>
     <message>
+        <source>The language could not be saved in %1, so it is at the next start what it was until now.</source>
+        <translation>Die Sprache konnte nicht in %1 gespeichert werden. Beim nächsten Start bleibt sie so, wie sie bisher war.</translation>
+    </message>
+    <message>
         <source>The line does not end with carriage return and line feed, or a control character stands in it.</source>
         <translation>Die Zeile endet nicht mit Wagenrücklauf und Zeilenvorschub, oder ein Steuerzeichen steht darin.</translation>
     </message>
@@ -2720,6 +2724,10 @@ Bitte ändern Sie Ihre Auswahl</translation>
 Are you sure you want to use this tool?</source>
         <translation>Sie haben ein Werkzeug mit %1 mm Durchmesser gewählt, um einen Kreis mit %2 mm Durchmesser zu bohren.
 Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
+    </message>
+    <message>
+        <source>Your answers could not be kept in %1: they last until Torvik ends</source>
+        <translation>Ihre Angaben konnten nicht in %1 festgehalten werden: Sie gelten, bis Torvik endet</translation>
     </message>
     <message>
         <source>Zero point</source>

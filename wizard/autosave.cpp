@@ -67,6 +67,7 @@ void Autosave::saveNow() {
         quietly([&] {
             m_file.keep(typedJob(), m_workshop.tools, placeOf(m_workshop.job), typedTexts());
         });
+    emit unkept(m_file.isUnkept());
 }
 
 void Autosave::saveSoon() {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Keeps what was answered, and what stands in the boxes of the page on show, at each step and a
 // moment after each change, until a program is written; and offers it when the same drawing is
-// opened again. Where it cannot be kept, this is logged once for a drawing, and nobody is stopped.
+// opened again. Where it cannot be kept, this is said until it can, and logged once for a drawing;
+// nobody is stopped.
 #pragma once
 
 #include "answers/unfinished_answers.h"
@@ -37,6 +38,10 @@ public:
     void start() { m_timer.start(); }
     // The answers are among the saved ones now.
     void programWritten();
+
+signals:
+    // After each try: whether what there is now could not be kept.
+    void unkept(bool isUnkept);
 
 private:
     bool wantsToGoOn(const Unfinished& found);

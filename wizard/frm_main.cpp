@@ -122,10 +122,11 @@ FrmMain::FrmMain(Workshop& workshop, FrameServices services)
     setWindowTitle(QString::fromUtf8(usualTitle));
     setAcceptDrops(true);
     buildWindow();
-    new MainMenu(*this, *m_controls.tree);
+    new MainMenu(*this, *m_controls.tree, m_workshop.messages);
     connect(&m_driver, &WizardDriver::drawingWanted, this, [this] { ReadFile(); });
     connect(&m_driver, &WizardDriver::drawingLeft, m_skipped, [this] { m_skipped->show(0); });
     connect(&m_driver, &WizardDriver::toolsUnsaved, m_lines, &StatusLines::showToolsUnsaved);
+    connect(&m_driver, &WizardDriver::answersUnkept, m_lines, &StatusLines::showAnswersUnkept);
     connect(&m_driver, &WizardDriver::drawingContinued, m_skipped,
             [this] { m_skipped->show(m_workshop.job.drawing.reading.lost); });
     connect(&m_driver, &WizardDriver::endWanted, this, &FrmMain::end);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/language_menu.h"
 
+#include "base/std_message_box.h"
 #include "languages/language.h"
 #include "wizard/output/own_settings.h"
 
@@ -9,8 +10,15 @@
 #include <QMenu>
 
 namespace torvik {
+namespace {
 
-void addLanguages(QMenu& menu) {
+QString words(const char* text) {
+    return QCoreApplication::translate("LanguageMenu", text);
+}
+
+} // namespace
+
+void addLanguages(QMenu& menu, StdMessageBox& messages) {
     struct Choice {
         const char* name;
         QString language;
@@ -18,8 +26,7 @@ void addLanguages(QMenu& menu) {
     };
     // A language is written as those write it who speak it.
     const Choice choices[] = {
-        {"mnuLanguageSystem", QString(),
-         QCoreApplication::translate("LanguageMenu", "That of the &system")},
+        {"mnuLanguageSystem", QString(), words("That of the &system")},
         {"mnuLanguageEnglish", QStringLiteral("en"), QStringLiteral("&English")},
         {"mnuLanguageGerman", QStringLiteral("de"), QStringLiteral("&Deutsch")},
     };
@@ -28,11 +35,27 @@ void addLanguages(QMenu& menu) {
     for (const Choice& choice : choices) {
         QAction* const action = group->addAction(menu.addAction(choice.caption));
         action->setObjectName(QLatin1String(choice.name));
+        action->setData(choice.language);
         action->setCheckable(true);
         action->setChecked(choice.language == kept);
-        QObject::connect(action, &QAction::triggered, &menu,
-                         [language = choice.language] { saveOwnSetting(languageKey, language); });
     }
+    QObject::connect(
+        group, &QActionGroup::triggered, &menu,
+        [&messages, group, saved = group->checkedAction()](QAction* chosen) mutable {
+            if (saveOwnSetting(languageKey, chosen->data())) {
+                saved = chosen;
+                return;
+            }
+            chosen->setChecked(false);
+            if (saved != nullptr)
+                saved->setChecked(true);
+            messages.intStdMsgBox(
+                words("The language could not be saved in %1, so it is at the next start what it "
+                      "was until now.")
+                    .arg(ownSettings()->fileName())
+                    .toStdString(),
+                styleExclamation, usualTitle);
+        });
 }
 
 } // namespace torvik

@@ -6,7 +6,10 @@ class QMenu;
 
 namespace torvik {
 
+class StdMessageBox;
+
 // Adds the languages to the menu; the chosen one is kept in the program's own settings.
-void addLanguages(QMenu& menu);
+// A choice that cannot be saved is told and taken back.
+void addLanguages(QMenu& menu, StdMessageBox& messages);
 
 } // namespace torvik

@@ -12,10 +12,10 @@
 
 namespace torvik {
 
-MainMenu::MainMenu(FrmMain& window, QWidget& tree)
+MainMenu::MainMenu(FrmMain& window, QWidget& tree, StdMessageBox& messages)
     : QObject(&window), m_window(window), m_bar(*window.menuBar()) {
     buildFile();
-    buildView(tree);
+    buildView(tree, messages);
     buildHelp();
 }
 
@@ -51,7 +51,7 @@ void MainMenu::buildFile() {
     exit->setObjectName(QStringLiteral("mnuFileExit"));
 }
 
-void MainMenu::buildView(QWidget& tree) {
+void MainMenu::buildView(QWidget& tree, StdMessageBox& messages) {
     QMenu* const view = m_bar.addMenu(tr("&View"));
     view->setObjectName(QStringLiteral("mnuView"));
     QAction* const pens = view->addAction(tr("&Pens of the drawing"), &tree, &QWidget::setVisible);
@@ -66,7 +66,7 @@ void MainMenu::buildView(QWidget& tree) {
     whole->setCheckable(true);
     QMenu* const languages = view->addMenu(tr("&Language (from the next start)"));
     languages->setObjectName(QStringLiteral("mnuLanguage"));
-    addLanguages(*languages);
+    addLanguages(*languages, messages);
 }
 
 void MainMenu::buildHelp() {

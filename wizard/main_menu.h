@@ -11,17 +11,18 @@ class QWidget;
 namespace torvik {
 
 class FrmMain;
+class StdMessageBox;
 
 class MainMenu : public QObject {
     Q_OBJECT
 
 public:
     // Fills the window's menu bar; View shows and hides the tree.
-    MainMenu(FrmMain& window, QWidget& tree);
+    MainMenu(FrmMain& window, QWidget& tree, StdMessageBox& messages);
 
 private:
     void buildFile();
-    void buildView(QWidget& tree);
+    void buildView(QWidget& tree, StdMessageBox& messages);
     void buildHelp();
     void fillRecent();
 

@@ -19,13 +19,18 @@ public:
     void addLine(QWidget& line);
     // The line that says that the workshop's tools could not be saved.
     void showToolsUnsaved(bool unsaved);
+    // The line that says that the answers would not survive the program's end.
+    void showAnswersUnkept(bool unkept);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QLabel* addText(const QString& name);
+
     QStatusBar& m_bar;
     QLabel* m_toolsUnsaved;
+    QLabel* m_answersUnkept;
 };
 
 } // namespace torvik

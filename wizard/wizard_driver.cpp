@@ -29,6 +29,7 @@ WizardDriver::WizardDriver(Workshop& workshop, const MainControls& controls, QWi
     : m_workshop(workshop), m_controls(controls), m_window(window), m_autosave(workshop, controls) {
     setParent(&window);
     m_autosave.setParent(this);
+    connect(&m_autosave, &Autosave::unkept, this, &WizardDriver::answersUnkept);
     m_flash.setParent(this);
     m_toolSelect.setParent(this);
     m_flash.setObjectName(QStringLiteral("tmrFlash"));

@@ -62,6 +62,8 @@ signals:
     void drawingLeft();
     // Whether the tools of the workshop, or their types, could not be saved.
     void toolsUnsaved(bool unsaved);
+    // Whether the answers of the drawing could not be kept for a later start.
+    void answersUnkept(bool unkept);
     // What is said of the drawing holds again.
     void drawingContinued();
     // The user ends the program after a program was written.

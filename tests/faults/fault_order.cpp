@@ -16,15 +16,16 @@ namespace {
 
 constexpr std::array callNames{"open",  "write", "sync",   "rename", "link",
                                "close", "stat",  "remove", "any"};
-constexpr std::array<std::pair<const char*, int>, 9> errors{{{"usual", usualFailure},
-                                                             {"EIO", EIO},
-                                                             {"ENOSPC", ENOSPC},
-                                                             {"EACCES", EACCES},
-                                                             {"EINTR", EINTR},
-                                                             {"EROFS", EROFS},
-                                                             {"EDQUOT", EDQUOT},
-                                                             {"half", halfWritten},
-                                                             {"kill", killed}}};
+constexpr std::array<std::pair<const char*, int>, 10> errors{{{"usual", usualFailure},
+                                                              {"EIO", EIO},
+                                                              {"ENOSPC", ENOSPC},
+                                                              {"EACCES", EACCES},
+                                                              {"EINTR", EINTR},
+                                                              {"EROFS", EROFS},
+                                                              {"EDQUOT", EDQUOT},
+                                                              {"EBUSY", EBUSY},
+                                                              {"half", halfWritten},
+                                                              {"kill", killed}}};
 int logFile = -1;
 
 } // namespace
@@ -46,6 +47,8 @@ bool torvikTakeOrder(const char* order) {
     fault = {folder.c_str(),  static_cast<Call>(isCall - callNames.begin()),
              fault.k,         howOften == "ever",
              disk == "plain", isError->second};
+    if (logFile >= 0)
+        syscall(SYS_close, logFile);
     if (const char* const name = std::getenv("TORVIK_FAULT_LOG"))
         logFile = static_cast<int>(
             syscall(SYS_open, name, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644));

@@ -65,5 +65,19 @@ TEST_F(LanguageMenu, KeepsTheChoiceForTheNextStart) {
     EXPECT_EQ(ownSettings()->value(languageKey).toString(), "");
 }
 
+TEST_F(LanguageMenu, TakesAChoiceBackThatCannotBeSaved) {
+    const std::filesystem::path file = ownSettings()->fileName().toStdString();
+    std::filesystem::create_directories(file); // a folder takes its name
+    start();
+    const auto action = [&](const char* name) { return window->findChild<QAction*>(name); };
+    action("mnuLanguageGerman")->trigger();
+    EXPECT_TRUE(messages.take().starts_with("Torvik|48|The language could not be saved in " +
+                                            file.string()));
+    EXPECT_TRUE(action("mnuLanguageSystem")->isChecked());
+    std::filesystem::remove(file);
+    action("mnuLanguageEnglish")->trigger();
+    EXPECT_EQ(ownSettings()->value(languageKey).toString(), "en");
+}
+
 } // namespace
 } // namespace torvik

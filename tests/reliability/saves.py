@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""The saves of the console programs, each in folders of its own, and what counts as whole."""
+"""The saves of the programs, each in folders of its own, and what counts as whole."""
 
 import os
 import re
+import select
 import shutil
 import subprocess
+import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
@@ -52,17 +54,19 @@ class Place:
         (self.folder / 'run').mkdir(mode=0o700)
 
     def put(self, files):
-        shutil.rmtree(self.disk, ignore_errors=True)
-        self.disk.mkdir()
+        self.disk.mkdir(exist_ok=True)
+        for path in self.disk.iterdir():
+            if path.is_dir():
+                shutil.rmtree(path)
+            else:
+                path.unlink()
         for name, content in files.items():
             (self.disk / name).parent.mkdir(parents=True, exist_ok=True)
             (self.disk / name).write_bytes(content)
 
-    def with_order(self, order):
-        self.log.unlink(missing_ok=True)
+    def with_faults(self):
         shim = self.build / 'tests/faults/libfault_shim.so'
-        return {**self.environment, 'LD_PRELOAD': str(shim), 'TORVIK_FAULT_LOG': str(self.log),
-                'TORVIK_FAULT': f'{order} {self.disk}'}
+        return {**self.environment, 'LD_PRELOAD': str(shim), 'TORVIK_FAULT_LOG': str(self.log)}
 
     def calls(self):
         return self.log.read_text().splitlines() if self.log.exists() else []
@@ -83,6 +87,7 @@ class ConsoleSave:
 
     def __init__(self, name, program, arguments, old, durable=False):
         self.name, self.program, self.arguments = name, program, arguments
+        self.word = re.sub('[^a-z]+', '-', name)
         self.old = {file: plain(file, content) for file, content in old.items()}
         self.durable = durable
 
@@ -90,11 +95,74 @@ class ConsoleSave:
         return [str(place.build / 'bin' / self.program)] + [
             argument.replace('DISK', str(place.disk)) for argument in self.arguments]
 
-    def save(self, place, order):
-        """Exit code and what was told."""
+    def save(self, place, order, before=lambda: None):
+        """Exit code and what was told; `before` is done when the old files are there."""
         place.put(self.old)
-        code, _, told = place.run(self.command(place), place.with_order(order))
+        before()
+        place.log.unlink(missing_ok=True)
+        environment = {**place.with_faults(), 'TORVIK_FAULT': f'{order} {place.disk}'}
+        code, _, told = place.run(self.command(place), environment)
         return code, told
+
+    def end(self):
+        pass
+
+
+class DesktopSave:
+    """A save in the windows of the desktop program: a process for each place does one after the
+    other. The variables name the folders that are on the disk."""
+
+    durable = False
+
+    def __init__(self, name, save, variables, old):
+        self.name, self.word, self.variables, self.old = name, save, variables, old
+        self.running = {}
+        self.seconds = 0  # that the last save took
+
+    def process(self, place):
+        running = self.running.get(place)
+        if running is None or running.poll() is not None:
+            place.put(self.old)
+            disk = {name: str(place.disk) for name in self.variables}
+            running = self.running[place] = subprocess.Popen(
+                [place.build / 'tests/reliability/desktop_saves', self.word, SAMPLES, place.folder],
+                env={**place.with_faults(), **disk}, text=True, bufsize=1, stdin=subprocess.PIPE,
+                stdout=subprocess.PIPE, stderr=(place.folder / 'said').open('w'))
+        return running
+
+    def ask(self, place, line, seconds=20):
+        """The answer; empty where the process has ended."""
+        running = self.process(place)
+        running.stdin.write(line + '\n')
+        if not select.select([running.stdout], [], [], seconds)[0]:
+            running.kill()
+            raise Fault(f'{self.name}: {line}: no end after {seconds} s')
+        return running.stdout.readline()
+
+    def prepare(self, place):
+        if self.ask(place, 'prepare') != 'ready\n':
+            raise Fault(f'{self.name}: not prepared: ' + (place.folder / 'said').read_text())
+
+    def save(self, place, order, before=lambda: None):
+        """0 where the user takes it for saved, else 1 (the exit code of a process that ended), and
+        what was told; `before` is done when all is ready and the old files are there."""
+        self.prepare(place)
+        place.put(self.old)
+        before()
+        place.log.unlink(missing_ok=True)
+        began = time.monotonic()
+        answer = self.ask(place, f'{order} {place.disk}')
+        self.seconds = time.monotonic() - began
+        if not answer:
+            code = self.running.pop(place).wait()
+            return code, (place.folder / 'said').read_text()
+        return int(answer[0]), answer[1:]
+
+    def end(self):
+        for running in self.running.values():
+            running.stdin.close()
+            running.wait(20)
+        self.running.clear()
 
 
 def sample(name):
@@ -105,6 +173,20 @@ JOB = [sample('bracket.plt'), '--answers', sample('bracket.plx'), '--tools', sam
 CONVERT = JOB + ['--target', 'winnc', '--number', '1', '--output-dir', 'DISK', '--force', '--quiet']
 PREPARE = [sample('prepare/badge.hpgl'), '--output', 'DISK/badge.plt', '--quiet']
 PROGRAM = {'oprg1': b'old', 'oprg1.txt': b'old text'}
+
+TOOLS = (SAMPLES / 'Maskor.ini').read_bytes().replace(
+    b'ToolCount=8\n', b'ToolCount=9\nTool09=9|Drill|9.000|0.000\n')
+ANSWERS = (SAMPLES / 'bracket.plx').read_bytes()
+DESKTOP_SAVES = [
+    DesktopSave('answers', 'answers', ['TORVIK_HOME'],
+                {'PlotSave/bracket.plx': ANSWERS.replace(b'50,5,2,3,1', b'40,5,2,3,1')}),
+    DesktopSave('unfinished answers', 'unfinished', ['TORVIK_HOME'],
+                {'PlotSave/bracket.plx': ANSWERS, 'PlotSave/bracket.plx.unfinished': b'old'}),
+    DesktopSave('tools', 'tools', ['XDG_CONFIG_HOME'], {'Baltrum/Maskor.ini': TOOLS}),
+    DesktopSave('own settings', 'settings', ['XDG_CONFIG_HOME'],
+                {'Torvik/Torvik.ini': b'[General]\nLanguage=en\nOutputTarget=2\n'}),
+    DesktopSave('program from the window', 'program', [], PROGRAM),
+]
 
 CONSOLE_SAVES = [
     ConsoleSave('program', 'torvik-convert', CONVERT, PROGRAM),

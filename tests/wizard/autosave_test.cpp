@@ -264,9 +264,13 @@ TEST_F(AutosaveTest, WhereNothingCanBeKeptThisIsLoggedOnceAndNobodyIsStopped) {
     for (const char* button : {"cmdNext", "cmdBack", "cmdNext"})
         click(button);
     EXPECT_EQ(shown(), "picDetails Back -Next");
+    EXPECT_TRUE(label("lblAnswersUnkept").starts_with("Your answers could not be kept in "));
     const std::string text = readWholeFile(log, 1 << 20);
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
     EXPECT_NE(text.find("Autosave"), std::string::npos);
+    std::filesystem::remove(folder.path() / "PlotSave");
+    click("cmdBack");
+    EXPECT_FALSE(find<QLabel>("lblAnswersUnkept").isVisible());
     job.output.gblnUnsaved = false;
 }
 

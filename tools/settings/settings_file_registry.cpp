@@ -25,7 +25,8 @@ QString toQt(const std::filesystem::path& path) {
 } // namespace
 
 SettingsFileRegistry::SettingsFileRegistry(std::filesystem::path file)
-    : m_file(std::move(file)), m_batchLock(toQt(m_file) + QStringLiteral(".batch.lock")) {
+    : m_file(std::move(file)), m_turn(toQt(m_file)),
+      m_batchLock(toQt(m_file) + QStringLiteral(".batch.lock")) {
     m_batchLock.setStaleLockTime(staleBatchAge);
 }
 
@@ -73,7 +74,20 @@ bool SettingsFileRegistry::store(const Values& values) {
     } catch (const FileError&) {
         return false;
     }
-    if (!isSettingsLockFree(toQt(m_file)))
+    if (m_inBatch)
+        return storeInTurn(values);
+    const bool stored = takeTurn() && storeInTurn(values);
+    m_turn.end();
+    return stored;
+}
+
+bool SettingsFileRegistry::takeTurn() {
+    m_deadline = settingsDeadline();
+    return m_turn.take(m_deadline);
+}
+
+bool SettingsFileRegistry::storeInTurn(const Values& values) const {
+    if (!isSettingsLockFree(toQt(m_file), m_deadline))
         return false;
     const StopWaits untilItIsSaved;
     return saveSettings(toQt(m_file), values);
@@ -82,7 +96,7 @@ bool SettingsFileRegistry::store(const Values& values) {
 bool SettingsFileRegistry::lock() {
     try {
         makeFolder(m_file.parent_path());
-        if (!takeSettingsLock(m_batchLock))
+        if (!takeTurn() || !takeSettingsLock(m_batchLock, m_deadline))
             return false;
         read();
         m_inBatch = true;
@@ -95,6 +109,7 @@ bool SettingsFileRegistry::lock() {
 void SettingsFileRegistry::unlock() {
     m_inBatch = false;
     m_batchLock.unlock();
+    m_turn.end();
 }
 
 } // namespace torvik

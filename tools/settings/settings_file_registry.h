@@ -7,7 +7,9 @@
 #pragma once
 
 #include "tools/registry.h"
+#include "tools/settings/settings_turn.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QLockFile>
 
 #include <filesystem>
@@ -37,9 +39,13 @@ private:
 
     Stamp stamp() const;
     void read() const;
+    bool takeTurn();
+    bool storeInTurn(const Values& values) const;
 
     std::filesystem::path m_file;
+    SettingsTurn m_turn;
     QLockFile m_batchLock;
+    QDeadlineTimer m_deadline; // of the turn
     bool m_inBatch = false;
     mutable std::optional<IniText> m_text;
     mutable Stamp m_stamp; // of m_text

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tools/settings/settings_lock.h"
 
-#include <QtCore/QDeadlineTimer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QThread>
-
-#include <chrono>
 
 namespace torvik {
 namespace {
@@ -13,14 +10,20 @@ namespace {
 using namespace std::chrono_literals;
 
 // A save holds its lock for milliseconds.
-constexpr auto longestWait = 2000ms;
-constexpr auto staleAge = 1500ms;
+constexpr auto longestWait = 1600ms;
 constexpr unsigned long pollMilliseconds = 20;
 
 } // namespace
 
-bool takeSettingsLock(QLockFile& lock) {
-    const QDeadlineTimer deadline(longestWait);
+QString settingsLockName(const QString& settingsFile) {
+    return settingsFile + QStringLiteral(".lock");
+}
+
+QDeadlineTimer settingsDeadline() {
+    return QDeadlineTimer(longestWait);
+}
+
+bool takeSettingsLock(QLockFile& lock, const QDeadlineTimer& deadline) {
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
             return false;
@@ -29,16 +32,15 @@ bool takeSettingsLock(QLockFile& lock) {
     return true;
 }
 
-bool isSettingsLockFree(const QString& settingsFile) {
-    const QString name = settingsFile + QStringLiteral(".lock"); // as QSettings names its own
+bool isSettingsLockFree(const QString& settingsFile, const QDeadlineTimer& deadline) {
+    const QString name = settingsLockName(settingsFile);
     {
         QLockFile lock(name);
-        lock.setStaleLockTime(staleAge);
-        if (!takeSettingsLock(lock))
+        lock.setStaleLockTime(settingsStaleAge);
+        if (!takeSettingsLock(lock, deadline))
             return false;
     }
     // What still is there belongs to another save, which ends soon, or can never be removed.
-    const QDeadlineTimer deadline(longestWait);
     while (QFileInfo::exists(name)) {
         if (deadline.hasExpired())
             return false;

@@ -13,7 +13,8 @@ namespace torvik {
 
 // To read from.
 std::unique_ptr<QSettings> ownSettings();
-// Leaves the settings as they are where they cannot be saved, after two seconds at most.
-void saveOwnSetting(const QString& key, const QVariant& value);
+// False where the settings cannot be saved and stay as they are, after two seconds at most. The
+// caller tells the user where something is lost by it, and not where it is a mere convenience.
+bool saveOwnSetting(const QString& key, const QVariant& value);
 
 } // namespace torvik
