@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Memory for long arrays in the system's large pages, where it has them: to touch half a million
-// small pages for the first time takes longer than to fill them.
+// Memory in the system's large pages, where it has them: to touch half a million small pages for
+// the first time takes longer than to fill them.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,11 @@
 
 namespace torvik {
 
-// Bytes that begin at a page's border. Raises std::bad_alloc.
+// For a program that ends when its work is done, before it begins: whatever it takes from now on
+// comes in large pages, and what is given back is used again instead of going to the system.
+void takeHeapInLargePages();
+
+// For long arrays: bytes that begin at a page's border. Raises std::bad_alloc.
 void* allocateLargePages(std::size_t bytes);
 void freeLargePages(void* memory, std::size_t bytes);
 

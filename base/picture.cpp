@@ -113,6 +113,8 @@ char* putFixed(char* out, double value, int decimals) {
 }
 
 char* putInteger(char* out, long value) {
+    if (value >= 0)
+        return putWhole(out, static_cast<std::uint64_t>(value));
     return std::to_chars(out, out + 21, value).ptr;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // torvik-bench-program DRAWING ANSWERS TOOLS FILE: writes the Maskor program of a drawing as
 // torvik-convert does, but without checking it.
+#include "base/large_pages.h"
 #include "commands/drawing_run.h"
 #include "commands/job/job_reader.h"
 #include "commands/target_names.h"
@@ -34,6 +35,7 @@ void write(char** names) {
 } // namespace torvik
 
 int main(int argc, char** argv) {
+    torvik::takeHeapInLargePages();
     if (argc == 5)
         return torvik::runEach(
             {argv[1]}, [&](std::size_t) { torvik::write(argv); }, torvik::say);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/large_pages.h"
 #include "base/library_places.h"
 #include "base/stop_signals.h"
 #include "convert/converter.h"
@@ -7,6 +8,7 @@
 
 int main(int argc, char** argv) {
     torvik::loadOnlyOwnLibraries();
+    torvik::takeHeapInLargePages();
     torvik::tidyUpWhenStopped();
     return torvik::runConverter({argv, argv + argc}, std::cout, std::cerr);
 }

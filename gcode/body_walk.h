@@ -162,7 +162,7 @@ private:
         }
     }
 
-    void cutPass(const Words& words, float z, float feedDown) {
+    void cutPass(Words& words, float z, float feedDown) {
         const auto& runs = words.runs();
         for (const auto& run : runs) {
             const Path& first = m_job.drawing.gudtPaths[run.firstPath];

@@ -2,6 +2,7 @@
 #include "gcode/cut_words.h"
 
 #include "base/numbers.h"
+#include "gcode/program_output.h"
 #include "gcode/statement_text.h"
 
 #include <utility>
@@ -39,31 +40,19 @@ CutWords::CutWords(const Drawing& drawing, const PathSubscripts& paths, const Di
                    float feed)
     : m_tail(tailOf(dialect, feed)) {
     constexpr std::size_t usualBytes = 32; // of "G1 X123.456 Y123.456 F600" and some arcs
-    m_starts.reserve(paths.size() + 1);
-    m_text.reserve(paths.size() * usualBytes);
-    m_starts.push_back(0);
+    m_lines.reserve(paths.size(), usualBytes);
     visitCuts(drawing, paths, [&](std::int16_t subscript, bool connected) {
-        m_text.append(coordinates(drawing.gudtPaths[subscript]).text()).append(m_tail);
-        m_starts.push_back(static_cast<std::uint32_t>(m_text.size()));
+        m_lines.append(coordinates(drawing.gudtPaths[subscript]).text(), m_tail);
         addCut(m_runs, subscript, connected);
     });
-    m_text.append(PaddedLine::padding, '\0');
 }
 
 void CutWords::changeFeed(const Dialect& dialect, float feed) {
-    const std::string tail = tailOf(dialect, feed);
+    std::string tail = tailOf(dialect, feed);
     if (tail == m_tail)
         return;
-    const std::string former = std::exchange(m_text, {});
-    m_text.reserve(former.size() + m_starts.size() * tail.size());
-    std::uint32_t start = 0; // of a line in the former text
-    for (auto next = m_starts.begin() + 1; next != m_starts.end(); ++next) {
-        const std::size_t words = *next - start - m_tail.size();
-        m_text.append(former, start, words).append(tail);
-        start = std::exchange(*next, static_cast<std::uint32_t>(m_text.size()));
-    }
-    m_text.append(PaddedLine::padding, '\0');
-    m_tail = tail;
+    m_lines.changeEnds(m_tail, tail);
+    m_tail = std::move(tail);
 }
 
 } // namespace torvik

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "base/numbers.h"
+#include "gcode/block_lines.h"
 #include "gcode/path_index.h"
-#include "gcode/program_output.h"
 
 #include <cstdint>
 #include <string>
@@ -67,17 +67,13 @@ public:
     void changeFeed(const Dialect& dialect, float feed);
 
     const std::vector<CutRun>& runs() const { return m_runs; }
-    // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ..." with its line end.
-    PaddedLine line(std::uint32_t cut) const {
-        const std::uint32_t start = m_starts[cut];
-        return {m_text.data() + start, m_starts[cut + 1] - start};
-    }
+    // "G1 X.. Y.. F..", "G2 X.. Y.. I.. J.. F.." or "G3 ..." of each cut.
+    BlockLines& lines() { return m_lines; }
 
 private:
     std::vector<CutRun> m_runs;
-    std::vector<std::uint32_t> m_starts; // of each cut's line in the text, and where the last ends
-    std::string m_text;                  // padded
-    std::string m_tail;                  // the feed and the line end
+    BlockLines m_lines;
+    std::string m_tail; // the feed and the line end
 };
 
 } // namespace torvik

@@ -4,14 +4,17 @@
 #include "base/picture.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
+#include <utility>
 
 namespace torvik {
 namespace {
 
 constexpr std::size_t bufferBytes = std::size_t{1} << 18;
+constexpr std::size_t gatheredBytes = bufferBytes / 16;
+constexpr std::int16_t firstOfFourDigits = 1000;
 constexpr std::int16_t lastBlockNumber = 9999;
+constexpr std::uint32_t pieceLines = 3000; // so that the system finds them in the nearest memory
 
 char* put(char* out, std::string_view text) {
     if (!text.empty()) // an empty view may point nowhere
@@ -23,18 +26,6 @@ char* put(char* out, std::string_view text) {
 
 std::int64_t lineEndsIn(std::string_view bytes) {
     return std::count(bytes.begin(), bytes.end(), lineEnd.back());
-}
-
-void BlockNumber::format(std::int16_t number) {
-    std::array<char, maxSize> text{'N'};
-    char* const end = putInteger(text.data() + 1, number);
-    *end = ' ';
-    m_size = static_cast<std::size_t>(end + 1 - text.data());
-    m_characters = 0;
-    for (std::size_t i = 0; i < m_size; ++i)
-        m_characters |= std::uint64_t{static_cast<unsigned char>(text[i])} << (8 * i);
-    m_lastDigit = std::uint64_t{1} << (8 * (m_size - 2));
-    m_lastOfTen = number - number % 10 + 9;
 }
 
 ProgramOutput::ProgramOutput(ByteSink& sink)
@@ -51,32 +42,55 @@ void ProgramOutput::CommandLine(std::string_view text) {
     WriteLine({});
 }
 
-char* ProgramOutput::putNumber(char* out) {
-    if (m_gintLineNumber == lastBlockNumber)
-        m_gintLineNumber = 0;
-    ++m_gintLineNumber;
-    return m_blockNumber.put(out, m_gintLineNumber);
+std::int16_t ProgramOutput::nextNumber() const {
+    return m_gintLineNumber == lastBlockNumber ? std::int16_t{1}
+                                               : static_cast<std::int16_t>(m_gintLineNumber + 1);
 }
 
 void ProgramOutput::writeBlock(std::string_view line) {
-    use(put(putNumber(room(BlockNumber::maxSize + line.size())), line));
+    constexpr std::size_t numberBytes = 6; // "N9999 "
+    m_gintLineNumber = nextNumber();
+    char* out = room(numberBytes + line.size());
+    *out++ = 'N';
+    out = putInteger(out, m_gintLineNumber);
+    *out++ = ' ';
+    use(put(out, line));
 }
 
-void ProgramOutput::writeBlock(PaddedLine line) {
-    constexpr std::size_t piece = PaddedLine::padding;
-    char* const out = putNumber(room(BlockNumber::maxSize + line.size + piece));
-    for (std::size_t at = 0; at < line.size; at += piece)
-        std::memcpy(out + at, line.text + at, piece);
-    use(out + line.size);
+void ProgramOutput::writeBlocks(BlockLines& lines, std::uint32_t first, std::uint32_t end) {
+    while (first < end) {
+        const std::int16_t next = nextNumber();
+        if (next < firstOfFourDigits) {
+            writeBlock(lines.line(first++));
+            continue;
+        }
+        const auto untilLast = static_cast<std::uint32_t>(lastBlockNumber - next + 1);
+        const std::uint32_t stop = first + std::min({end - first, untilLast, pieceLines});
+        pass(lines.blocks(first, stop, next));
+        m_gintLineNumber = static_cast<std::int16_t>(next + (stop - first) - 1);
+        first = stop;
+    }
+}
+
+// Few bytes are gathered, many go on as they are.
+void ProgramOutput::pass(std::string_view bytes) {
+    if (bytes.size() <= gatheredBytes) {
+        use(put(room(bytes.size()), bytes));
+        return;
+    }
+    flush();
+    passOn(bytes);
 }
 
 void ProgramOutput::flush() {
-    const auto gathered = std::string_view(m_buffer.get(), m_used);
-    m_used = 0;
-    if (m_failed)
+    passOn({m_buffer.get(), std::exchange(m_used, 0)});
+}
+
+void ProgramOutput::passOn(std::string_view bytes) {
+    if (m_failed || bytes.empty())
         return;
     m_failed = true;
-    m_sink.write(gathered);
+    m_sink.write(bytes);
     m_failed = false;
 }
 

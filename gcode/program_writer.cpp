@@ -41,9 +41,8 @@ public:
         m_output.CommandLine(StatementText("G0").position(" X", x).position(" Y", y));
     }
 
-    void cut(const CutWords& words, const CutRun& run) {
-        for (std::uint32_t cut = run.first; cut < run.end; ++cut)
-            m_output.writeBlock(words.line(cut));
+    void cut(CutWords& words, const CutRun& run) {
+        m_output.writeBlocks(words.lines(), run.first, run.end);
     }
 
 private:

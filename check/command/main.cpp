@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/large_pages.h"
 #include "base/library_places.h"
 #include "check/command/checker.h"
 
@@ -6,5 +7,6 @@
 
 int main(int argc, char** argv) {
     torvik::loadOnlyOwnLibraries();
+    torvik::takeHeapInLargePages();
     return torvik::check::runChecker({argv, argv + argc}, std::cout, std::cerr);
 }
