@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts of rooms that know no translation, as patterns: {1} to {4} stand for their values. The
-// first that fits a text is taken. Sentences of findings have their own table.
+// first that fits a text is taken, and its values are looked up in turn. Sentences of findings have
+// their own table.
 #pragma once
 
 #include <array>
@@ -8,7 +9,7 @@
 
 namespace torvik {
 
-inline constexpr std::array<std::string_view, 121> plainPatterns{
+inline constexpr std::array<std::string_view, 149> plainPatterns{
     // groups of an order
     "the {1} lines",
     "the {1} mm {2} holes",
@@ -34,6 +35,34 @@ inline constexpr std::array<std::string_view, 121> plainPatterns{
     "The start of the cut",
     "The end of this cut",
     "The centre of this arc",
+    "{1} and the program number is missing",
+    "{1} is missing",
+    "{1} is too much",
+    "{1} stands where {2} should be",
+    "\"{1}\" and \"{2}\"",
+    "none of the controls knows it",
+    "lines follow behind it",
+    "it ends here, but lines follow",
+    "it names {1}, the program takes {2}",
+    "T{1} has another place in it",
+    "A hole of {1} is",
+    "A cut of {1} is",
+    "{1} holes of {2} are",
+    "{1} cuts of {2} are",
+    "It should go to {1} at Z{2}",
+    "It should go to {1}",
+    "The first should go to {1} at Z{2}",
+    "The first should go to {1}",
+    "the quick move to Z{1}",
+    "the quick move to {1}",
+    "the slow move to Z{1}",
+    "the wait",
+    "the stop of the spindle",
+    "a move",
+    "the end",
+    "none",
+    "no tool",
+    "not at all",
     "how high the tool is",
     "where the tool is, X and Y",
     "a straight line",

@@ -80,7 +80,7 @@ QString shownText(std::string_view text) {
     if (exact != plain(text))
         return exact;
     for (const std::string_view pattern : plainPatterns)
-        if (const auto shown = filled(text, pattern, exactText))
+        if (const auto shown = filled(text, pattern, shownText))
             return *shown;
     return exact;
 }

@@ -12,6 +12,10 @@
         <translation> und </translation>
     </message>
     <message>
+        <source>"{1}" and "{2}"</source>
+        <translation>"{1}" und "{2}"</translation>
+    </message>
+    <message>
         <source>"{1}" is not a line that {2} programs have at this place.</source>
         <translation>"{1}" ist keine Zeile, wie sie {2}-Programme an dieser Stelle haben.</translation>
     </message>
@@ -430,6 +434,10 @@
         <translation>In diesem Kommentar steht eine Klammer, oder er wird nicht geschlossen. Die Maschine kann den Rest für Befehle halten.</translation>
     </message>
     <message>
+        <source>A cut of {1} is</source>
+        <translation>Ein Schnitt ({1}) ist</translation>
+    </message>
+    <message>
         <source>A feed of {1} mm/min is unusual here.</source>
         <translation>Ein Vorschub von {1} mm/min ist hier ungewöhnlich.</translation>
     </message>
@@ -456,6 +464,10 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>A full circle is cut here. The drawing has an arc of {1} mm only, so short that its end is written like its start.</source>
         <translation>Hier wird ein Vollkreis gefräst. Die Zeichnung hat nur einen Bogen von {1} mm, der so kurz ist, dass sein Ende wie sein Anfang geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>A hole of {1} is</source>
+        <translation>Eine Bohrung ({1}) ist</translation>
     </message>
     <message>
         <source>A job sheet is made when every pen that is milled has its answers and a tool, and the order of the pens is set.</source>
@@ -1096,6 +1108,14 @@ Bei Nein gehen die Angaben von damals verloren.</translation>
     <message>
         <source>It mills nothing: every pen is left out.</source>
         <translation>Es fräst nichts: Jeder Stift wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>It should go to {1}</source>
+        <translation>Hier müsste es nach {1} gehen</translation>
+    </message>
+    <message>
+        <source>It should go to {1} at Z{2}</source>
+        <translation>Hier müsste es nach {1} auf Z{2} gehen</translation>
     </message>
     <message>
         <source>It will take %1 on the machine.
@@ -1962,6 +1982,14 @@ Geben Sie dem ersten Stift eine Tiefe, die knapp über der Unterseite endet,
 und dem zweiten die volle Tiefe: Das Teil bleibt auf den Stegen an seinem Platz.</translation>
     </message>
     <message>
+        <source>The first should go to {1}</source>
+        <translation>Zuerst müsste es nach {1} gehen</translation>
+    </message>
+    <message>
+        <source>The first should go to {1} at Z{2}</source>
+        <translation>Zuerst müsste es nach {1} auf Z{2} gehen</translation>
+    </message>
+    <message>
         <source>The folder could not be stored in %1.
 It will not be remembered: it lasts until Torvik ends.</source>
         <translation>Der Ordner konnte nicht in %1 gespeichert werden.
@@ -2580,6 +2608,10 @@ Bitte geben Sie eine Nummer bis 32767 ein</translation>
         <translation>Typ von Werkzeug %1</translation>
     </message>
     <message>
+        <source>T{1} has another place in it</source>
+        <translation>T{1} steht dort an einer anderen Stelle</translation>
+    </message>
+    <message>
         <source>Unknown, passed over</source>
         <translation>Unbekannt, übergangen</translation>
     </message>
@@ -2744,6 +2776,10 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     <message>
         <source>a file (.%1) where you choose</source>
         <translation>eine Datei (.%1), wo Sie möchten</translation>
+    </message>
+    <message>
+        <source>a move</source>
+        <translation>eine Bewegung</translation>
     </message>
     <message>
         <source>a program cannot hold %1, ? stands there instead</source>
@@ -2938,6 +2974,14 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
         <translation>Anweisungen mit fehlenden oder sinnlosen Zahlen (übergangen)</translation>
     </message>
     <message>
+        <source>it ends here, but lines follow</source>
+        <translation>Es endet hier, aber danach folgen noch Zeilen</translation>
+    </message>
+    <message>
+        <source>it names {1}, the program takes {2}</source>
+        <translation>Sie nennt {1}, das Programm nimmt {2}</translation>
+    </message>
+    <message>
         <source>left and right</source>
         <translation>links und rechts</translation>
     </message>
@@ -2972,6 +3016,10 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     <message>
         <source>lines drawn with no pen in the holder (not drawn)</source>
         <translation>Linien ohne Stift im Halter (nicht gezeichnet)</translation>
+    </message>
+    <message>
+        <source>lines follow behind it</source>
+        <translation>Dahinter folgen noch Zeilen</translation>
     </message>
     <message>
         <source>lines to cut</source>
@@ -3032,6 +3080,14 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     <message>
         <source>none is selected; everything is drawn by pen 1</source>
         <translation>keiner ist gewählt; alles wird mit Stift 1 gezeichnet</translation>
+    </message>
+    <message>
+        <source>none of the controls knows it</source>
+        <translation>Keine der Steuerungen kennt ihn</translation>
+    </message>
+    <message>
+        <source>not at all</source>
+        <translation>gar nicht</translation>
     </message>
     <message>
         <source>not cut</source>
@@ -3178,6 +3234,10 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
         <translation>die %1-mm-Bohrungen in %2</translation>
     </message>
     <message>
+        <source>the end</source>
+        <translation>das Ende</translation>
+    </message>
+    <message>
         <source>the job sheet cannot be made</source>
         <translation>das Einrichteblatt kann nicht erstellt werden</translation>
     </message>
@@ -3188,6 +3248,26 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     <message>
         <source>the program is too long for a job sheet</source>
         <translation>das Programm ist zu lang für ein Einrichteblatt</translation>
+    </message>
+    <message>
+        <source>the quick move to Z{1}</source>
+        <translation>der Eilgang auf Z{1}</translation>
+    </message>
+    <message>
+        <source>the quick move to {1}</source>
+        <translation>der Eilgang nach {1}</translation>
+    </message>
+    <message>
+        <source>the slow move to Z{1}</source>
+        <translation>der langsame Weg auf Z{1}</translation>
+    </message>
+    <message>
+        <source>the stop of the spindle</source>
+        <translation>der Halt der Spindel</translation>
+    </message>
+    <message>
+        <source>the wait</source>
+        <translation>das Warten</translation>
     </message>
     <message>
         <source>the {1} lines</source>
@@ -3254,12 +3334,32 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
         <translation>{1} (mit einer Toleranz von {2} werden es Kreise)</translation>
     </message>
     <message>
+        <source>{1} and the program number is missing</source>
+        <translation>{1} mit der Programmnummer fehlt</translation>
+    </message>
+    <message>
+        <source>{1} cuts of {2} are</source>
+        <translation>{1} Schnitte ({2}) sind</translation>
+    </message>
+    <message>
         <source>{1} done at another time than the job asks for.</source>
         <translation>{1} zu einer anderen Zeit dran, als der Auftrag verlangt.</translation>
     </message>
     <message>
         <source>{1} done before: the job asks for it once only.</source>
         <translation>{1} schon vorher gemacht: Der Auftrag verlangt es nur einmal.</translation>
+    </message>
+    <message>
+        <source>{1} holes of {2} are</source>
+        <translation>{1} Bohrungen ({2}) sind</translation>
+    </message>
+    <message>
+        <source>{1} is missing</source>
+        <translation>{1} fehlt</translation>
+    </message>
+    <message>
+        <source>{1} is too much</source>
+        <translation>{1} ist zu viel</translation>
     </message>
     <message>
         <source>{1} line, {2} arc, {3} circle</source>
@@ -3304,6 +3404,10 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     <message>
         <source>{1} should be at {2}, here it is at {3}.</source>
         <translation>{1} müsste bei {2} sein, ist hier aber bei {3}.</translation>
+    </message>
+    <message>
+        <source>{1} stands where {2} should be</source>
+        <translation>{1} steht dort, wo {2} stehen müsste</translation>
     </message>
     <message>
         <source>{1} – cut</source>

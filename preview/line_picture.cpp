@@ -132,7 +132,7 @@ void LinePicture::paintFrame(Frame& frame, const std::stop_token& stop) const {
             continue;
         const Path& path = (*m_paths)[i];
         line.clear();
-        appendLine(line, path, aligned);
+        appendLine(line, path, aligned, Chords::across);
         if (width == 1)
             sharpLines.align(line);
         painter.setColour(m_colours.at(static_cast<std::size_t>(path.intPen)));

@@ -39,15 +39,19 @@ ScreenArc screenArc(const Path& path, const PictureView& view) {
 }
 
 // Appends points from the arc's first to its last.
-void appendArc(Points& points, const ScreenArc& arc) {
-    const double chord = 2 * std::acos(1 - std::min(chordTolerance / arc.radius, 1.0));
+void appendArc(Points& points, const ScreenArc& arc, Chords chords) {
+    const double outside = chords == Chords::across ? std::min(chordTolerance, arc.radius) : 0;
+    const double deep = (chordTolerance + outside) / arc.radius; // the middle of a chord
+    const double chord = 2 * std::acos(1 - std::min(deep, 1.0));
     const double count = std::clamp(std::ceil(std::fabs(arc.sweep) / chord), 1.0, mostChords);
     const double stepCos = std::cos(arc.sweep / count);
     const double stepSin = std::sin(arc.sweep / count);
-    double x = arc.radius * std::cos(arc.from);
-    double y = arc.radius * std::sin(arc.from);
+    double x = std::cos(arc.from);
+    double y = std::sin(arc.from);
     for (int i = 0; i <= static_cast<int>(count); ++i) {
-        points.push_back({arc.centre.x + x, arc.centre.y + y});
+        const bool isEnd = !arc.full && (i == 0 || i == static_cast<int>(count));
+        const double radius = isEnd ? arc.radius : arc.radius + outside;
+        points.push_back({arc.centre.x + radius * x, arc.centre.y + radius * y});
         const double turned = x * stepCos - y * stepSin;
         y = x * stepSin + y * stepCos;
         x = turned;
@@ -56,15 +60,15 @@ void appendArc(Points& points, const ScreenArc& arc) {
 
 } // namespace
 
-void appendLine(Points& points, const Path& path, const PictureView& view) {
+void appendLine(Points& points, const Path& path, const PictureView& view, Chords chords) {
     if (path.intType != straightLine)
-        return appendArc(points, screenArc(path, view));
+        return appendArc(points, screenArc(path, view), chords);
     points.push_back(view.point(path.sngStartX, path.sngStartY));
     points.push_back(view.point(path.sngEndX, path.sngEndY));
 }
 
 void appendCircle(Points& points, ScreenPoint centre, double radius) {
-    appendArc(points, {centre, radius, 0, 2 * pi, true});
+    appendArc(points, {centre, radius, 0, 2 * pi, true}, Chords::within);
 }
 
 } // namespace torvik

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The lines of paths as points in image pixels. Curves become chords of one length that lie within
-// a tenth of a pixel.
+// The lines of paths as points in image pixels. Curves become chords of one turn that lie no
+// farther than a sixth of a pixel from them.
 #pragma once
 
 #include "preview/picture_view.h"
@@ -13,8 +13,13 @@ struct Path;
 
 using Points = std::vector<ScreenPoint>;
 
-// Appends the path's line, in the direction in which it was drawn.
-void appendLine(Points& points, const Path& path, const PictureView& view);
+// Whether a curve's chords lie within it, or the joints outside by as much as the middles within:
+// those are longer and fewer, but their corners stick out of wide grooves.
+enum class Chords { within, across };
+
+// Appends the path's line, in the direction in which it was drawn. It keeps its ends.
+void appendLine(Points& points, const Path& path, const PictureView& view,
+                Chords chords = Chords::within);
 
 // Points of a circle.
 void appendCircle(Points& points, ScreenPoint centre, double radius);

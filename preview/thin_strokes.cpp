@@ -19,10 +19,13 @@ static_assert(1 << placeBits == Patterns::places);
 constexpr float farAway = 8192; // pixels; no row comes back from there
 
 void cover(std::uint8_t* pixels, const Patterns::Row& pattern) {
-    Patterns::Row row; // a copy, so that the compiler takes all pixels at once
+    // A copy and plain pointers, so that the compiler takes all pixels at once.
+    Patterns::Row row;
     std::memcpy(row.data(), pixels, row.size());
+    std::uint8_t* const kept = row.data();
+    const std::uint8_t* const added = pattern.data();
     for (std::size_t i = 0; i < row.size(); ++i)
-        row[i] = std::max(row[i], pattern[i]);
+        kept[i] = kept[i] < added[i] ? added[i] : kept[i];
     std::memcpy(pixels, row.data(), row.size());
 }
 

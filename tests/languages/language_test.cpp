@@ -32,6 +32,11 @@ TEST(Speak, TranslatesOwnTextsAndThoseOfQtUntilAnotherLanguageIsSpoken) {
     EXPECT_EQ(shownText("Black"), "Schwarz");
     EXPECT_EQ(shownText("Slot drill"), "Slot drill");
     EXPECT_EQ(shownText("dimensions (not drawn)"), "Bemaßungen (nicht gezeichnet)");
+    EXPECT_EQ(shownText("2 holes of the 3.0 mm Red holes are"),
+              "2 Bohrungen (die 3.0-mm-Bohrungen in Rot) sind");
+    EXPECT_EQ(shownText("the quick move to Z5.00 stands where the quick move to X1.000 Y2.000 "
+                        "should be"),
+              "der Eilgang auf Z5.00 steht dort, wo der Eilgang nach X1.000 Y2.000 stehen müsste");
     EXPECT_EQ(shownText(" It begins where the Red lines end. In the order, move Blue before Red."),
               " Es beginnt dort, wo die Linien in Rot enden. Schieben Sie in der Reihenfolge Blau "
               "vor Rot.");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every German text is there and says the same as the English one with the same parts.
-#include <QFile>
+#include <QDir>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
@@ -59,6 +59,32 @@ TEST(GermanTexts, AreAllThereWithTheSameParts) {
         EXPECT_EQ(german.endsWith(u'…'), english.endsWith(u'…'));
         EXPECT_EQ(german.endsWith(u' '), english.endsWith(u' '));
     }
+}
+
+// What the check says is made of pieces; each of them stands in a German row.
+TEST(GermanTexts, HaveEveryPieceOfAFinding) {
+    static const QRegularExpression other(R"(#include.*|'"')");
+    static const QRegularExpression piece(R"re("([^"\n]*)")re");
+    static const QRegularExpression word("[a-z]{3}");
+    const QStringList toolTypes{"End mill", "Drill", "Reamer"}; // the same in every language
+    QString english;
+    for (const auto& row : germanTexts())
+        english += row.first + u'\n';
+    int pieces = 0;
+    for (const char* folder : {TORVIK_CHECK, TORVIK_CHECK "/plan", TORVIK_CHECK "/sense"})
+        for (const QString& name : QDir(folder).entryList(
+                 {"*findings.cpp", "*_sense.cpp", "*words.cpp", "*reader.cpp", "check.cpp"})) {
+            QFile code(QDir(folder).filePath(name));
+            ASSERT_TRUE(code.open(QIODevice::ReadOnly));
+            for (const auto& match :
+                 piece.globalMatch(QString::fromUtf8(code.readAll()).remove(other)))
+                if (const QString text = match.captured(1);
+                    text.contains(word) && !toolTypes.contains(text)) {
+                    ++pieces;
+                    EXPECT_TRUE(english.contains(text)) << (name + ": " + text).toStdString();
+                }
+        }
+    EXPECT_GT(pieces, 40);
 }
 
 } // namespace

@@ -86,6 +86,24 @@ TEST(Arcs, AWholeTurnWithinAHundredthIsACircle) {
     }
 }
 
+// Chords across the curve are as close, but a third fewer; their first and last deviate most.
+TEST(Arcs, ChordsLieCloseAndKeepTheEnds) {
+    Path arc{.intType = arcCounterClockwise, .intPen = 1, .sngAngleTo = 3, .sngRadius = 100};
+    Points points[2];
+    for (const Chords chords : {Chords::within, Chords::across}) {
+        Points& found = points[static_cast<std::size_t>(chords)];
+        appendLine(found, arc, plainView(1, 0), chords);
+        for (std::size_t i = 1; i < found.size(); ++i) {
+            EXPECT_NEAR(std::hypot(found[i].x, found[i].y), 100, 0.1001);
+            EXPECT_NEAR(std::hypot(found[i].x + found[i - 1].x, found[i].y + found[i - 1].y) / 2,
+                        100, 1.0 / 6);
+        }
+        EXPECT_NEAR(std::hypot(found.front().x - 100, found.front().y), 0, 1e-4);
+        EXPECT_NEAR(std::hypot(found.back().x, found.back().y), 100, 1e-4);
+    }
+    EXPECT_LT(points[1].size() * 4, points[0].size() * 3);
+}
+
 TEST(GetPieceScale, WidensEachPathByItsTool) {
     // Black lines, Red ones that are left out, a Blue circle drilled with a tool of 3 mm.
     Job job = machinedDrawing("SP1;PU400,400;PD4400,2400;SP2;PU400,400;PD8000,2400;"
