@@ -40,6 +40,20 @@ void makeReadable(QPalette& palette, QPalette::ColorGroup group, QPalette::Color
     palette.setColor(group, role, withContrast(opaque, base, textContrast));
 }
 
+// What is disabled stays fainter than the rest, but an answer that cannot be changed can be read.
+void makeDisabledReadable(QPalette& palette) {
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button}};
+    for (const auto& [text, ground] : pairs) {
+        const QColor shown = palette.color(QPalette::Disabled, text);
+        palette.setColor(
+            QPalette::Disabled, text,
+            withContrast(shown, palette.color(QPalette::Disabled, ground), textContrast));
+    }
+}
+
 // Styles draw an edge darker than the window; the window that they are told is lighter by as much.
 QPalette withClearEdge(QPalette palette) {
     constexpr int darkening = 140; // per cent, what the style does to a window's colour
@@ -71,6 +85,7 @@ void ReadableStyle::polish(QPalette& palette) {
         for (const auto role : {QPalette::Link, QPalette::LinkVisited, QPalette::PlaceholderText})
             makeReadable(palette, group, role);
     }
+    makeDisabledReadable(palette);
 }
 
 void ReadableStyle::polish(QWidget* widget) {

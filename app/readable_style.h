@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The desktop's own style with colours and edges that can be told apart in light and dark: text on
-// what is selected, links, hints in empty boxes, the edges of boxes and buttons. What is clicked
-// is large enough to be hit, buttons of dialogs have no icons, and tips let every click through to
-// the control below.
+// what is selected or disabled, links, hints in empty boxes, the edges of boxes and buttons. What
+// is clicked is large enough to be hit, buttons of dialogs have no icons, and tips let every click
+// through to the control below.
 #pragma once
 
 #include <QProxyStyle>

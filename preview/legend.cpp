@@ -20,6 +20,7 @@ namespace torvik {
 namespace {
 
 // Pixels.
+constexpr int leastRow = 24;
 constexpr int discRadius = 8;
 constexpr int discCentre = 16; // from the row's left and upper edge
 constexpr int textLeft = 33;
@@ -89,6 +90,10 @@ int Legend::textWidth() const {
     return width;
 }
 
+int Legend::rowHeight() const {
+    return std::max(leastRow, fontMetrics().height());
+}
+
 int Legend::columnWidth() const {
     return textLeft + textWidth() + columnGap;
 }
@@ -100,7 +105,7 @@ int Legend::stripWidth() const {
 }
 
 int Legend::rowsInColumn() const {
-    return std::max(1, (viewport()->height() - overhang) / rowHeight);
+    return std::max(1, (viewport()->height() - overhang) / rowHeight());
 }
 
 int Legend::columnsInSight() const {
@@ -146,12 +151,12 @@ void Legend::paintEvent(QPaintEvent* /*event*/) {
     const int rows = rowsInColumn();
     int number = 0;
     for (const Row& row : rowsInSight()) {
-        const QPoint corner(number / rows * width, number % rows * rowHeight);
+        const QPoint corner(number / rows * width, number % rows * rowHeight());
         painter.setBrush(QBrush(colourOf(row.colour), row.fill));
         painter.setPen(ink);
         painter.drawEllipse(corner + QPoint(discCentre, discCentre), discRadius, discRadius);
-        const QRect text(corner.x() + textLeft, corner.y() + discCentre - rowHeight / 2,
-                         width - textLeft, rowHeight);
+        const QRect text(corner.x() + textLeft, corner.y() + discCentre - rowHeight() / 2,
+                         width - textLeft, rowHeight());
         painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, row.text);
         ++number;
     }

@@ -22,8 +22,7 @@ public:
         Qt::BrushStyle fill = Qt::SolidPattern;
     };
 
-    static constexpr int rowHeight = 24; // pixels
-    static constexpr int overhang = 2;   // pixels that the lowest disc needs below its row
+    static constexpr int overhang = 2; // pixels that the lowest disc needs below its row
 
     explicit Legend(QWidget* parent = nullptr);
 
@@ -35,6 +34,7 @@ public:
     // Those in sight, from the top.
     std::vector<Row> rowsInSight() const;
 
+    int rowHeight() const; // pixels
     // The width of one column with its scroll bar, for depths of up to 99.99 mm or what it shows.
     int stripWidth() const;
 

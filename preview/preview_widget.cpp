@@ -87,8 +87,8 @@ void PreviewWidget::buildLegendStrip() {
 // The strip lies where it leaves more room for the drawing.
 void PreviewWidget::placeLegendStrip() {
     const int stripWidth = m_legend->stripWidth();
-    const int stripHeight = m_legendCaption->sizeHint().height() + rowsBelow * Legend::rowHeight +
-                            Legend::overhang + 2 * stripMargin;
+    const int stripHeight = m_legendCaption->sizeHint().height() +
+                            rowsBelow * m_legend->rowHeight() + Legend::overhang + 2 * stripMargin;
     const double shape = m_line.extents.empty() || m_line.extents.height() == 0
                              ? 1
                              : m_line.extents.width() / m_line.extents.height();

@@ -80,7 +80,7 @@ void ScaleLine::paintEvent(QPaintEvent*) {
         return;
     QPainter painter(this);
     const QRect line = rect().adjusted(margin, 0, -margin, 0);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_size);
+    paintSize(painter, line);
     if (m_barLength == 0)
         return;
     const QString text = barText();
@@ -92,6 +92,17 @@ void ScaleLine::paintEvent(QPaintEvent*) {
     painter.drawLine(left, middle, right, middle);
     for (const int end : {left, right})
         painter.drawLine(end, middle - endHeight, end, middle + endHeight);
+}
+
+// In smaller letters where the picture is too narrow for it.
+void ScaleLine::paintSize(QPainter& painter, const QRect& line) const {
+    const double fits = static_cast<double>(line.width()) / fontMetrics().horizontalAdvance(m_size);
+    QFont letters = font();
+    if (fits < 1)
+        letters.setPointSizeF(std::max(1.0, letters.pointSizeF() * fits));
+    painter.setFont(letters);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_size);
+    painter.setFont(font());
 }
 
 void ScaleLine::resizeEvent(QResizeEvent*) {

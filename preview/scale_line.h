@@ -32,6 +32,7 @@ private:
     // The longest bar for which there is room beside the size.
     void fitBar();
     QString barText() const;
+    void paintSize(QPainter& painter, const QRect& line) const;
 
     QString m_size;
     double m_pixelsPerMm = 0;

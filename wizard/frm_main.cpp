@@ -172,7 +172,8 @@ void FrmMain::buildWindow() {
     split->setStretchFactor(0, 0);
     split->setStretchFactor(1, 0);
     split->setStretchFactor(2, 1);
-    split->setSizes({200, 440, 540});
+    const int page = std::max(440, 20 * split->fontMetrics().height()); // wider in large letters
+    split->setSizes({200, page, std::max(200, 980 - page)});
     readInOrder(*split);
 
     auto* const content = new QWidget;

@@ -82,16 +82,28 @@ void SkippedLine::PrepareDrawing(const std::filesystem::path& source) {
 }
 
 void SkippedLine::show(long instructions) {
-    const QString text =
+    m_text =
         instructions == 1
             ? tr("1 instruction of this drawing is not read, so something may be missing. See "
                  "File ▸ Prepare a Drawing…")
             : tr("%1 instructions of this drawing are not read, so something may be missing. See "
                  "File ▸ Prepare a Drawing…")
                   .arg(instructions);
-    m_skipped->setText(text);
-    m_skipped->setAccessibleName(text);
+    m_skipped->setAccessibleName(m_text);
+    breakLine();
     setVisible(instructions > 0);
+}
+
+// Two sentences are two lines where there is no room for one.
+void SkippedLine::breakLine() {
+    m_skipped->setText(m_text);
+    if (m_skipped->sizeHint().width() > width())
+        m_skipped->setText(QString(m_text).replace(QStringLiteral(". "), QStringLiteral(".\n")));
+}
+
+void SkippedLine::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    breakLine();
 }
 
 } // namespace torvik

@@ -30,11 +30,16 @@ signals:
     // A drawing was saved in the dialog, and the user wants it open.
     void drawingPrepared(const std::filesystem::path& drawing);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void buildButton();
+    void breakLine();
 
     Workshop& m_workshop;
     QPushButton* m_skipped = nullptr;
+    QString m_text; // in one line
 };
 
 } // namespace torvik

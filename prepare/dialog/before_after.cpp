@@ -55,6 +55,8 @@ QLabel* sizeLabel(const QString& name) {
     font.setPointSizeF(font.pointSizeF() * 1.4);
     font.setBold(true);
     label->setFont(font);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setWordWrap(true); // large letters leave room for the options
     label->setToolTip(BeforeAfter::tr("Width and height of all lines"));
     return label;
 }
@@ -65,7 +67,9 @@ QString sizeText(const StrokePicture* picture) {
     const auto inMm = [](double value) { return QString::fromStdString(formatFixed(value, 2)); };
     const QString size = picture->tools.empty() ? BeforeAfter::tr("%1 × %2 mm")
                                                 : BeforeAfter::tr("Tools: %1 × %2 mm");
-    return size.arg(inMm(picture->bounds.width()), inMm(picture->bounds.height()));
+    return size.arg(inMm(picture->bounds.width()), inMm(picture->bounds.height()))
+        .replace(QStringLiteral(" ×"), QStringLiteral("\u00A0×")) // a line ends behind it only
+        .replace(QStringLiteral(" mm"), QStringLiteral("\u00A0mm"));
 }
 
 // The mark has the form of what it stands for, not its colour alone.
@@ -135,8 +139,8 @@ BeforeAfter::BeforeAfter(QWidget* parent)
     const auto addHeader = [layout](int column, QLabel* name, QLabel* size) {
         auto* const row = new QHBoxLayout;
         row->addWidget(name);
-        row->addStretch(1);
-        row->addWidget(size);
+        row->addSpacing(8);
+        row->addWidget(size, 1);
         layout->addLayout(row, 0, column);
     };
     addHeader(0, caption(QStringLiteral("lblBefore"), tr("Before"), m_before), m_beforeSize);

@@ -53,6 +53,12 @@ TEST_P(Theme, CanBeReadOnEveryForm) {
         EXPECT_GE(contrast(colour(QPalette::Highlight), colour(QPalette::Window)), 3);
         EXPECT_GE(contrast(colour(QPalette::Link), colour(QPalette::Base)), 4.5);
     }
+    const auto faint = [&](QPalette::ColorRole role) {
+        return palette.color(QPalette::Disabled, role);
+    };
+    EXPECT_GE(contrast(faint(QPalette::WindowText), faint(QPalette::Window)), 4.5);
+    EXPECT_GE(contrast(faint(QPalette::Text), faint(QPalette::Base)), 4.5);
+    EXPECT_GE(contrast(faint(QPalette::ButtonText), faint(QPalette::Button)), 4.5);
     visitAll(expectContrast);
 }
 

@@ -38,7 +38,9 @@ protected:
     Control& find(const char* name) {
         return *dialog.findChild<Control*>(name);
     }
-    std::string label(const char* name) { return find<QLabel>(name).text().toStdString(); }
+    std::string label(const char* name) {
+        return find<QLabel>(name).text().replace(QChar(QChar::Nbsp), u' ').toStdString();
+    }
     bool isBusy() { return label("lblState") == "Preparing…"; }
     // What the dialog says when it is done.
     std::string state() {

@@ -10,10 +10,13 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace torvik {
 namespace {
+
+constexpr int lineLetters = 40; // of common width, in a line of the text
 
 struct Choice {
     const char* name;
@@ -52,7 +55,7 @@ FrmMenu::FrmMenu(const QString& writtenFile, const QString& takingOut, const QSt
         tr("What would you like to do next?"));
     label->setObjectName(QStringLiteral("lblMenu"));
     label->setWordWrap(true);
-    label->setMinimumWidth(360);
+    label->setMinimumWidth(std::max(360, lineLetters * label->fontMetrics().averageCharWidth()));
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(8);
     layout->addWidget(label);
@@ -68,6 +71,9 @@ FrmMenu::FrmMenu(const QString& writtenFile, const QString& takingOut, const QSt
     }
     layout->addSpacing(8);
     layout->addWidget(makeFolderButton(folder), 0, Qt::AlignLeft);
+    // As high as it needs to be; on its own a dialog takes two thirds of the screen at most.
+    const int width = layout->sizeHint().width();
+    resize(width, layout->heightForWidth(width));
 }
 
 std::string FrmMenu::tag() const {
