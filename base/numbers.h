@@ -2,9 +2,12 @@
 // Reading numbers from text and storing them in the job's fields. Nothing depends on the locale.
 #pragma once
 
+#include "base/digits.h"
+
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 namespace torvik {
@@ -16,6 +19,25 @@ double leadingNumber(std::string_view text);
 
 // Whether the text is nothing but a number: a sign, digits with one point, an exponent.
 bool isNumber(std::string_view text);
+
+// The value of a text that is nothing but a whole number with at most one minus and 15 digits, as
+// most numbers of a drawing are; of others nothing, be they numbers or none.
+inline std::optional<double> plainNumber(std::string_view text) {
+    constexpr std::size_t mostDigits = 15; // a double holds them all
+    const bool negative = text.starts_with('-');
+    if (negative)
+        text.remove_prefix(1);
+    if (text.empty() || text.size() > mostDigits)
+        return std::nullopt;
+    std::int64_t value = 0;
+    for (const char digit : text) {
+        if (!isDigit(digit))
+            return std::nullopt;
+        value = value * 10 + (digit - '0');
+    }
+    const auto size = static_cast<double>(value);
+    return negative ? -size : size;
+}
 
 // Rounds half to even; raises Overflow outside -32768 to 32767.
 std::int16_t toInt16(double value);

@@ -22,11 +22,11 @@ constexpr double halvesLimit = 4503599627370496.0;
 // product: where the stored product falls on a half, its own rounding error decides.
 std::uint64_t roundedProduct(double value, double power) {
     const double product = value * power;
-    auto whole = static_cast<std::uint64_t>(product);
+    auto whole = static_cast<std::int64_t>(product); // the processor knows those with a sign
     const double fraction = product - static_cast<double>(whole);
     if (fraction > 0.5 || (fraction == 0.5 && std::fma(value, power, -product) >= 0))
         ++whole;
-    return whole;
+    return static_cast<std::uint64_t>(whole);
 }
 
 // The value with at least so many digits.

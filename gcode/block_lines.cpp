@@ -31,8 +31,8 @@ void BlockLines::reserve(std::size_t lines, std::size_t bytesOfLine) {
     m_text.reserve(m_text.size() + lines * (room.size() + bytesOfLine));
 }
 
-void BlockLines::append(std::string_view words, std::string_view end) {
-    m_text.append(room).append(words).append(end);
+void BlockLines::append(std::string_view line) {
+    m_text.append(room).append(line);
     m_starts.push_back(static_cast<std::uint32_t>(m_text.size()));
 }
 
@@ -41,9 +41,9 @@ void BlockLines::changeEnds(std::string_view former, std::string_view end) {
     const std::size_t lines = old.m_starts.size() - 1;
     reserve(lines, old.m_text.size() / std::max<std::size_t>(lines, 1) + end.size());
     for (std::uint32_t place = 0; place < lines; ++place) {
-        std::string_view words = old.line(place);
-        words.remove_suffix(former.size());
-        append(words, end);
+        append(old.line(place));
+        m_text.replace(m_text.size() - former.size(), former.size(), end);
+        m_starts.back() = static_cast<std::uint32_t>(m_text.size());
     }
 }
 

@@ -14,8 +14,8 @@ namespace torvik {
 class BlockLines {
 public:
     void reserve(std::size_t lines, std::size_t bytesOfLine);
-    // A line of these words and its end.
-    void append(std::string_view words, std::string_view end);
+    // A line with its end.
+    void append(std::string_view line);
     // Puts another end, which all lines have, in the place of the former one.
     void changeEnds(std::string_view former, std::string_view end);
 

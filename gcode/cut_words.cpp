@@ -42,7 +42,7 @@ CutWords::CutWords(const Drawing& drawing, const PathSubscripts& paths, const Di
     constexpr std::size_t usualBytes = 32; // of "G1 X123.456 Y123.456 F600" and some arcs
     m_lines.reserve(paths.size(), usualBytes);
     visitCuts(drawing, paths, [&](std::int16_t subscript, bool connected) {
-        m_lines.append(coordinates(drawing.gudtPaths[subscript]).text(), m_tail);
+        m_lines.append(coordinates(drawing.gudtPaths[subscript]).put(m_tail));
         addCut(m_runs, subscript, connected);
     });
 }

@@ -14,7 +14,6 @@ constexpr std::size_t bufferBytes = std::size_t{1} << 18;
 constexpr std::size_t gatheredBytes = bufferBytes / 16;
 constexpr std::int16_t firstOfFourDigits = 1000;
 constexpr std::int16_t lastBlockNumber = 9999;
-constexpr std::uint32_t pieceLines = 3000; // so that the system finds them in the nearest memory
 
 char* put(char* out, std::string_view text) {
     if (!text.empty()) // an empty view may point nowhere
@@ -65,7 +64,7 @@ void ProgramOutput::writeBlocks(BlockLines& lines, std::uint32_t first, std::uin
             continue;
         }
         const auto untilLast = static_cast<std::uint32_t>(lastBlockNumber - next + 1);
-        const std::uint32_t stop = first + std::min({end - first, untilLast, pieceLines});
+        const std::uint32_t stop = first + std::min(end - first, untilLast);
         pass(lines.blocks(first, stop, next));
         m_gintLineNumber = static_cast<std::int16_t>(next + (stop - first) - 1);
         first = stop;

@@ -103,6 +103,8 @@ Reading HpglPlotter::reading() const {
 }
 
 double HpglPlotter::number(std::string_view text) {
+    if (const auto plain = plainNumber(text))
+        return *plain;
     expect(isNumber(text));
     return leadingNumber(text);
 }
@@ -174,7 +176,12 @@ bool HpglPlotter::readPoint(std::string_view parameters, float& x, float& y) {
         return false;
     }
     x = coordinate(parameters.substr(0, comma));
+    // What follows behind the second is passed over.
     const std::string_view second = parameters.substr(comma + 1);
+    if (const auto plain = plainNumber(second)) {
+        y = toSingle(*plain / plotterUnitsPerMm);
+        return true;
+    }
     expect(isNumber(withoutLastCommas(second)));
     y = toSingle(leadingNumber(second) / plotterUnitsPerMm);
     return true;

@@ -15,10 +15,7 @@
 namespace torvik {
 namespace {
 
-// One line of the file; its blanks become commas in place.
-void performLine(HpglPlotter& plotter, std::span<char> line) {
-    std::replace(line.begin(), line.end(), ' ', ',');
-    std::string_view rest(line.data(), line.size());
+void performLine(HpglPlotter& plotter, std::string_view rest) {
     while (!rest.empty()) {
         const auto end = std::min(rest.find(';'), rest.size());
         plotter.perform(rest.substr(0, end));
@@ -26,27 +23,32 @@ void performLine(HpglPlotter& plotter, std::span<char> line) {
     }
 }
 
-std::span<char> trimmed(std::span<char> line) {
+// Blanks at both ends are no part of a line, those inside become commas in place.
+std::string_view withoutBlanks(std::span<char> line) {
     const std::string_view text = trimBlanks({line.data(), line.size()});
-    return text.empty()
-               ? std::span<char>{}
-               : line.subspan(static_cast<std::size_t>(text.data() - line.data()), text.size());
+    if (text.empty())
+        return {};
+    const auto kept =
+        line.subspan(static_cast<std::size_t>(text.data() - line.data()), text.size());
+    std::replace(kept.begin(), kept.end(), ' ', ',');
+    return text;
 }
 
-// The lines of a text, which end at CR LF, LF or CR alone. Where the next CR and the next LF stand
-// is looked up once for all the lines before them.
+// The lines of a text, which end at CR LF, LF or CR alone, without their blanks. Where the next CR,
+// the next LF and the next blank stand is looked up once for all the lines before them.
 class LineSplitter {
 public:
     explicit LineSplitter(std::span<char> text) : m_text(text) {}
 
     bool atEnd() const { return m_start >= m_text.size(); }
 
-    std::span<char> next() {
+    std::string_view next() {
         const auto end = std::min(seek('\n', m_lineFeed), seek('\r', m_return));
         const auto line = m_text.subspan(m_start, end - m_start);
         const bool pair = end + 1 == m_lineFeed && end == m_return;
+        const bool hasBlank = seek(' ', m_blank) < end;
         m_start = end + (pair ? 2 : 1);
-        return line;
+        return hasBlank ? withoutBlanks(line) : std::string_view(line.data(), line.size());
     }
 
 private:
@@ -63,6 +65,7 @@ private:
     std::size_t m_start = 0;
     std::size_t m_lineFeed = unknown;
     std::size_t m_return = unknown;
+    std::size_t m_blank = unknown;
 };
 
 } // namespace
@@ -83,7 +86,7 @@ void readInstructions(Drawing& drawing, std::string bytes, std::string_view file
     LineSplitter lines(bytes);
     for (long number = 1; !lines.atEnd(); ++number) {
         try {
-            performLine(plotter, trimmed(lines.next()));
+            performLine(plotter, lines.next());
         } catch (const RunTimeError& error) {
             throw FileError(std::string(fileName), error.what(), number);
         }
@@ -98,7 +101,7 @@ bool isPlainDrawing(std::string bytes) {
     LineSplitter lines(bytes);
     try {
         while (!lines.atEnd() && plotter.reading().isPlain)
-            performLine(plotter, trimmed(lines.next()));
+            performLine(plotter, lines.next());
     } catch (const RunTimeError&) {
         return false;
     }

@@ -192,5 +192,33 @@ TEST(CommandLine, NumbersRunFrom1To9999AndAgain) {
     EXPECT_TRUE(sink.bytes() == expected);
 }
 
+// Most of them stand in the file as they stand in memory, with numbers of four digits.
+TEST(BlockLines, AreWrittenWithTheNumbersThatFollow) {
+    constexpr std::uint32_t lines = 12345;
+    constexpr std::uint32_t few = 7;
+    StringSink sink;
+    ProgramOutput output(sink);
+    BlockLines blocks;
+    for (std::uint32_t i = 0; i < lines; ++i)
+        blocks.append("G1 X" + std::to_string(i) + " F1\r\n");
+    int written = 0;
+    std::string expected;
+    const auto pass = [&](std::uint32_t first, std::uint32_t last, const std::string& feed) {
+        output.writeBlocks(blocks, first, last);
+        for (std::uint32_t i = first; i < last; ++i)
+            expected += "N" + std::to_string(written++ % 9999 + 1) + " G1 X" + std::to_string(i) +
+                        feed + "\r\n";
+        output.CommandLine("M1");
+        expected += "N" + std::to_string(written++ % 9999 + 1) + " M1\r\n";
+    };
+    pass(0, lines, " F1");
+    pass(few, 2 * few, " F1");
+    pass(few, lines, " F1");
+    blocks.changeEnds(" F1\r\n", " F1000\r\n");
+    pass(0, lines, " F1000");
+    output.flush();
+    EXPECT_TRUE(sink.bytes() == expected);
+}
+
 } // namespace
 } // namespace torvik
