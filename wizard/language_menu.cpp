@@ -41,7 +41,7 @@ void addLanguages(QMenu& menu, StdMessageBox& messages) {
     }
     QObject::connect(
         group, &QActionGroup::triggered, &menu,
-        [&messages, group, saved = group->checkedAction()](QAction* chosen) mutable {
+        [&messages, saved = group->checkedAction()](QAction* chosen) mutable {
             if (saveOwnSetting(languageKey, chosen->data())) {
                 saved = chosen;
                 return;

@@ -53,7 +53,8 @@ public:
 
 class Desk {
 public:
-    Desk(fs::path samples, const fs::path& work) : m_samples(std::move(samples)), m_work(work) {}
+    Desk(fs::path samples, fs::path work)
+        : m_samples(std::move(samples)), m_work(std::move(work)) {}
 
     // The program as it is started, on a drawing that has all its answers.
     void open(const char* drive = "disk") {

@@ -9,12 +9,12 @@ from collections import Counter
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-from saves import CONSOLE_SAVES, DESKTOP_SAVES, Fault, Place, files_in
+from saves import CONSOLE_SAVES, DESKTOP_SAVES, WORKERS, Fault, Place, files_in
 
 CALLS = ('open', 'write', 'sync', 'rename', 'link', 'close', 'stat')
 ERRORS = ('EIO', 'ENOSPC', 'EACCES', 'EROFS', 'EDQUOT', 'EBUSY', 'EINTR')
 SURVIVED = ('EINTR', 'half')  # what a save may get over
-MOST = {'fast': 24, 'all': 600}  # points of a save
+MOST = {'fast': 24, 'all': 330}  # points of a save
 LEAST = {'fast': 24, 'all': 300}
 
 
@@ -69,7 +69,7 @@ def saved_without_fault(save, place):
 
 
 def run_save(save, build, work, seed, how):
-    places = [Place(work / f'{save.name.replace(" ", "-")}-{i}', build) for i in range(2)]
+    places = [Place(work / f'{save.name.replace(" ", "-")}-{i}', build) for i in range(WORKERS)]
     fresh, calls = zip(*(saved_without_fault(save, place) for place in places))
     calls = calls[0]
     if save.durable:
@@ -82,7 +82,7 @@ def run_save(save, build, work, seed, how):
 
     def work_on(i):
         made = 0
-        for order, error in found[i::2]:
+        for order, error in found[i::WORKERS]:
             code, told = save.save(places[i], order)
             if any(line.startswith('!') for line in places[i].calls()):
                 check(f'{save.name}: {order}', error, code, told, save.old, fresh[i],
@@ -90,8 +90,8 @@ def run_save(save, build, work, seed, how):
                 made += 1
         return made
 
-    with ThreadPoolExecutor(2) as pool:
-        made = sum(pool.map(work_on, range(2)))
+    with ThreadPoolExecutor(WORKERS) as pool:
+        made = sum(pool.map(work_on, range(WORKERS)))
     save.end()
     if made < LEAST[how]:
         raise Fault(f'{save.name}: only {made} faults were made')

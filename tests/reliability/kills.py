@@ -11,7 +11,7 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-from saves import CONSOLE_SAVES, DESKTOP_SAVES, Fault, Place, files_in
+from saves import CONSOLE_SAVES, DESKTOP_SAVES, WORKERS, Fault, Place, files_in
 
 KILLS = {'fast': (60, 20), 'all': (2000, 300)}  # of console programs, of the desktop program
 COPIES = 8
@@ -43,10 +43,10 @@ def kill_one(save, place, order, fresh):
 
 
 def run_kills(saves, build, work, seed, count):
-    places = [[Place(work / f'kills-{save.word}-{i}', build) for save in saves] for i in range(2)]
+    places = [[Place(work / f'kills-{save.word}-{i}', build) for save in saves] for i in range(WORKERS)]
     fresh, moments = {}, []
     for number, save in enumerate(saves):
-        for i in range(2):
+        for i in range(WORKERS):
             place = places[i][number]
             for disk in ('tmp', 'plain'):
                 code, told = save.save(place, f'any 0 once {disk} usual')
@@ -60,10 +60,10 @@ def run_kills(saves, build, work, seed, count):
 
     def work_on(i):
         return sum(kill_one(saves[number], places[i][number], order, fresh[i, number])
-                   for number, order in chosen[i::2])
+                   for number, order in chosen[i::WORKERS])
 
-    with ThreadPoolExecutor(2) as pool:
-        made = sum(pool.map(work_on, range(2)))
+    with ThreadPoolExecutor(WORKERS) as pool:
+        made = sum(pool.map(work_on, range(WORKERS)))
     for save in saves:
         save.end()
     if made < count * 0.9:

@@ -3,7 +3,7 @@
 gone, a drawing that was changed or removed since it was opened, and locks of programs that have died,
 run, hang, or stand on another machine. The files are old or new, the user is told, nothing takes two
 seconds. Where the system lets nobody make a disk, it says so and leaves those cases out.
-usage: places.py BUILD WORK"""
+usage: places.py BUILD WORK [SEED fast|all]      (all of it in any case)"""
 
 import fcntl
 import os

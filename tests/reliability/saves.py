@@ -11,6 +11,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 SAMPLES = ROOT / 'samples'
+WORKERS = 2 * len(os.sched_getaffinity(0))  # a save waits for the disk, too
 HOOK = {'ASAN_OPTIONS': 'verify_asan_link_order=0:detect_leaks=0', 'QT_QPA_PLATFORM': 'offscreen',
         'LC_ALL': 'C.UTF-8', 'QT_HASH_SEED': '0'}  # the same fonts in the same order in a PDF
 

@@ -70,6 +70,19 @@ QString nextKey() {
     return QString::number(std::chrono::nanoseconds(now).count()).rightJustified(digits, u'0');
 }
 
+// QSettings tells a failure of any of its steps, also where it has saved all the same.
+bool isSaved(const QString& file, const std::vector<std::pair<std::string, std::string>>& entries) {
+    try {
+        IniText expected(settingsText(pathFromUtf8(file.toStdString())), settingsSection);
+        const std::string found = expected.text();
+        for (const auto& [name, value] : entries)
+            expected.setValue(name, value);
+        return expected.text() == found;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
 } // namespace
 
 bool saveSettings(const QString& file,
@@ -78,15 +91,16 @@ bool saveSettings(const QString& file,
     for (const auto& [name, value] : entries)
         list << bytesOf(name) << bytesOf(value);
     QSettings settings(file, settingsFormat());
-    if (!settings.isWritable())
+    if (settings.status() != QSettings::NoError || !settings.isWritable())
         return false;
     const QString key = nextKey();
     settings.setValue(key, QVariant::fromValue(list));
     settings.sync();
     if (settings.status() == QSettings::NoError)
         return true;
+    const bool saved = isSaved(file, entries);
     settings.remove(key); // or the next QSettings would write it
-    return false;
+    return saved;
 }
 
 } // namespace torvik
