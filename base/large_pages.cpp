@@ -2,7 +2,7 @@
 #include "base/large_pages.h"
 
 #include <cstdint>
-#include <cstdlib>
+#include <memory>
 
 #ifdef __linux__
 #include <sys/mman.h>
@@ -41,12 +41,9 @@ void takeHeapInLargePages() {
     constexpr std::size_t askedFor = 256 * 1024;
     constexpr std::size_t beforeBorder = askedFor + 2 * 4096;
     const std::size_t unused = (bytesToNextPage(sbrk(0)) + pageBytes - beforeBorder) % pageBytes;
-    if (sbrk(static_cast<std::intptr_t>(unused)) == reinterpret_cast<void*>(-1))
-        return;
-    static void* const neverUsed = std::malloc(askedFor);
-    if (neverUsed != nullptr)
-        madvise(static_cast<char*>(neverUsed) + bytesToNextPage(neverUsed), heapBytes,
-                MADV_HUGEPAGE);
+    sbrk(static_cast<std::intptr_t>(unused)); // a refusal changes nothing
+    static const auto neverUsed = std::make_unique_for_overwrite<char[]>(askedFor);
+    madvise(neverUsed.get() + bytesToNextPage(neverUsed.get()), heapBytes, MADV_HUGEPAGE);
 #endif
 }
 

@@ -66,7 +66,7 @@ void ProgramOutput::writeBlocks(BlockLines& lines, std::uint32_t first, std::uin
         const auto untilLast = static_cast<std::uint32_t>(lastBlockNumber - next + 1);
         const std::uint32_t stop = first + std::min(end - first, untilLast);
         pass(lines.blocks(first, stop, next));
-        m_gintLineNumber = static_cast<std::int16_t>(next + (stop - first) - 1);
+        m_gintLineNumber = static_cast<std::int16_t>(next + static_cast<int>(stop - first) - 1);
         first = stop;
     }
 }
