@@ -126,30 +126,6 @@ TEST(SettingsFile, LosesNoValueAndNoToolOfTwoProgramsThatWriteAtOnce) {
         EXPECT_NE(intToolGetId(tools, number), 0) << number;
 }
 
-TEST(SettingsFile, WaitsForAFewSavesOnlyOfAProgramThatSavesAllTheTime) {
-    const TemporaryFolder folder;
-    const auto file = folder.path() / "Maskor.ini";
-    const pid_t busy = startProgram([&] {
-        SettingsFileRegistry registry(file);
-        for (int i = 1;; ++i) {
-            Registry::Batch together(registry);
-            registry.RegistryValuePut("Theirs", std::to_string(i));
-            together.save();
-        }
-    });
-    SettingsFileRegistry registry(file);
-    const auto theirs = [&] { return std::stoi(registry.strRegistryValueGet("Theirs", "0")); };
-    while (theirs() == 0) {
-    }
-    constexpr int saves = 20;
-    const int before = theirs();
-    for (int i = 0; i < saves; ++i)
-        EXPECT_TRUE(registry.RegistryValuePut("Ours", std::to_string(i)));
-    EXPECT_LT(theirs() - before, 5 * saves);
-    kill(busy, SIGKILL);
-    EXPECT_FALSE(endsWell(busy));
-}
-
 TEST(SettingsFile, ForgetsASaveThatFailedButForThisProgram) {
     const std::string filler = ";" + std::string(4000, 'x') + "\n";
     const std::string newer = "[Maskor]\nA=newer\n" + filler;
