@@ -10,7 +10,6 @@
 #include <QtCore/QLockFile>
 #include <QtCore/QSysInfo>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <functional>
@@ -125,32 +124,6 @@ TEST(SettingsFile, LosesNoValueAndNoToolOfTwoProgramsThatWriteAtOnce) {
     EXPECT_EQ(tools.gintToolCount, 18);
     for (std::int16_t number = 1; number <= 18; ++number)
         EXPECT_NE(intToolGetId(tools, number), 0) << number;
-}
-
-TEST(SettingsFile, WaitsNoMoreThanAMomentForAProgramThatSavesAllTheTime) {
-    const TemporaryFolder folder;
-    const auto file = folder.path() / "Maskor.ini";
-    const auto end = Clock::now() + 4s;
-    const pid_t busy = startProgram([&] {
-        SettingsFileRegistry registry(file);
-        for (int i = 0; Clock::now() < end; ++i) {
-            Registry::Batch together(registry);
-            registry.RegistryValuePut("Theirs", std::to_string(i));
-            together.save();
-        }
-    });
-    SettingsFileRegistry registry(file);
-    while (registry.strRegistryValueGet("Theirs", "").empty()) {
-    }
-    Clock::duration longest{};
-    for (int i = 0; i < 20; ++i) {
-        const auto start = Clock::now();
-        EXPECT_TRUE(registry.RegistryValuePut("Ours", std::to_string(i)));
-        longest = std::max(longest, Clock::now() - start);
-    }
-    EXPECT_LT(longest, 1s);
-    EXPECT_LT(Clock::now(), end) << "the other one does not save any more";
-    EXPECT_TRUE(endsWell(busy));
 }
 
 TEST(SettingsFile, ForgetsASaveThatFailedButForThisProgram) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/output/drive_a.h"
 
+#include "base/errors.h"
 #include "base/files.h"
+#include "base/whole_file.h"
 #include "tools/registry.h"
 
 #include <QFileInfo>
 #include <QStorageInfo>
-#include <QTemporaryFile>
 
 namespace torvik {
 namespace {
@@ -37,9 +38,14 @@ bool isDriveReady(const std::filesystem::path& folder) {
     // A diskette that is write-protected is told of when the program is written.
     return QStorageInfo(name).isReady();
 #else
-    // Rights alone do not tell: the disk may be write-protected. The file goes with its object.
-    QTemporaryFile probe(name + QStringLiteral("/torvik.XXXXXX"));
-    return probe.open();
+    // Rights alone do not tell: the disk may be write-protected. The file goes with its object, or,
+    // where the program is killed just then, with a later save.
+    try {
+        const WholeFile probe(folder / ".torvik-probe");
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
 #endif
 }
 
