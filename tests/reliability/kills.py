@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Kills the programs at random moments of their saves: the files are old or new, what is left beside
-them has a telling name, and a save of a window that comes after it is as good as
-any, seconds later at most. Then copies
+them has a telling name, and a save of a window that comes after it is as good as any. Then copies
 change the tools and settings of one file at the same time: no change is lost.
 usage: kills.py BUILD WORK SEED fast|all"""
 
@@ -9,7 +8,6 @@ import random
 import re
 import subprocess
 import sys
-import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -20,7 +18,6 @@ COPIES = 8
 CHANGES = {'fast': 15, 'all': 1000}
 LONGEST = 2000  # ms
 KEPT = 10  # tools of each copy that are there at the end
-LOCK_AGE = 4.5  # seconds
 LEFT_OVER = re.compile(r'(.*/)?\.torvik-.*|.*\.ini(\.[A-Za-z]{6}|\.lock|\.batch\.lock|\.lock\.rmlock)')
 
 
@@ -39,9 +36,6 @@ def kill_one(save, place, order, fresh):
         raise Fault(f'{save.name}: {order}: a file is gone: {sorted(left)}')
     if save in DESKTOP_SAVES:
         code, told = save.save(place, 'any 0 once tmp usual', lambda: place.put(left))
-        if code == 1 and told.strip():  # a lock without its owner's name is left over when it is old
-            code, told = save.save(place, 'any 0 once tmp usual',
-                                   lambda: (place.put(left), time.sleep(LOCK_AGE)))
         again = files_in(place.disk)
         if code != 0 or any(again[name] != content for name, content in fresh.items()):
             raise Fault(f'{save.name}: {order}: not saved after it ({code}): {told}')
