@@ -18,7 +18,8 @@ from faults import check
 from saves import CONSOLE_SAVES, DESKTOP_SAVES, Fault, Place, files_in
 
 USUAL = 'any 0 once tmp usual'
-LONGEST = 2.0  # seconds
+# Seconds; a sample runs where others may keep the disk busy.
+LONGEST = 2.0 if sys.argv[4:] == ['all'] else 6.0
 PAGE = 4096
 WORKERS = 3  # most of the time is spent waiting for locks
 FREE = (0, 1, 2, 3, 5, 9)  # pages that are left on a full disk
@@ -122,7 +123,7 @@ def locks(save, place, fresh, names, sleeper):
         for what, content in owners.items():
             saved = try_save(save, place, f'a lock {what}', fresh, lambda: lock.write_text(content),
                              [name])
-            if not saved and what == 'of a program that died':
+            if not saved and what in ('of a program that died', 'that is empty'):
                 raise Fault(f'{save.name}: held up by {name} {what}')
             made += 1
         try_save(save, place, 'a lock that nobody can read', fresh, lock.mkdir)

@@ -13,6 +13,9 @@ using namespace std::chrono_literals;
 constexpr auto longestWait = 1600ms;
 constexpr unsigned long pollMilliseconds = 20;
 
+// Between the making of a lock and the writing of its owner's name.
+constexpr auto longestNameless = 200ms;
+
 } // namespace
 
 QString settingsLockName(const QString& settingsFile) {
@@ -24,9 +27,14 @@ QDeadlineTimer settingsDeadline() {
 }
 
 bool takeSettingsLock(QLockFile& lock, const QDeadlineTimer& deadline) {
+    QDeadlineTimer nameless(longestNameless);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
             return false;
+        if (const QFileInfo file(lock.fileName()); !file.isFile() || file.size() > 0)
+            nameless.setRemainingTime(longestNameless);
+        else if (nameless.hasExpired())
+            lock.removeStaleLockFile();
         QThread::msleep(pollMilliseconds);
     }
     return true;

@@ -20,7 +20,8 @@ inline constexpr std::chrono::milliseconds settingsStaleAge{1200};
 // For all waits of one save together.
 QDeadlineTimer settingsDeadline();
 
-// Waits for the lock; one that is left over is removed. False where it cannot be had.
+// Waits for the lock; one that is left over is removed, and one whose maker died before it wrote
+// its name. False where it cannot be had.
 bool takeSettingsLock(QLockFile& lock, const QDeadlineTimer& deadline);
 
 // Whether a QSettings of this file can save now: its lock can be taken, and goes again. Programs of

@@ -7,10 +7,15 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QThread>
 
+#include <array>
+
 namespace torvik {
 namespace {
 
 constexpr unsigned long turnPoll = 1;
+
+// As many copies as these wait in the order in which they came; more wait outside, in no order.
+constexpr int doors = 12;
 
 // The same for all names that lead to the folder.
 std::string turnName(const QString& settingsFile) {
@@ -37,11 +42,15 @@ bool SettingsTurn::take(const QDeadlineTimer& deadline) {
     if (folder.empty())
         return true;
     const std::string name = turnName(m_settings);
-    // One at a time stands at the door and waits for the turn: who ends a turn cannot take the next
-    // one before the one at the door has it.
-    ProcessLock door;
-    return waitFor(door, folder / (name + ".door"), deadline) &&
-           waitFor(m_turn, folder / (name + ".turn"), deadline);
+    // One behind the other at the doors of a corridor: who goes through one leaves the one before
+    // to the next, so nobody is overtaken, and who ends a turn begins at the first door again.
+    std::array<ProcessLock, 2> door;
+    for (int i = 0; i < doors; ++i) {
+        if (!waitFor(door[i % 2U], folder / (name + ".door" + std::to_string(i)), deadline))
+            return false;
+        door[(i + 1U) % 2U].release();
+    }
+    return waitFor(m_turn, folder / (name + ".turn"), deadline);
 }
 
 } // namespace torvik

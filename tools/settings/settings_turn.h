@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The turn of one program among those of this user and machine that save the same settings file.
-// The lock files of the settings know no queue, so who waits for them may wait for ever; here the
-// one that waits longest is not always the next, but who has just had its turn waits as the others
-// do. It ends with the program. Where the machine has no place for it, nobody waits for it.
+// The lock files of the settings know no queue, so who waits for them may wait for ever; here it is
+// first come, first served. A turn ends with its program. Where the machine has no place for it,
+// nobody waits for it.
 #pragma once
 
 #include "base/process_lock.h"
