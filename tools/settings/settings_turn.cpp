@@ -15,7 +15,7 @@ namespace {
 constexpr unsigned long turnPoll = 1;
 
 // As many copies as these wait in the order in which they came; more wait outside, in no order.
-constexpr int doors = 12;
+constexpr std::size_t doors = 12;
 
 // The same for all names that lead to the folder.
 std::string turnName(const QString& settingsFile) {
@@ -45,10 +45,10 @@ bool SettingsTurn::take(const QDeadlineTimer& deadline) {
     // One behind the other at the doors of a corridor: who goes through one leaves the one before
     // to the next, so nobody is overtaken, and who ends a turn begins at the first door again.
     std::array<ProcessLock, 2> door;
-    for (int i = 0; i < doors; ++i) {
-        if (!waitFor(door[i % 2U], folder / (name + ".door" + std::to_string(i)), deadline))
+    for (std::size_t i = 0; i < doors; ++i) {
+        if (!waitFor(door[i % 2], folder / (name + ".door" + std::to_string(i)), deadline))
             return false;
-        door[(i + 1U) % 2U].release();
+        door[(i + 1) % 2].release();
     }
     return waitFor(m_turn, folder / (name + ".turn"), deadline);
 }
