@@ -1142,6 +1142,10 @@ Bei Nein gehen die Angaben von damals verloren.</translation>
         <translation>Einrichteblatt %1</translation>
     </message>
     <message>
+        <source>Kestra files</source>
+        <translation>Kestra-Dateien</translation>
+    </message>
+    <message>
         <source>Largest bulge of an arc over its chords</source>
         <translation>Größte Wölbung eines Bogens über seinen Sehnen</translation>
     </message>
@@ -1224,6 +1228,10 @@ Bei Nein gehen die Angaben von damals verloren.</translation>
     <message>
         <source>Make no job sheet</source>
         <translation>Kein Einrichteblatt erstellen</translation>
+    </message>
+    <message>
+        <source>Maskor files</source>
+        <translation>Maskor-Dateien</translation>
     </message>
     <message>
         <source>Material</source>
@@ -1662,6 +1670,14 @@ Sie zeigt Zeichnung, Werkstück, Rohteil, Reihenfolge, Werkzeuge und was die Pr�
     <message>
         <source>Select the Tool for the %1</source>
         <translation>Werkzeug wählen: %1</translation>
+    </message>
+    <message>
+        <source>Select the destination Kestra file</source>
+        <translation>Kestra-Datei speichern</translation>
+    </message>
+    <message>
+        <source>Select the destination Maskor file</source>
+        <translation>Maskor-Datei speichern</translation>
     </message>
     <message>
         <source>Select the drawing to prepare</source>

@@ -13,6 +13,7 @@ from xml.sax.saxutils import escape
 PLAIN = {
     "job/pens.cpp": r'\{"([A-Z][a-z ]+)", 0x',
     "check/kinds.cpp": r'Level::\w+,\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}',
+    "gcode/dialects.cpp": r'\.save(?:Title|Kind) = ("(?:[^"\\]|\\.)*")',
     "languages/plain_patterns.h": r'^    ("(?:[^"\\]|\\.)*"),$',
 }
 

@@ -6,6 +6,7 @@
 #include "base/std_message_box.h"
 #include "forms/file_choice.h"
 #include "gcode/dialects.h"
+#include "languages/shown_text.h"
 #include "tools/registry.h"
 
 #include <QCoreApplication>
@@ -111,9 +112,9 @@ std::filesystem::path strGetOutputFile(Registry& registry, StdMessageBox& messag
                                        const std::string& proposedName, const Dialect& dialect,
                                        const std::filesystem::path& drawing, QWidget* parent) {
     const QString extension = fromView(dialect.extension);
-    QFileDialog dialog(parent, fromView(dialect.saveTitle),
+    QFileDialog dialog(parent, shownText(dialect.saveTitle),
                        startFolder(registry, dialect.folderSetting, folderOf(drawing)),
-                       fileFilter(fromView(dialect.saveKind), {extension}));
+                       fileFilter(shownText(dialect.saveKind), {extension}));
     dialog.setObjectName(QStringLiteral("dlgSave"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
