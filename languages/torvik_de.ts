@@ -3091,7 +3091,7 @@ Möchten Sie dieses Werkzeug wirklich verwenden?</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>keines</translation>
+        <translation>keine Angabe</translation>
     </message>
     <message>
         <source>none is selected; everything is drawn by pen 1</source>
