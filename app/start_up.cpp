@@ -24,7 +24,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLoggingCategory>
 
 #include <memory>
 
@@ -55,8 +54,6 @@ bool guardInstance(SingleInstance& instance, const QString& drawing, StdMessageB
 int runDesktop(const QString& drawing) {
     QApplication::setStyle(new ReadableStyle);
     QApplication::setWindowIcon(programIcon());
-    // What the renderer of pictures passes over is counted and said in the report.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     speak(spokenLanguage(ownSettings()->value(languageKey).toString(),
                          QLocale::system().uiLanguages()));
     KeyGuard keyGuard;

@@ -5,7 +5,6 @@
 #include "prepare/command/preparer.h"
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 #include <iostream>
 
@@ -15,7 +14,5 @@ int main(int argc, char** argv) {
     torvik::tidyUpWhenStopped();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("torvik-prepare"));
-    // What the renderer passes over is counted and said in the report.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=false"));
     return torvik::runPreparer(QCoreApplication::arguments(), std::cout, std::cerr);
 }
