@@ -46,9 +46,7 @@ std::string_view trimBlanks(std::string_view text) {
 
 std::string lowered(std::string_view text) {
     std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
+    std::transform(result.begin(), result.end(), result.begin(), toSmall);
     return result;
 }
 

@@ -10,6 +10,10 @@ namespace torvik {
 // Without the blanks (U+0020 only) at both ends.
 std::string_view trimBlanks(std::string_view text);
 
+inline char toSmall(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 // With the small letters of ASCII in place of the capital ones.
 std::string lowered(std::string_view text);
 

@@ -23,10 +23,6 @@ std::optional<char32_t> numberAt(std::string_view text, std::size_t digits, int 
     return number;
 }
 
-char toSmall(char c) {
-    return lowered({&c, 1}).front();
-}
-
 // Reads both kinds of text; the formats only where there can be any.
 class TextDecoder {
 public:

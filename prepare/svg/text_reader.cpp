@@ -2,6 +2,7 @@
 #include "prepare/svg/text_reader.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 #include "job/characters.h"
 
 #include <algorithm>
@@ -13,10 +14,6 @@ namespace {
 bool isNamed(char c) {
     return isLetter(c) || isDigit(c) || c == '-' || c == '_' ||
            static_cast<unsigned char>(c) >= 0x80;
-}
-
-char toSmall(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 } // namespace
