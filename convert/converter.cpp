@@ -95,16 +95,17 @@ private:
         const ProgramSize size = requireWritable(job, drawing);
 
         const auto output = m_options.outputPath(i);
-        refuseOverwritingInput(output, job);
-        if (m_options.dialect->needsNumber())
-            refuseOverwritingInput(sideTextPath(output), job);
+        const auto files = filesOf(*m_options.dialect, output);
+        for (const auto& file : files)
+            refuseOverwritingInput(file, job);
         if (m_options.outputFolder)
             makeFolder(*m_options.outputFolder);
         if (!writeProgramFiles(job, tools, *m_options.dialect, m_options.outputNumber(i), output,
                                overwriting(), m_reader.logger(), checkFor(job, output, size).get()))
             throw Failure{ExitCode::job, utf8FromPath(drawing) + ": " + m_reader.takeLastReport()};
         if (m_options.sync)
-            makeProgramDurable(output);
+            for (const auto& file : files)
+                makeDurable(file);
         for (std::string& warning : commentWarnings(job, tools, *m_options.dialect))
             m_reader.report(std::move(warning));
         if (m_options.quiet)
@@ -112,12 +113,6 @@ private:
         if (size.isLong())
             m_reader.report(longText(size));
         m_out << utf8FromPath(drawing) << " -> " << utf8FromPath(output) << std::endl;
-    }
-
-    void makeProgramDurable(const std::filesystem::path& output) const {
-        makeDurable(output);
-        if (m_options.dialect->needsNumber())
-            makeDurable(sideTextPath(output));
     }
 
     // A file that no control can take is not begun.

@@ -93,6 +93,13 @@ std::filesystem::path sideTextPath(const std::filesystem::path& program) {
     return path += ".txt";
 }
 
+std::vector<std::filesystem::path> filesOf(const Dialect& dialect,
+                                           const std::filesystem::path& program) {
+    if (!dialect.needsNumber())
+        return {program};
+    return {program, sideTextPath(program)};
+}
+
 bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
                   const std::filesystem::path& file, WholeFile& program, Logger& logger) {
     if (!dialect.needsNumber()) {

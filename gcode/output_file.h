@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace torvik {
 
@@ -59,6 +60,10 @@ bool storeProgram(const Job& job, const ToolList& tools, const Dialect& dialect,
 
 // The program's name with ".txt" behind it.
 std::filesystem::path sideTextPath(const std::filesystem::path& program);
+
+// What a program is stored in: its own file, and that of the text where its target has one.
+std::vector<std::filesystem::path> filesOf(const Dialect& dialect,
+                                           const std::filesystem::path& program);
 
 // The name that the target proposes for a drawing: its diskette name with the number, or the
 // drawing's name, without folder, with its last three characters replaced.

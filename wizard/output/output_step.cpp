@@ -186,8 +186,8 @@ AfterOutput OutputStep::WriteFile(std::int16_t target, std::int16_t number) {
                          m_workshop.logger))
             m_answersKept();
         m_workshop.job.output.gblnUnsaved = false;
-        after = dialect.needsNumber() ? showMenu("a:\\" + proposed, {file, sideTextPath(file)})
-                                      : showMenu(utf8FromPath(file), {file});
+        after = showMenu(dialect.needsNumber() ? "a:\\" + proposed : utf8FromPath(file),
+                         filesOf(dialect, file));
     });
     return after;
 }
