@@ -12,11 +12,20 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <string_view>
 
 namespace torvik {
 
 // Inputs above this only repeat what smaller ones do.
 constexpr std::size_t largestInput = std::size_t{64} << 10;
+
+// The first byte of an input chooses the options, the others are the file.
+inline int runWithChoice(const std::uint8_t* data, std::size_t size,
+                         void (*run)(std::uint8_t choice, std::string_view bytes)) {
+    if (size > 0 && size <= largestInput)
+        run(data[0], {reinterpret_cast<const char*>(data) + 1, size - 1});
+    return 0;
+}
 
 inline bool isFinite(Point point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
@@ -61,14 +70,20 @@ inline bool isNear(const StrokeExtents& extents, double unit) {
            extents.high.x * unit < near && extents.high.y * unit < near;
 }
 
-inline void prepareAndCheck(const SourceDrawing& source, const PrepareOptions& options) {
+// `checkMore` is for what else must hold of what is written for a source of common size.
+inline void prepareAndCheck(const SourceDrawing& source, const PrepareOptions& options,
+                            void (*checkMore)(const PreparedDrawing& prepared,
+                                              const PrepareOptions& options) = nullptr) {
     try {
         const PreparedDrawing prepared = prepareDrawing(source, options);
         holds(prepared.report.fit.largestDeviation <= options.tolerance * plotterUnitsPerMm,
               "own points keep to the tolerance");
         holds(!reportText("source", prepared.report).empty(), "there is a report");
-        holds(!isNear(prepared.report.extents, 1) || isPlainDrawing(prepared.text),
-              "what is written is read as it is written");
+        if (!isNear(prepared.report.extents, 1))
+            return;
+        holds(isPlainDrawing(prepared.text), "what is written is read as it is written");
+        if (checkMore != nullptr)
+            checkMore(prepared, options);
     } catch (const Misread&) {
         holds(!isNear(extentsOf(source.strokes), 1 / plotterUnitsPerMm),
               "what is written for a source of common size is read back as it was meant");

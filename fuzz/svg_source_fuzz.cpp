@@ -30,8 +30,5 @@ void run(std::uint8_t choice, std::string_view bytes) {
 } // namespace torvik
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size == 0 || size > torvik::largestInput)
-        return 0;
-    torvik::run(data[0], {reinterpret_cast<const char*>(data) + 1, size - 1});
-    return 0;
+    return torvik::runWithChoice(data, size, torvik::run);
 }
