@@ -11,7 +11,7 @@ readonly package=$1
 work=$(mktemp -d)
 readonly work
 trap 'rm -rf "$work"' EXIT
-readonly share=$work/root/usr/share
+readonly share=$work/unpacked/usr/share
 
 fail() {
   printf 'FAILED: %s\n' "$*" >&2
@@ -57,7 +57,7 @@ kindsOfFiles() {
 manualPages() {
   step "the manual pages"
   local program page
-  for program in "$work"/root/usr/bin/*; do
+  for program in "$work"/unpacked/usr/bin/*; do
     page=$share/man/man1/${program##*/}.1.gz
     [[ -e $page ]] || fail "${program##*/} has no manual page"
     # as lintian reads it
@@ -106,7 +106,7 @@ completion() {
 
 documents() {
   step "the documents"
-  dpkg-deb --ctrl-tarfile "$package" | tar -xO ./md5sums | (cd "$work/root" && md5sum --quiet -c -)
+  dpkg-deb --ctrl-tarfile "$package" | tar -xO ./md5sums | (cd "$work/unpacked" && md5sum --quiet -c -)
   zcat "$share/doc/torvik/changelog.gz" | dpkg-parsechangelog -l- -S Version |
     grep -qx "$(dpkg-deb -f "$package" Version)" || fail "the changelog has another version"
   lintian --allow-root --tag-display-limit 0 "$package" >"$work/lintian" 2>&1 ||
@@ -114,9 +114,9 @@ documents() {
   cat "$work/lintian"
 }
 
-mkdir "$work/root"
-dpkg-deb -x "$package" "$work/root"
-"$(dirname "${BASH_SOURCE[0]}")/hardening_test.sh" "$work"/root/usr/bin/*
+mkdir "$work/unpacked"
+dpkg-deb -x "$package" "$work/unpacked"
+"$(dirname "${BASH_SOURCE[0]}")/hardening_test.sh" "$work"/unpacked/usr/bin/*
 menuAndSoftwareCentre
 kindsOfFiles
 manualPages
