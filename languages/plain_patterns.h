@@ -39,7 +39,7 @@ inline constexpr std::array<std::string_view, 149> plainPatterns{
     "{1} is missing",
     "{1} is too much",
     "{1} stands where {2} should be",
-    "\"{1}\" and \"{2}\"",
+    R"("{1}" and "{2}")",
     "none of the controls knows it",
     "lines follow behind it",
     "it ends here, but lines follow",

@@ -14,7 +14,7 @@ PLAIN = {
     "job/pens.cpp": r'\{"([A-Z][a-z ]+)", 0x',
     "check/kinds.cpp": r'Level::\w+,\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}',
     "gcode/dialects.cpp": r'\.save(?:Title|Kind) = ("(?:[^"\\]|\\.)*")',
-    "languages/plain_patterns.h": r'^    ("(?:[^"\\]|\\.)*"),$',
+    "languages/plain_patterns.h": r'^    (R"\(.*\)"|"(?:[^"\\]|\\.)*"),$',
 }
 
 
@@ -26,6 +26,9 @@ def key_of(message):
 def plain_texts():
     for name, pattern in PLAIN.items():
         for found in re.findall(pattern, Path(name).read_text(), re.M):
+            if raw := re.fullmatch(r'R"\((.*)\)"', found):
+                yield raw[1], ""
+                continue
             parts = re.findall(r'"((?:[^"\\]|\\.)*)"', found) or [found]
             yield "".join(parts).replace('\\"', '"').replace("\\n", "\n"), ""
 
