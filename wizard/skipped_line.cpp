@@ -42,7 +42,6 @@ void SkippedLine::buildButton() {
     m_skipped->setMinimumWidth(1); // a long line does not widen the window
     m_skipped->setFocusPolicy(Qt::TabFocus);
     m_skipped->setCursor(Qt::PointingHandCursor);
-    m_skipped->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
     m_skipped->setToolTip(tr("Open the dialog with this drawing"));
     m_skipped->setProperty(helpContextProperty, helpPrepare);
     connect(m_skipped, &QPushButton::clicked, this,
@@ -82,6 +81,8 @@ void SkippedLine::PrepareDrawing(const std::filesystem::path& source) {
 }
 
 void SkippedLine::show(long instructions) {
+    if (m_skipped->icon().isNull() && instructions > 0) // looking it up would delay the start
+        m_skipped->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
     m_text =
         instructions == 1
             ? tr("1 instruction of this drawing is not read, so something may be missing. See "
