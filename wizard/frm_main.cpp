@@ -4,6 +4,7 @@
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "forms/help_key.h"
+#include "forms/large_letters.h"
 #include "forms/reading_order.h"
 #include "prepare/dialog/dragged_source.h"
 #include "preview/cut/cut_picture.h"
@@ -55,14 +56,15 @@ QPushButton* button(const QString& name, const QString& text, const QString& hel
     return result;
 }
 
-// One of 1024 by 768 on which all is shown twice as large; the window fits 800 by 600 anyway.
-bool isNarrowScreen() {
-    return QGuiApplication::primaryScreen()->availableSize().width() < 800 - roomForFrame.width();
+// The window fits 800 by 600 anyway.
+bool isNarrowScreen(const QWidget& window) {
+    return window.screen()->availableSize().width() < 800 - roomForFrame.width() ||
+           hasLargeLetters(window);
 }
 
 // Pixels; a page scrolls, and a picture may be small.
-int widestMinimum() {
-    return isNarrowScreen() ? 220 : 380;
+int widestMinimum(const QWidget& page) {
+    return isNarrowScreen(page) ? 220 : 380;
 }
 
 // Keeps the scroll bar's room free beside the page while it is hidden: nothing moves when it comes.
@@ -88,7 +90,7 @@ QScrollArea* scrolling(QWidget* page) {
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     keepRoomForBar(*area);
-    area->setMinimumWidth(std::min(widestMinimum(), page->minimumSizeHint().width()));
+    area->setMinimumWidth(std::min(widestMinimum(*page), page->minimumSizeHint().width()));
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget*, QWidget* now) {
         if (now != nullptr && area->widget()->isAncestorOf(now))
             area->ensureWidgetVisible(now);
@@ -161,8 +163,9 @@ void FrmMain::buildWindow() {
     m_controls.pictures = new QStackedWidget;
     m_controls.pictures->addWidget(m_controls.preview);
     m_controls.pictures->addWidget(piece);
-    if (isNarrowScreen())
-        m_controls.pictures->setMinimumSize(100, 100);
+    if (isNarrowScreen(*this))
+        m_controls.pictures->setMinimumSize(std::max(100, 10 * fontMetrics().averageCharWidth()),
+                                            100);
     auto* const split = new QSplitter(Qt::Horizontal);
     split->setObjectName(QStringLiteral("splMain"));
     split->addWidget(buildSide());

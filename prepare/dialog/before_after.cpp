@@ -3,6 +3,7 @@
 
 #include "base/picture.h"
 #include "forms/form_fields.h"
+#include "forms/large_letters.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -47,12 +48,13 @@ QString countText(const StrokePicture* picture) {
                : BeforeAfter::tr("%1, circles: %2").arg(elements).arg(picture->circles);
 }
 
-// Large, because a drawing in the wrong unit is a part of the wrong size.
+// Easily seen, because a drawing in the wrong unit is a part of the wrong size.
 QLabel* sizeLabel(const QString& name) {
     auto* const label = new QLabel;
     label->setObjectName(name);
     QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
+    if (!hasLargeLetters(*label))
+        font.setPointSizeF(font.pointSizeF() * 1.4);
     font.setBold(true);
     label->setFont(font);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -153,6 +155,8 @@ BeforeAfter::BeforeAfter(QWidget* parent)
     layout->setHorizontalSpacing(10);
     m_legend->setObjectName(QStringLiteral("lblLegend"));
     m_legend->setTextFormat(Qt::RichText);
+    for (QLabel* const label : {m_beforeCount, m_afterCount, m_legend})
+        label->setWordWrap(true);
     layout->addWidget(m_legend, 3, 0, 1, 2);
     layout->setRowStretch(1, 1);
     layout->setColumnStretch(0, 1);

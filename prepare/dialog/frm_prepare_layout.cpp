@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/help_key.h"
+#include "forms/large_letters.h"
 #include "forms/reading_order.h"
 #include "prepare/dialog/before_after.h"
 #include "prepare/dialog/frm_prepare.h"
@@ -78,7 +79,11 @@ FrmPrepare::FrmPrepare(PrepareSurroundings surroundings, QWidget* parent)
 
     auto* const middle = new QHBoxLayout;
     middle->addWidget(buildDrawings(), 1);
-    middle->addWidget(buildSide());
+    QWidget* const side = buildSide();
+    if (hasLargeLetters(*this))
+        m_details->addTab(side, m_options->title());
+    else
+        middle->addWidget(side);
     auto* const content = new QWidget;
     auto* const rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -101,11 +106,16 @@ QWidget* FrmPrepare::buildSourceRow() {
     m_sourceName = new QLabel;
     m_sourceName->setObjectName(QStringLiteral("lblSource"));
     auto* const row = new QWidget;
-    auto* const layout = new QHBoxLayout(row);
+    auto* const layout = new QBoxLayout(
+        hasLargeLetters(*this) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_open);
-    layout->addWidget(m_sourceName, 1);
-    addPresets(*layout);
+    auto* const source = new QHBoxLayout;
+    source->addWidget(m_open);
+    source->addWidget(m_sourceName, 1);
+    layout->addLayout(source, 1);
+    auto* const presets = new QHBoxLayout;
+    addPresets(*presets);
+    layout->addLayout(presets);
     return row;
 }
 
@@ -144,7 +154,7 @@ QWidget* FrmPrepare::buildDrawings() {
     split->setChildrenCollapsible(false);
     split->setStretchFactor(0, 1);
     split->setStretchFactor(1, 0);
-    split->setSizes({420, 180});
+    split->setSizes(hasLargeLetters(*this) ? QList{300, 300} : QList{420, 180});
     readInOrder(*split);
     return split;
 }

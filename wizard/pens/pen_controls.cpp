@@ -3,6 +3,7 @@
 
 #include "forms/form_fields.h"
 #include "forms/help_key.h"
+#include "forms/large_letters.h"
 #include "forms/number_box.h"
 #include "forms/quiet_line.h"
 #include "forms/spoken_role.h"
@@ -106,11 +107,13 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     setSpokenRole(*controls.diagram, QAccessible::Graphic);
     controls.diagram->setAccessibleName(tr("The work seen from the side"));
     controls.diagram->setToolTip(tr("What the details below are about, seen from the side"));
-    auto* row = new QHBoxLayout;
+    // Large letters leave no room for the picture beside the choice.
+    auto* row = new QBoxLayout(hasLargeLetters(page) ? QBoxLayout::TopToBottom
+                                                     : QBoxLayout::LeftToRight);
     row->setSpacing(12);
     row->addLayout(column, 1);
     row->setAlignment(column, Qt::AlignTop);
-    row->addWidget(controls.diagram, 0, Qt::AlignTop);
+    row->addWidget(controls.diagram, 0, Qt::AlignTop | Qt::AlignRight);
     layout.addLayout(row);
 }
 
@@ -147,7 +150,11 @@ void makeToolPanel(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.cmdTool->setToolTip(tr("Opens the tool list to choose the tool for this page"));
     controls.cmdTool->setAutoDefault(false);
     controls.cmdTool->setProperty(helpContextProperty, helpTools);
-    grid->addWidget(controls.cmdTool, 1, static_cast<int>(toolLabelTexts.size()));
+    constexpr int columns = static_cast<int>(toolLabelTexts.size());
+    if (hasLargeLetters(page)) // beside the labels it would make the page wider than it is shown
+        grid->addWidget(controls.cmdTool, 2, 0, 1, columns, Qt::AlignRight);
+    else
+        grid->addWidget(controls.cmdTool, 1, columns);
     layout.addWidget(controls.toolPanel);
     controls.toolNote = makeWrappedLabel(page, "lblToolNote");
     controls.toolNote->hide();
