@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Whether finished programs for Linux hold what cmake/Hardening.cmake asks for. What is in the code
-# itself is looked for in the code, as the linker of Debian 12 leaves no note of it.
+# itself is looked for in the code where the linker of Debian 12 leaves no note of it.
 # usage: hardening_test.sh PROGRAM...
 
 set -euo pipefail
@@ -44,5 +44,6 @@ for program in "$@"; do
   expect "$program" "no call checks its buffer" ' UND __[a-z]+_chk@' readelf --dyn-syms -W
   expect "$program" "large frames are not probed" '\bor[lq] +\$0x0,.*\(%rsp\)' \
     objdump -d --no-show-raw-insn
+  expect "$program" "it does not ask for a shadow stack" 'x86 feature:.* SHSTK' readelf -nW
   expect "$program" "places to jump to are not marked" '\bendbr64$' mainOf
 done
