@@ -108,8 +108,8 @@ void makeHead(PenControls& controls, QWidget& page, QVBoxLayout& layout) {
     controls.diagram->setAccessibleName(tr("The work seen from the side"));
     controls.diagram->setToolTip(tr("What the details below are about, seen from the side"));
     // Large letters leave no room for the picture beside the choice.
-    auto* row = new QBoxLayout(hasLargeLetters(page) ? QBoxLayout::TopToBottom
-                                                     : QBoxLayout::LeftToRight);
+    auto* row =
+        new QBoxLayout(hasLargeLetters(page) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     row->setSpacing(12);
     row->addLayout(column, 1);
     row->setAlignment(column, Qt::AlignTop);
