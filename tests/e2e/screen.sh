@@ -15,6 +15,7 @@ fail() {
     printf '%s\n' '--- on standard error:' >&2
     cat "$home/errors" >&2
   fi
+  [[ ! -s ${home:-}/openbox ]] || cat "$home/openbox" >&2
   if [[ -n ${DISPLAY:-} ]]; then
     printf '%s\n' '--- windows on the screen:' >&2
     xdotool search --onlyvisible --name '.' getwindowname %@ 2>/dev/null | sort -u >&2 || true
@@ -46,9 +47,16 @@ openScreen() {
   local number
   read -r -t "$patience" number <"$home/display" || fail "the screen does not start"
   export DISPLAY=:$number
-  openbox --sm-disable >"$home/openbox" 2>&1 &
-  manager=$!
-  until_ 'the window manager does not start' xdotool get_num_desktops 2>/dev/null
+  until_ 'the window manager does not start' isManaged
+}
+
+# On a busy machine a window manager may give up before it has begun; then it is started again.
+isManaged() {
+  [[ -n ${manager:-} ]] && kill -0 "$manager" 2>/dev/null || {
+    openbox --sm-disable >>"$home/openbox" 2>&1 &
+    manager=$!
+  }
+  xdotool get_num_desktops 2>/dev/null
 }
 
 closeScreen() {

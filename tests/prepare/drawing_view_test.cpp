@@ -110,17 +110,6 @@ TEST_F(ViewTest, DraggingMovesAndADoubleClickShowsAllAgain) {
     EXPECT_EQ(before.place(), fitted);
 }
 
-TEST_F(ViewTest, AllOfTheDrawingShowsWhereItsCountsMakeOneViewNarrow) {
-    views.setPictures(nullptr, nullptr);
-    views.resize(250, 460);
-    QCoreApplication::processEvents();
-    views.setPictures(sheet(), sheet());
-    QCoreApplication::processEvents();
-    EXPECT_NE(before.width(), after.width());
-    const QTransform shown = before.place().transform(before.size());
-    EXPECT_TRUE(QRectF(before.rect()).contains(shown.mapRect(QRectF(0, 0, 40, 30))));
-}
-
 TEST_F(ViewTest, TheDrawingCannotBeLostOutOfSight) {
     const ViewPlace fitted = before.place();
     for (int i = 0; i < 50; ++i)
