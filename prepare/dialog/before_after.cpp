@@ -213,8 +213,9 @@ void BeforeAfter::fit() {
     m_fitted = true;
     const double width = std::max(m_bounds.width(), leastSide);
     const double height = std::max(m_bounds.height(), leastSide);
-    const double across = std::max(m_before->width() - 2 * border, 1.0) / width;
-    const double down = std::max(m_before->height() - 2 * border, 1.0) / height;
+    const QSize room = m_before->size().boundedTo(m_after->size()); // a long count widens its view
+    const double across = std::max(room.width() - 2 * border, 1.0) / width;
+    const double down = std::max(room.height() - 2 * border, 1.0) / height;
     const ViewPlace place{std::min(across, down), m_bounds.center()};
     m_before->setPlace(place);
     m_after->setPlace(place);

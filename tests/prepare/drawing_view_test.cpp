@@ -110,6 +110,20 @@ TEST_F(ViewTest, DraggingMovesAndADoubleClickShowsAllAgain) {
     EXPECT_EQ(before.place(), fitted);
 }
 
+TEST_F(ViewTest, AllOfTheDrawingShowsWhereItsCountsMakeOneViewNarrow) {
+    QFont large = views.font(); // in which a word of a count and the button are wide
+    large.setPointSizeF(3 * large.pointSizeF());
+    views.setFont(large);
+    views.setPictures(nullptr, nullptr);
+    views.resize(250, 460);
+    QCoreApplication::processEvents();
+    views.setPictures(sheet(), sheet());
+    QCoreApplication::processEvents();
+    EXPECT_NE(before.width(), after.width());
+    const QTransform shown = before.place().transform(before.size());
+    EXPECT_TRUE(QRectF(before.rect()).contains(shown.mapRect(QRectF(0, 0, 40, 30))));
+}
+
 TEST_F(ViewTest, TheDrawingCannotBeLostOutOfSight) {
     const ViewPlace fitted = before.place();
     for (int i = 0; i < 50; ++i)
